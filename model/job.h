@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// Long jobs: staying out of each other's way, letting events through, stopping when asked.
+#pragma once
+
+#include "model/game.h"
+
+namespace tidewalk {
+
+/// True while a long job runs. The grids are the job's then: the board neither takes moves nor is drawn anew.
+inline bool JobRuns(const Game& game) { return game.BusyFlag == YesValue || game.jobRunning; }
+
+/// When a long job runs, says "Cancel Autosolve first" and returns true.
+bool RefuseWhileBusy(Game& game);
+
+/// Lets pending events happen if 20 ms have passed since that was last done, so that a loop may call it as often as it
+/// likes.
+void PollEvents(Game& game);
+
+/// A long job, from its start to its end. No second one can begin while it lives.
+///
+/// Some commands may replace the puzzle in the middle of a job (typing a puzzle number is one). The job is then
+/// superseded: what it worked on is gone, and it has to stop without touching what is there now.
+class Job {
+ public:
+    /// Sets `BusyFlag` and clears `CancelFlag`.
+    explicit Job(Game& game);
+    /// Clears `BusyFlag` and takes the progress display away.
+    ~Job();
+    Job(const Job&) = delete;
+    Job& operator=(const Job&) = delete;
+
+    bool Superseded() const { return game_.loadCount != game_.jobLoadCount; }
+
+    /// Takes the puzzle that is loaded now for the job's own, and holds `BusyFlag` again, which every load resets.
+    void Adopt();
+
+ private:
+    Game& game_;
+};
+
+/// True when the running job is to stop.
+inline bool CancelRequested(const Game& game) {
+    return game.CancelFlag == YesValue || game.ending || (game.jobRunning && game.loadCount != game.jobLoadCount);
+}
+
+/// Shows the busy pointer for as long as it lives.
+class BusyPointer {
+ public:
+    explicit BusyPointer(Game& game) : game_(game) { game_.window.SetPointer(Pointer::Busy); }
+    ~BusyPointer() { game_.window.SetPointer(Pointer::Default); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+ private:
+    Game& game_;
+};
+
+}  // namespace tidewalk

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// Reading one puzzle of a collection file: one record a line, "rows, columns, links;kind;grid".
+#pragma once
+
+#include <string>
+
+#include "model/game.h"
+
+namespace tidewalk {
+
+/// Counts the lines of the file at `path`, the last one without an end too. Closes all numbered files first and leaves
+/// them closed. A file that cannot be read counts 0.
+int CountLines(Game& game, const std::string& path);
+
+/// Makes line `number` of the collection at `path` the current puzzle and draws it. Returns 0.
+///
+/// On failure it says that the puzzle was not found and returns 1. `CollectionPath`, `PuzzleNumber` and `PuzzleCount`
+/// then stay, and file 1 is left as it is, open if it could be opened: until somebody closes it, the next load fails
+/// too. When the line could not be read the puzzle stays as it was; when its record is malformed the board is left
+/// partly reset.
+int LoadPuzzle(Game& game, const std::string& path, int number);
+
+}  // namespace tidewalk

@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// What the routines ask of the world around them. The windows implement these seams, and so do the tests' doubles.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/clock.h"
+#include "model/surface.h"
+
+namespace tidewalk {
+
+struct Game;
+
+enum class SystemButtons { Ok, YesNo };
+
+/// Messages and questions.
+class Prompts {
+ public:
+    virtual ~Prompts() = default;
+
+    /// Shows the program's own message box and returns the code of the button that ended it. `style` holds keywords
+    /// joined by "+", such as "vbYesNo+vbexit"; Yes is 6, Ok is 1.
+    virtual int Show(const std::string& text, std::string_view style) = 0;
+
+    /// Shows a plain box of the system. Returns 1 for Ok, 6 for Yes, 7 for No.
+    virtual int SystemBox(const std::string& text, SystemButtons buttons) = 0;
+};
+
+/// What the file-name picker is to ask.
+struct FileRequest {
+    enum class Mode { Open, Save };
+
+    std::string title;
+    std::string patterns;     ///< "*.tdw;*.txt;*.dat"
+    std::string patternName;  ///< "Tidewalk Files"
+    std::string startFolder;
+    Mode mode = Mode::Open;
+};
+
+/// Asks for a file name.
+class FilePicker {
+ public:
+    virtual ~FilePicker() = default;
+
+    /// The chosen path, or "" when the player thinks better of it. Never asks about overwriting.
+    virtual std::string Pick(const FileRequest& request) = 0;
+};
+
+/// The texts of the main window that routines write or read.
+enum class Control { pb, PuzNumNow, PuzNumber, Puzfile, GridSize };
+
+enum class Pointer { Default, Busy };
+
+/// The main window around the board.
+class MainWindow {
+ public:
+    virtual ~MainWindow() = default;
+
+    virtual std::string Text(Control control) const = 0;
+    virtual void SetText(Control control, const std::string& text) = 0;
+    virtual void SetToolTip(Control control, const std::string& text) = 0;
+    virtual void SetPointer(Pointer pointer) = 0;
+
+    /// Shows how far a long job is, `done` of `total` steps; a total of 0 takes the display away.
+    virtual void SetProgress(int done, int total) = 0;
+
+    /// Paints the window's controls in the colours of the active scheme.
+    virtual void ApplyColours() = 0;
+
+    /// Ends the program as soon as the running handler returns.
+    virtual void EndProgram() = 0;
+};
+
+/// The board's picture `Picture1` and its container `Picture5`.
+class BoardPictures {
+ public:
+    virtual ~BoardPictures() = default;
+
+    /// The inner size of the container, in twips.
+    virtual Surface::Extent Picture5Extent() const = 0;
+
+    /// What is drawn here stays on the board's picture until it is drawn over.
+    virtual Surface& Picture1() = 0;
+
+    /// The board's rectangle in the game has changed.
+    virtual void PlacePicture1() = 0;
+
+    /// The rubber band or the marker in the game has changed.
+    virtual void ShowOverlay() = 0;
+
+    virtual void SetEnabled(bool enabled) = 0;
+    virtual void SetVisible(bool visible) = 0;
+    virtual bool IsVisible() const = 0;
+
+    /// While frozen, what is drawn does not reach the screen.
+    virtual void Freeze(bool frozen) = 0;
+
+    /// Starts or stops `Timer1`, whose tick comes 1000 ms later.
+    virtual void EnableTimer1(bool enabled) = 0;
+};
+
+/// What lower routines need done to the board: the loader lays out and redraws it.
+class BoardRoutines {
+ public:
+    virtual ~BoardRoutines() = default;
+
+    /// Lays the board out for the game's cell size.
+    virtual void LayoutBoard(Game& game) = 0;
+
+    /// Draws the whole board, with the player's bridges or with the stored solution.
+    virtual void RedrawBoard(Game& game, bool showSolution) = 0;
+};
+
+/// Clicks, keys and repaints that wait while a routine runs.
+class PendingEvents {
+ public:
+    virtual ~PendingEvents() = default;
+
+    /// Lets everything that waits happen now.
+    virtual void DoEvents() = 0;
+};
+
+/// One reference to each seam.
+struct Seams {
+    Prompts& prompts;
+    FilePicker& filePicker;
+    MainWindow& window;
+    BoardPictures& pictures;
+    BoardRoutines& board;
+    PendingEvents& events;
+    Clock& clock;
+};
+
+}  // namespace tidewalk

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#include "program/form_load.h"
+
+#include "model/load_puzzle.h"
+#include "model/paths.h"
+
+namespace tidewalk {
+
+namespace {
+
+/// Fills the list of scheme names from "all.col"; returns what to tell the player when that cannot be done.
+std::optional<std::string> ReadSchemeNames(Game& game) {
+    game.schemeNames.clear();
+    try {
+        game.files.Open(1, game.ColourListPath, FileMode::Input);
+        std::string line;
+        while (game.files.ReadLine(1, line)) {
+            const std::size_t ending = line.find(".col");
+            if (ending != std::string::npos) game.schemeNames.push_back(line.substr(0, ending));
+        }
+        game.files.Close(1);
+    } catch (const FileError& error) {
+        game.files.CloseAll();
+        return "The colour schemes could not be read:\n" + std::string(error.what()) +
+               "\n\nInstall Tidewalk again, or copy the file \"all.col\" that came with it to this folder.";
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
+    game.AppFolder = WithSeparator(request.appFolder);
+    game.SolutionTempPath = game.AppFolder + "TempPuzzleSolFile.tdw";
+    game.ColourListPath = game.AppFolder + "all.col";
+    if (auto fatal = ReadSchemeNames(game)) return fatal;
+
+    if (!request.collection.empty()) {
+        game.CollectionPath = request.collection;
+        game.PuzzleNumber = request.puzzleNumber.value_or(1);
+    }
+    if (FileLength(game.CollectionPath) == 0) {
+        game.CollectionPath = game.AppFolder + "puzzles.txt";
+        game.PuzzleNumber = 1;
+    }
+    LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber);
+    return std::nullopt;
+}
+
+}  // namespace tidewalk

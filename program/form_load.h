@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// The start of the program, from the program folder to the first puzzle on the board.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "model/game.h"
+
+namespace tidewalk {
+
+/// What the command line asks for.
+struct StartRequest {
+    std::string appFolder;                ///< the program folder
+    std::string collection;               ///< a collection to open in place of the last one, or ""
+    std::optional<int> puzzleNumber;      ///< the puzzle of that collection, 1 if not given
+};
+
+/// Sets the constants and paths, reads what the program folder holds and loads the first puzzle.
+///
+/// A failure is dealt with on the way, all but one: without the colour schemes of "all.col" the program cannot start.
+/// Then the text that says so is returned and nothing was loaded.
+std::optional<std::string> Form_Load(Game& game, const StartRequest& request);
+
+}  // namespace tidewalk
