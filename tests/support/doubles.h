@@ -57,6 +57,20 @@ class ExpectedFiles final : public FilePicker {
     std::deque<std::string> answers_;
 };
 
+/// Answers with a request that was typed, or as a window that is left without OK.
+class BatchDouble final : public BatchWindow {
+ public:
+    bool Ask(BatchRequest& request) override {
+        ++timesAsked;
+        if (accepted) request = typed;
+        return accepted;
+    }
+
+    BatchRequest typed;
+    bool accepted = true;
+    int timesAsked = 0;
+};
+
 /// Remembers the texts and states of the main window.
 class WindowDouble final : public MainWindow {
  public:

@@ -40,6 +40,7 @@ struct SeamDoubles {
     DrawnBoard board;
     EventsDouble events;
     ClockDouble clock;
+    BatchDouble batchWindow;
 };
 
 /// A game with its doubles. Random draws are those of seed 1.
@@ -60,6 +61,7 @@ class TestGame : private SeamDoubles, public Game {
     PicturesDouble& pictures = SeamDoubles::pictures;
     EventsDouble& events = SeamDoubles::events;
     ClockDouble& clock = SeamDoubles::clock;
+    BatchDouble& batchWindow = SeamDoubles::batchWindow;
 };
 
 /// A record with the header that `rows` need and these rows of the board.
