@@ -1,41 +1,14 @@
 // SPDX-License-Identifier: MIT
-// A game without windows, for the console, the benchmarks and whatever else only computes.
+// A game without windows: for the console, the benchmarks and whatever else only computes.
 #pragma once
 
 #include <map>
 #include <string>
 
+#include "board/drawing.h"
 #include "model/game.h"
 
 namespace tidewalk {
-
-/// Keeps the last message and answers it as a player would who only reads: Ok, and No to every question.
-class HeadlessPrompts final : public Prompts {
- public:
-    int Show(const std::string& text, std::string_view style) override;
-    int SystemBox(const std::string& text, SystemButtons buttons) override;
-
-    std::string lastText;
-};
-
-class HeadlessFilePicker final : public FilePicker {
- public:
-    std::string Pick(const FileRequest& request) override;
-};
-
-class HeadlessWindow final : public MainWindow {
- public:
-    std::string Text(Control control) const override;
-    void SetText(Control control, const std::string& text) override { texts_[control] = text; }
-    void SetToolTip(Control /*control*/, const std::string& /*text*/) override {}
-    void SetPointer(Pointer /*pointer*/) override {}
-    void SetProgress(int /*done*/, int /*total*/) override {}
-    void ApplyColours() override {}
-    void EndProgram() override {}
-
- private:
-    std::map<Control, std::string> texts_;
-};
 
 /// Takes every stroke and keeps none.
 class HeadlessSurface final : public Surface {
@@ -51,8 +24,35 @@ class HeadlessSurface final : public Surface {
     void Print(double /*x*/, double /*y*/, const std::string& /*text*/, Colour /*colour*/) override {}
 };
 
-class HeadlessPictures final : public BoardPictures {
+/// Shows nothing, chooses nothing and lets no events happen. It keeps the last message for whoever wants to pass it on.
+class HeadlessWorld final : public Prompts,
+                            public FilePicker,
+                            public MainWindow,
+                            public BoardPictures,
+                            public PendingEvents,
+                            public BatchWindow {
  public:
+    std::string lastMessage;
+
+    /// Answers Ok, which no question takes for Yes.
+    int Show(const std::string& text, std::string_view /*style*/) override { return Keep(text); }
+    int SystemBox(const std::string& text, SystemButtons /*buttons*/) override { return Keep(text); }
+
+    std::string Pick(const FileRequest& /*request*/) override { return ""; }
+    bool Ask(BatchRequest& /*request*/) override { return false; }
+    void DoEvents() override {}
+
+    std::string Text(Control control) const override {
+        const auto found = texts_.find(control);
+        return found == texts_.end() ? "" : found->second;
+    }
+    void SetText(Control control, const std::string& text) override { texts_[control] = text; }
+    void SetToolTip(Control /*control*/, const std::string& /*text*/) override {}
+    void SetPointer(Pointer /*pointer*/) override {}
+    void SetProgress(int /*done*/, int /*total*/) override {}
+    void ApplyColours() override {}
+    void EndProgram() override {}
+
     Surface::Extent Picture5Extent() const override { return {kSide, kSide}; }
     Surface& Picture1() override { return surface_; }
     void PlacePicture1() override {}
@@ -64,43 +64,39 @@ class HeadlessPictures final : public BoardPictures {
     void EnableTimer1(bool /*enabled*/) override {}
 
  private:
-    static constexpr double kSide = 9600;  // twips
+    static constexpr double kSide = 9600;  // twips, about the size of a window's board
 
+    int Keep(const std::string& text) {
+        constexpr int kOk = 1;
+        lastMessage = text;
+        return kOk;
+    }
+
+    std::map<Control, std::string> texts_;
     HeadlessSurface surface_;
 };
 
-/// There is no board to lay out or draw.
-class HeadlessBoard final : public BoardRoutines {
- public:
-    void LayoutBoard(Game& /*game*/) override {}
-    void RedrawBoard(Game& /*game*/, bool /*showSolution*/) override {}
-    void ShowSolution(Game& /*game*/) override {}
-};
-
-class HeadlessEvents final : public PendingEvents {
- public:
-    void DoEvents() override {}
-};
-
 struct HeadlessSeams {
-    HeadlessPrompts prompts;
-    HeadlessFilePicker filePicker;
-    HeadlessWindow window;
-    HeadlessPictures pictures;
-    HeadlessBoard board;
-    HeadlessEvents events;
-    SystemClock clock;
+    HeadlessWorld world;
+    DrawnBoard drawnBoard;
+    SystemClock systemClock;
 };
 
-/// A game with such seams.
+/// A game in such a world, by the machine's clock. Make it on the heap.
 class HeadlessGame : private HeadlessSeams, public Game {
  public:
     HeadlessGame()
-        : Game(Seams{HeadlessSeams::prompts, HeadlessSeams::filePicker, HeadlessSeams::window, HeadlessSeams::pictures,
-                     HeadlessSeams::board, HeadlessSeams::events, HeadlessSeams::clock}) {}
+        : Game(Seams{.prompts = HeadlessSeams::world,
+                     .filePicker = HeadlessSeams::world,
+                     .window = HeadlessSeams::world,
+                     .pictures = HeadlessSeams::world,
+                     .board = drawnBoard,
+                     .events = HeadlessSeams::world,
+                     .clock = systemClock,
+                     .batchWindow = HeadlessSeams::world}) {}
 
-    /// The last message that would have been shown.
-    const std::string& LastMessage() const { return HeadlessSeams::prompts.lastText; }
+    /// The last message that a player would have seen.
+    const std::string& LastMessage() const { return HeadlessSeams::world.lastMessage; }
 };
 
 }  // namespace tidewalk
