@@ -6,6 +6,7 @@
 #include "generator/new_puzzle.h"
 #include "model/job.h"
 #include "model/load_puzzle.h"
+#include "model/numbers.h"
 #include "support/layout_checker.h"
 #include "support/test_game.h"
 
@@ -189,7 +190,7 @@ TEST(Command4, Makes1200PuzzlesOfRandomSizes) {
         const std::string& status = game.window.statusTexts[i];
         const int rows = std::stoi(status.substr(0, 2));
         const int cols = std::stoi(status.substr(2, 2));
-        ASSERT_EQ(status.substr(4), " " + std::to_string(i + 1) + " of 1200");
+        ASSERT_EQ(status.substr(4), Str(static_cast<int>(i) + 1) + " of 1200");
         ASSERT_TRUE(rows >= 7 && rows <= 24 && cols >= 7 && cols <= 24) << status;
         ASSERT_EQ(FaultOfLayout(lines[i], rows, cols), "") << lines[i];
     }
