@@ -85,6 +85,20 @@ TEST(Form3, OkAsksForACountASizeAndAFile) {
     EXPECT_EQ(fileOf("some.folder/out"), "some.folder/out.txt");
 }
 
+TEST(Form3, TheChosenFileGoesIntoTheRequest) {
+    TestGame game;
+    BatchRequest request{"5", "7", "7", "before"};
+    game.filePicker.Answer("");
+    Form3_gf1_Click(game, request);
+    EXPECT_EQ(request.outputFile, "before");
+    game.filePicker.Answer("/some.where/out");
+    Form3_gf1_Click(game, request);
+    EXPECT_EQ(request.outputFile, "/some.where/out.txt");
+    EXPECT_EQ(game.filePicker.requests[0].title, "Select an output Puzzle file");
+    EXPECT_EQ(game.filePicker.requests[0].patterns, "*.txt");
+    EXPECT_EQ(game.filePicker.requests[0].mode, FileRequest::Mode::Save);
+}
+
 TEST(Batch, AppendsAsManyPuzzlesAsAskedFor) {
     BatchGame game("5", "8", "11");
     game.folder.Write("out.txt", std::string(kSmallPuzzle) + "\r\n");
