@@ -7,14 +7,14 @@
 #include "generator/create_puzzle.h"
 #include "generator/grow.h"
 #include "model/job.h"
-#include "program/quiet_game.h"
+#include "program/headless.h"
 #include "solver/count_solutions.h"
 
 namespace tidewalk {
 namespace {
 
-std::unique_ptr<QuietGame> GameOfSide(benchmark::State& state) {
-    auto game = std::make_unique<QuietGame>();
+std::unique_ptr<HeadlessGame> GameOfSide(benchmark::State& state) {
+    auto game = std::make_unique<HeadlessGame>();
     game->random.UseSeed(1);
     game->Rows = game->Cols = static_cast<int>(state.range(0));
     return game;

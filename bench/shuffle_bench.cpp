@@ -7,7 +7,7 @@
 #include <string>
 
 #include "generator/shuffle.h"
-#include "program/quiet_game.h"
+#include "program/headless.h"
 
 namespace tidewalk {
 namespace {

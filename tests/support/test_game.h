@@ -53,6 +53,7 @@ class TestGame : private SeamDoubles, public Game {
     /// Loads puzzle `number` of the collection.
     int Load(int number);
 
+    using Game::board;
     using SeamDoubles::folder;
     ExpectedPrompts& prompts = SeamDoubles::prompts;
     ExpectedFiles& filePicker = SeamDoubles::filePicker;
@@ -66,7 +67,7 @@ class TestGame : private SeamDoubles, public Game {
 /// A record with the header that `rows` need and these rows of the board.
 std::string Record(const std::vector<std::string>& rows);
 
-/// A small puzzle of 7x7 with its solution, eleven bridges on eight links.
+/// A small puzzle of 7x7 with its solution on ten links.
 extern const char* const kSmallPuzzle;
 
 }  // namespace tidewalk::test
