@@ -3,6 +3,7 @@
 
 #include "model/load_puzzle.h"
 #include "model/paths.h"
+#include "program/first_collection.h"
 
 namespace tidewalk {
 
@@ -43,7 +44,7 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
         game.CollectionPath = game.AppFolder + "puzzles.txt";
         game.PuzzleNumber = 1;
     }
-    LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber);
+    if (LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber) != 0) MakeFirstCollection(game);
     return std::nullopt;
 }
 

@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "generator/new_puzzle.h"
 #include "ui/box_control.h"
 #include "ui/icons.h"
 #include "ui/lines_view.h"
@@ -178,11 +179,11 @@ void Form1::AddSizeBox() {
     FitWidth(gridSize_, "25 x 25");
 }
 
-/// The right button on the size box empties it: a random size is wanted.
+/// The right button on the size box is no click into its text.
 bool Form1::eventFilter(QObject* watched, QEvent* event) {
     if (watched == gridSize_ && event->type() == QEvent::MouseButtonPress &&
         static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
-        gridSize_->clear();
+        handlers_.Run([](Game& game) { GridSize_MouseDown(game, MouseButton::Right); });
         return true;
     }
     return QMainWindow::eventFilter(watched, event);

@@ -10,12 +10,13 @@ Program::Program()
              [this](Handler handler, const Click& click) {
                  if (handler != nullptr) handlers_.Run([&](Game&) { handler(*this, click); });
              }),
+      form3_(handlers_, &form1_),
       prompts_(handlers_),
       filePicker_(handlers_),
       window_(form1_, handlers_),
       pictures_(form1_.Container(), handlers_),
       events_(handlers_),
-      game_(std::make_unique<Game>(Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_})) {
+      game_(std::make_unique<Game>(Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_, form3_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
     handlers_.Attach(*game_);

@@ -11,6 +11,7 @@
 #include "ui/board_pictures.h"
 #include "ui/file_picker.h"
 #include "ui/form1.h"
+#include "ui/form3.h"
 #include "ui/main_window.h"
 #include "ui/pending_events.h"
 #include "ui/prompts.h"
@@ -37,6 +38,7 @@ class Program final {
  private:
     Handlers handlers_;
     Form1 form1_;
+    Form3 form3_;
     QtPrompts prompts_;
     QtFilePicker filePicker_;
     QtMainWindow window_;
