@@ -28,6 +28,7 @@ struct Game : Puzzle, SolverTables, BoardState, Options {
           board(seams.board),
           events(seams.events),
           clock(seams.clock),
+          clipboard(seams.clipboard),
           random(seams.clock) {}
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
@@ -39,6 +40,7 @@ struct Game : Puzzle, SolverTables, BoardState, Options {
     BoardRoutines& board;
     PendingEvents& events;
     Clock& clock;
+    Clipboard& clipboard;
 
     std::string AppFolder;         ///< the program's folder, with a separator at its end
     std::string ColourListPath;    ///< "all.col" in it

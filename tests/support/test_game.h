@@ -40,6 +40,7 @@ struct SeamDoubles {
     DrawnBoard board;
     EventsDouble events;
     ClockDouble clock;
+    ClipboardDouble clipboard;
 };
 
 /// A game with its doubles. Random draws are those of seed 1.
@@ -59,6 +60,7 @@ class TestGame : private SeamDoubles, public Game {
     PicturesDouble& pictures = SeamDoubles::pictures;
     EventsDouble& events = SeamDoubles::events;
     ClockDouble& clock = SeamDoubles::clock;
+    ClipboardDouble& clipboard = SeamDoubles::clipboard;
 };
 
 /// A record with the header that `rows` need and these rows of the board.
