@@ -12,7 +12,8 @@ namespace {
 int CountBridges(const Game& game, CellNumber id) {
     const auto [row, col] = game.PlaceOf(id);
     int count = 0;
-    for (int other = 1; other <= game.Cols; ++other) count += game.BridgeState(id, game.CellId(row, other));
+    for (int other = 1; other <= game.Cols; ++other)
+        count += game.BridgeState(id, game.CellId(row, other));
     for (int other = 1; other <= game.Rows; ++other) {
         if (other != row) count += game.BridgeState(id, game.CellId(other, col));
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "board/drawing.h"
 
+#include <utility>
+
 #include "board/layout.h"
 #include "model/contrast.h"
 #include "model/numbers.h"
@@ -63,8 +65,15 @@ void RedrawBoard(Game& game, bool showSolution) {
     DrawCellOutlines(game);
     DrawOpenNeighbours(game);
     DrawLinks(game, showSolution);
-    for (CellNumber id = 1; id <= game.CellCount; ++id) DrawIsland(game, id);
+    for (CellNumber id = 1; id <= game.CellCount; ++id)
+        DrawIsland(game, id);
     if (!showSolution) DrawPlacedBridges(game);
+}
+
+void ShowSolution(Game& game) {
+    const int shown = std::exchange(game.ShowLines, 1);
+    RedrawBoard(game, true);
+    game.ShowLines = shown;
 }
 
 void DrawCellOutlines(Game& game) {
@@ -120,11 +129,13 @@ void DrawDoubleLine(Surface& target, double x1, double y1, double x2, double y2,
 void DrawPlacedBridges(Game& game) {
     for (CellNumber a = 1; a <= game.CellCount; ++a) {
         const auto [row, col] = game.PlaceOf(a);
-        for (int other = 1; other < row; ++other) DrawPlacedBridge(game, a, game.CellId(other, col));
+        for (int other = 1; other < row; ++other)
+            DrawPlacedBridge(game, a, game.CellId(other, col));
         for (int other = 1; other <= game.Cols; ++other) {
             if (other != col) DrawPlacedBridge(game, a, game.CellId(row, other));
         }
-        for (int other = row + 1; other <= game.Rows; ++other) DrawPlacedBridge(game, a, game.CellId(other, col));
+        for (int other = row + 1; other <= game.Rows; ++other)
+            DrawPlacedBridge(game, a, game.CellId(other, col));
     }
     game.pictures.Picture1().SetDrawWidth(game.LineWidth);
 }
@@ -148,8 +159,16 @@ void EraseBridge(Game& game, CellNumber a, CellNumber b) {
     DrawLinkLine(game, a, b);
 }
 
-void DrawnBoard::LayoutBoard(Game& game) { tidewalk::LayoutBoard(game); }
+void DrawnBoard::LayoutBoard(Game& game) {
+    tidewalk::LayoutBoard(game);
+}
 
-void DrawnBoard::RedrawBoard(Game& game, bool showSolution) { tidewalk::RedrawBoard(game, showSolution); }
+void DrawnBoard::RedrawBoard(Game& game, bool showSolution) {
+    tidewalk::RedrawBoard(game, showSolution);
+}
+
+void DrawnBoard::ShowSolution(Game& game) {
+    tidewalk::ShowSolution(game);
+}
 
 }  // namespace tidewalk

@@ -10,6 +10,9 @@ namespace tidewalk {
 /// the player's bridges or, with `showSolution`, the stored solution in their place.
 void RedrawBoard(Game& game, bool showSolution);
 
+/// Draws the board with the stored solution, whether or not lines are to be shown otherwise.
+void ShowSolution(Game& game);
+
 /// The outline of every cell, water too.
 void DrawCellOutlines(Game& game);
 
@@ -36,6 +39,7 @@ class DrawnBoard final : public BoardRoutines {
  public:
     void LayoutBoard(Game& game) override;
     void RedrawBoard(Game& game, bool showSolution) override;
+    void ShowSolution(Game& game) override;
 };
 
 }  // namespace tidewalk

@@ -12,9 +12,9 @@ namespace tidewalk {
 
 namespace {
 
-constexpr int kCellSizeOfNone = 300;   ///< stands in for a cell size of 0
+constexpr int kCellSizeOfNone = 300;       ///< stands in for a cell size of 0
 constexpr double kTwipsPerFontPoint = 50;  ///< a cell of 50 twips takes numbers of one point
-constexpr double kBoardMargin = 1.15;  ///< the board is 15% larger than the cells that it holds
+constexpr double kBoardMargin = 1.15;      ///< the board is 15% larger than the cells that it holds
 
 }  // namespace
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "board/undo.h"
 
-#include <utility>
-
 #include "board/drawing.h"
 #include "model/job.h"
 #include "model/load_puzzle.h"
@@ -19,10 +17,7 @@ void cmdundo_Click(Game& game) {
 }
 
 void cmdviewcol_Press(Game& game) {
-    if (JobRuns(game)) return;
-    const int shown = std::exchange(game.ShowLines, 1);
-    RedrawBoard(game, true);
-    game.ShowLines = shown;
+    if (!JobRuns(game)) ShowSolution(game);
 }
 
 void cmdviewcol_Release(Game& game) {

@@ -5,7 +5,9 @@
 
 namespace tidewalk {
 
-std::string Text(const UndoRecord& record) { return Str(record.a) + "," + Str(record.b) + "," + Str(record.state); }
+std::string Text(const UndoRecord& record) {
+    return Str(record.a) + "," + Str(record.b) + "," + Str(record.state);
+}
 
 std::optional<UndoRecord> ParseUndoRecord(std::string_view text) {
     const std::size_t first = text.find(',');

@@ -60,7 +60,7 @@ struct Frame {
 };
 
 struct BoardState {
-    int CellSize = 250;  ///< the side of a cell in twips, 200..700 after every layout
+    int CellSize = 250;      ///< the side of a cell in twips, 200..700 after every layout
     int FittedCellSize = 0;  ///< the cell size with which the last loaded puzzle fitted its container, 0 before that
     int HalfCell = 0;        ///< half a cell, in twips
     int DoubleGap = 0;       ///< between the two strokes of a double line, in twips
@@ -70,7 +70,7 @@ struct BoardState {
     PerCell<int> IslandY;
     int LineWidth = 1;  ///< the normal pen, in pixels
 
-    Frame Picture1;                  ///< the board in its container
+    Frame Picture1;  ///< the board in its container
     Colour Picture1BackColor = kWhite;
 
     BridgeTable BridgeState;

@@ -19,6 +19,11 @@ class CellSet {
     bool Contains(CellNumber id) const { return (words_[Index(id)] & Bit(id)) != 0; }
     void Clear() { words_.fill(0); }
 
+    void InsertAll(const CellSet& other) {
+        for (std::size_t i = 0; i < words_.size(); ++i)
+            words_[i] |= other.words_[i];
+    }
+
     /// The smallest member that is at least `from`, or 0 when there is none (0 itself is never found).
     CellNumber NextFrom(CellNumber from) const {
         if (from < 1) from = 1;

@@ -21,13 +21,15 @@ std::string_view Text(Cross mark) {
 
 std::string Text(const NeighbourList& list) {
     std::string text;
-    for (const CellNumber id : list) text += Format(id, "000") + " ";
+    for (const CellNumber id : list)
+        text += Format(id, "000") + " ";
     return text;
 }
 
 std::string Text(const JoinedList& list) {
     std::string text;
-    for (const CellNumber id : list) text += Str(id) + ",";
+    for (const CellNumber id : list)
+        text += Str(id) + ",";
     return text;
 }
 

@@ -13,7 +13,8 @@
 
 namespace tidewalk {
 
-/// What runs over a cell: nothing, a horizontal bridge, a vertical one; `X` is an island that can grow no further bridge.
+/// What runs over a cell: nothing, a horizontal bridge, a vertical one; `X` is an island that can grow no further
+/// bridge.
 enum class Cross : std::uint8_t { Free, H, V, X };
 
 /// The mark's text: "", "h", "v" or "X".
@@ -92,6 +93,8 @@ std::optional<NeighbourList> ParseNeighbourList(std::string_view text);
 std::optional<JoinedList> ParseJoinedList(std::string_view text);
 
 /// How many islands the list names.
-inline int NeighbourCount(const NeighbourList& list) { return list.Count(); }
+inline int NeighbourCount(const NeighbourList& list) {
+    return list.Count();
+}
 
 }  // namespace tidewalk

@@ -51,12 +51,12 @@ struct Game : Puzzle, SolverTables, BoardState, Options {
     ListBox List1{ListBox::Order::Sorted};   ///< the island status list, or the lines of the last check
     ListBox List2{ListBox::Order::AsAdded};  ///< the open choice points of the trial search
 
-    int BusyFlag = NoValue;    ///< a long job runs
-    int CancelFlag = NoValue;  ///< the running job is asked to stop
-    bool jobRunning = false;   ///< a job is on its way even if a load in its middle has reset `BusyFlag`
-    int loadCount = 0;         ///< how often the puzzle was replaced as a whole
-    int jobLoadCount = 0;      ///< `loadCount` as the running job knows it
-    bool ending = false;       ///< the window was closed: jobs stop, nothing more is asked or saved
+    int BusyFlag = NoValue;     ///< a long job runs
+    int CancelFlag = NoValue;   ///< the running job is asked to stop
+    bool jobRunning = false;    ///< a job is on its way even if a load in its middle has reset `BusyFlag`
+    int loadCount = 0;          ///< how often the puzzle was replaced as a whole
+    int jobLoadCount = 0;       ///< `loadCount` as the running job knows it
+    bool ending = false;        ///< the window was closed: jobs stop, nothing more is asked or saved
     std::int64_t lastPoll = 0;  ///< when events were last let through, in the clock's milliseconds
 };
 

@@ -9,8 +9,8 @@
 
 namespace tidewalk {
 
-inline constexpr int kMinSide = 7;    ///< The smallest board that is created, in cells.
-inline constexpr int kMaxSide = 25;   ///< The largest board, in cells.
+inline constexpr int kMinSide = 7;   ///< The smallest board that is created, in cells.
+inline constexpr int kMaxSide = 25;  ///< The largest board, in cells.
 inline constexpr int kMaxCells = kMaxSide * kMaxSide;
 
 /// The id of a board cell, 1..625, row by row; 0 stands for no cell.
@@ -35,7 +35,8 @@ class Grid {
     /// Sets the cells of the largest board, 1..25 both ways, and leaves the margin alone.
     void FillBoard(const T& value) {
         for (int col = 1; col <= kMaxSide; ++col) {
-            for (int row = 1; row <= kMaxSide; ++row) (*this)(row, col) = value;
+            for (int row = 1; row <= kMaxSide; ++row)
+                (*this)(row, col) = value;
         }
     }
 

@@ -26,10 +26,12 @@ void Job::Adopt() {
     game_.BusyFlag = YesValue;
 }
 
-void PollEvents(Game& game) {
+bool PollIsDue(Game& game) {
     constexpr std::int64_t kPollMilliseconds = 20;
-    const std::int64_t now = game.clock.Milliseconds();
-    if (now - game.lastPoll < kPollMilliseconds) return;
+    return game.clock.Milliseconds() - game.lastPoll >= kPollMilliseconds;
+}
+
+void LetEventsThrough(Game& game) {
     game.events.DoEvents();
     game.lastPoll = game.clock.Milliseconds();
 }

@@ -7,14 +7,23 @@
 namespace tidewalk {
 
 /// True while a long job runs. The grids are the job's then: the board neither takes moves nor is drawn anew.
-inline bool JobRuns(const Game& game) { return game.BusyFlag == YesValue || game.jobRunning; }
+inline bool JobRuns(const Game& game) {
+    return game.BusyFlag == YesValue || game.jobRunning;
+}
 
 /// When a long job runs, says "Cancel Autosolve first" and returns true.
 bool RefuseWhileBusy(Game& game);
 
-/// Lets pending events happen if 20 ms have passed since that was last done, so that a loop may call it as often as it
-/// likes.
-void PollEvents(Game& game);
+/// True when 20 ms have passed since pending events last happened, so that a loop may ask as often as it likes.
+bool PollIsDue(Game& game);
+
+/// Lets pending events happen.
+void LetEventsThrough(Game& game);
+
+/// Lets pending events happen when that is due.
+inline void PollEvents(Game& game) {
+    if (PollIsDue(game)) LetEventsThrough(game);
+}
 
 /// A long job, from its start to its end. No second one can begin while it lives.
 ///

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,10 +21,6 @@ class ListBox {
     /// Adds a line: at the end, or at its place in a sorted list.
     void Add(std::string line);
 
-    /// Lets `fill` make the lines when somebody reads the list next; until then nothing is built.
-    /// `fill` must stay callable until the list is cleared or read.
-    void Defer(std::function<void(ListBox&)> fill);
-
     /// The lines, in their order.
     const std::vector<std::string>& Lines() const;
 
@@ -38,7 +33,6 @@ class ListBox {
     // Sorting waits for the first reader: adding n lines one by one would otherwise cost n squared moves.
     mutable bool sorted_ = true;
     mutable std::vector<std::string> lines_;
-    mutable std::function<void(ListBox&)> fill_;
 };
 
 }  // namespace tidewalk

@@ -30,7 +30,8 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
 
 /// False for a line that holds bytes no text file holds.
 bool IsText(std::string_view line) {
-    return std::none_of(line.begin(), line.end(), [](char c) { return (c >= 0 && c < ' ' && c != '\t') || c == '\x7F'; });
+    return std::none_of(line.begin(), line.end(),
+                        [](char c) { return (c >= 0 && c < ' ' && c != '\t') || c == '\x7F'; });
 }
 
 /// Reads line `number` of the file into `record`; false when there is none or it can be no record. File 1 stays open.
@@ -99,12 +100,15 @@ void ReadBridges(Game& game, const BoardText& cells) {
     constexpr Step kRight{0, 1};
     constexpr Step kDown{1, 0};
     for (int row = 1; row <= game.Rows; ++row) {
-        for (int col = 1; col < game.Cols; ++col) TakeBridge(game, cells, row, col, kRight, '-', 1);
-        for (int col = 1; col < game.Cols; ++col) TakeBridge(game, cells, row, col, kRight, '=', 0);
+        for (int col = 1; col < game.Cols; ++col)
+            TakeBridge(game, cells, row, col, kRight, '-', 1);
+        for (int col = 1; col < game.Cols; ++col)
+            TakeBridge(game, cells, row, col, kRight, '=', 0);
     }
     for (const auto& [stroke, state] : {std::pair{'|', 1}, std::pair{'I', 0}}) {
         for (int col = 1; col <= game.Cols; ++col) {
-            for (int row = 1; row < game.Rows; ++row) TakeBridge(game, cells, row, col, kDown, stroke, state);
+            for (int row = 1; row < game.Rows; ++row)
+                TakeBridge(game, cells, row, col, kDown, stroke, state);
         }
     }
 }
@@ -131,7 +135,8 @@ int CountLines(Game& game, const std::string& path) {
     int count = 0;
     try {
         game.files.Open(1, path, FileMode::Input);
-        while (game.files.SkipLine(1)) ++count;
+        while (game.files.SkipLine(1))
+            ++count;
         game.files.Close(1);
     } catch (const FileError&) {
         game.files.CloseAll();

@@ -55,14 +55,16 @@ std::string PickFile(Game& game, const FileRequest& request) {
 
 void mnuloadpuz_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
-    const std::string path = PickFile(game, {std::string(AppTitle), "*.tdw;*.txt;*.dat", "Tidewalk Files",
-                                             game.AppFolder, FileRequest::Mode::Open});
+    const std::string path = PickFile(
+        game, {std::string(AppTitle), "*.tdw;*.txt;*.dat", "Tidewalk Files", game.AppFolder, FileRequest::Mode::Open});
     if (path.empty()) return;
     // A collection that fails to open does not bring the previous puzzle back: the message is all there is to say.
     const BusyPointer busy(game);
     LoadPuzzle(game, path, 1);
 }
 
-void cmdload_Click(Game& game) { mnuloadpuz_Click(game); }
+void cmdload_Click(Game& game) {
+    mnuloadpuz_Click(game);
+}
 
 }  // namespace tidewalk

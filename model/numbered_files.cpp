@@ -12,7 +12,9 @@ namespace {
 
 constexpr std::size_t kBufferBytes = 128 * 1024;
 
-[[noreturn]] void Fail(const std::string& path, int reason) { throw FileError(path + ": " + std::strerror(reason)); }
+[[noreturn]] void Fail(const std::string& path, int reason) {
+    throw FileError(path + ": " + std::strerror(reason));
+}
 
 const char* SystemMode(FileMode mode) {
     switch (mode) {
@@ -24,6 +26,15 @@ const char* SystemMode(FileMode mode) {
             break;
     }
     return "rb";
+}
+
+/// True when the file holds something and that does not end with a line's end.
+bool LacksLineEnd(const std::string& path) {
+    std::FILE* const stream = std::fopen(path.c_str(), "rb");
+    if (stream == nullptr) return false;
+    const bool lacks = std::fseek(stream, -1, SEEK_END) == 0 && std::fgetc(stream) != '\n';
+    std::fclose(stream);
+    return lacks;
 }
 
 }  // namespace
@@ -74,6 +85,8 @@ void NumberedFiles::Open(int number, const std::string& path, FileMode mode) {
     if (mode == FileMode::Input && std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
         Fail(path, EINVAL);
     }
+    // A record that is appended must not become the tail of another one.
+    const bool endLine = mode == FileMode::Append && std::filesystem::is_regular_file(status) && LacksLineEnd(path);
     auto file = std::make_unique<File>();
     file->path = path;
     file->stream = std::fopen(path.c_str(), SystemMode(mode));
@@ -81,6 +94,7 @@ void NumberedFiles::Open(int number, const std::string& path, FileMode mode) {
     // Reading goes through a buffer of our own.
     if (mode == FileMode::Input) std::setvbuf(file->stream, nullptr, _IONBF, 0);
     files_[static_cast<std::size_t>(number - 1)] = std::move(file);
+    if (endLine) Print(number, "");
 }
 
 void NumberedFiles::Close(int number) {
@@ -92,7 +106,8 @@ void NumberedFiles::Close(int number) {
 }
 
 void NumberedFiles::CloseAll() noexcept {
-    for (auto& file : files_) file.reset();
+    for (auto& file : files_)
+        file.reset();
 }
 
 bool NumberedFiles::TakeLine(File& file, std::string* line) {
@@ -102,7 +117,8 @@ bool NumberedFiles::TakeLine(File& file, std::string* line) {
         const char* const start = file.buffer.data() + file.at;
         const std::size_t left = file.filled - file.at;
         const void* const end = std::memchr(start, '\n', left);
-        const std::size_t length = end == nullptr ? left : static_cast<std::size_t>(static_cast<const char*>(end) - start);
+        const std::size_t length =
+            end == nullptr ? left : static_cast<std::size_t>(static_cast<const char*>(end) - start);
         if (line != nullptr) line->append(start, length);
         file.at += length;
         if (end != nullptr) {
@@ -115,9 +131,13 @@ bool NumberedFiles::TakeLine(File& file, std::string* line) {
     return true;
 }
 
-bool NumberedFiles::ReadLine(int number, std::string& line) { return TakeLine(At(number), &line); }
+bool NumberedFiles::ReadLine(int number, std::string& line) {
+    return TakeLine(At(number), &line);
+}
 
-bool NumberedFiles::SkipLine(int number) { return TakeLine(At(number), nullptr); }
+bool NumberedFiles::SkipLine(int number) {
+    return TakeLine(At(number), nullptr);
+}
 
 void NumberedFiles::Print(int number, std::string_view line) {
     File& file = At(number);

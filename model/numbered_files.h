@@ -33,7 +33,8 @@ class NumberedFiles {
     NumberedFiles(const NumberedFiles&) = delete;
     NumberedFiles& operator=(const NumberedFiles&) = delete;
 
-    /// Opens `path` under `number`. Output creates or empties the file, Append creates it when there is none.
+    /// Opens `path` under `number`. Output creates or empties the file, Append creates it when there is none and ends
+    /// its last line when that has no end.
     /// Throws FileError when the number is in use or the system refuses; the number is then as it was.
     void Open(int number, const std::string& path, FileMode mode);
 

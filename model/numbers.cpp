@@ -11,9 +11,13 @@ namespace tidewalk {
 
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
 
 /// Copies the digits at `text[at]` on to `out`, passing over blanks, and leaves `at` behind them.
 /// Returns how many there were.
@@ -28,7 +32,8 @@ int TakeDigits(std::string_view text, std::size_t& at, std::string& out) {
 }
 
 void TakeSign(std::string_view text, std::size_t& at, std::string& out) {
-    while (at < text.size() && IsBlank(text[at])) ++at;
+    while (at < text.size() && IsBlank(text[at]))
+        ++at;
     if (at < text.size() && (text[at] == '-' || text[at] == '+')) {
         if (text[at] == '-') out += '-';
         ++at;
@@ -37,9 +42,13 @@ void TakeSign(std::string_view text, std::size_t& at, std::string& out) {
 
 }  // namespace
 
-std::string Str(int n) { return (n < 0 ? "" : " ") + std::to_string(n); }
+std::string Str(int n) {
+    return (n < 0 ? "" : " ") + std::to_string(n);
+}
 
-std::string NumText(int n) { return std::to_string(n); }
+std::string NumText(int n) {
+    return std::to_string(n);
+}
 
 std::string Format(int n, std::string_view zeros) {
     std::string digits = std::to_string(std::abs(static_cast<long long>(n)));
@@ -82,11 +91,15 @@ int RoundHalfEven(double value) {
     return static_cast<int>(std::clamp(rounded, kLow, kHigh));
 }
 
-int RoundedVal(std::string_view text) { return RoundHalfEven(Val(text)); }
+int RoundedVal(std::string_view text) {
+    return RoundHalfEven(Val(text));
+}
 
 std::string_view Trim(std::string_view text) {
-    while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-    while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+    while (!text.empty() && IsBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && IsBlank(text.back()))
+        text.remove_suffix(1);
     return text;
 }
 

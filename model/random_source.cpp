@@ -17,7 +17,8 @@ std::uint64_t Mix(std::uint64_t x) {
 
 }  // namespace
 
-RandomSource::RandomSource(Clock& clock) : clock_(clock), state_(Mix(static_cast<std::uint64_t>(clock.Milliseconds()))) {}
+RandomSource::RandomSource(Clock& clock)
+    : clock_(clock), state_(Mix(static_cast<std::uint64_t>(clock.Milliseconds()))) {}
 
 void RandomSource::UseSeed(std::uint64_t seed) {
     state_ = Mix(seed);

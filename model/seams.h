@@ -126,6 +126,9 @@ class BoardRoutines {
 
     /// Draws the whole board, with the player's bridges or with the stored solution.
     virtual void RedrawBoard(Game& game, bool showSolution) = 0;
+
+    /// Draws the board with the solution that the link list holds, until it is drawn anew.
+    virtual void ShowSolution(Game& game) = 0;
 };
 
 /// Clicks, keys and repaints that wait while a routine runs.

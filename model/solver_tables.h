@@ -23,9 +23,10 @@ struct Sights {
     };
 
     PerCell<std::array<Sight, kDirections>> from;  ///< by island
-    PerCell<std::uint16_t> acrossRow;     ///< by water cell: the link between its left and right islands, or 0
+    PerCell<std::uint16_t> acrossRow;              ///< by water cell: the link between its left and right islands, or 0
     PerCell<std::uint16_t> acrossColumn;  ///< by water cell: the link between its upper and lower islands, or 0
     CellSet islands;
+    int islandCount = 0;
 };
 
 /// What one call of `ConnectIslands` changed, kept so that the trial search can take it back.
@@ -47,15 +48,15 @@ struct SolverTables {
     int ConnectCount = 0;  ///< calls of `ConnectIslands` since the driver last set it to 0
     int BranchCount = 0;   ///< choice points of the trial search that are open
 
-    /// At most so many trials, after which the search fails; 0 for no bound.
+    /// The search fails when it has come to so many trials; 0 for no bound.
     int TrialLimit = 0;
 
     // What follows spares the solver the rescan of the whole board after every bridge.
 
     Sights sights;
-    CellSet staleLists;     ///< islands whose open list the next refresh has to make anew
-    CellSet awaitingRules;  ///< islands about which something changed since the rules last looked at them
-    CellSet awaitingCheck;  ///< islands about which something changed since the last check for contradictions
+    CellSet staleLists;      ///< islands whose open list the next refresh has to make anew
+    CellSet awaitingRules;   ///< islands about which something changed since the rules last looked at them
+    CellSet awaitingCheck;   ///< islands about which something changed since the last check for contradictions
     int overdrawnLinks = 0;  ///< how often a link was asked for more than it could take
     std::vector<LaidBridges> laid;
 };

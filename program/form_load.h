@@ -11,9 +11,9 @@ namespace tidewalk {
 
 /// What the command line asks for.
 struct StartRequest {
-    std::string appFolder;                ///< the program folder
-    std::string collection;               ///< a collection to open in place of the last one, or ""
-    std::optional<int> puzzleNumber;      ///< the puzzle of that collection, 1 if not given
+    std::string appFolder;            ///< the program folder
+    std::string collection;           ///< a collection to open in place of the last one, or ""
+    std::optional<int> puzzleNumber;  ///< the puzzle of that collection, 1 if not given
 };
 
 /// Sets the constants and paths, reads what the program folder holds and loads the first puzzle.

@@ -25,7 +25,9 @@ TempFolder::~TempFolder() {
     std::filesystem::remove_all(path_, ignored);
 }
 
-std::string TempFolder::Path(const std::string& name) const { return (path_ / name).string(); }
+std::string TempFolder::Path(const std::string& name) const {
+    return (path_ / name).string();
+}
 
 std::string TempFolder::Write(const std::string& name, const std::string& bytes) const {
     std::ofstream(path_ / name, std::ios::binary) << bytes;
@@ -48,15 +50,20 @@ TestGame::TestGame()
 
 TestGame::TestGame(const std::vector<std::string>& records) : TestGame() {
     std::string bytes;
-    for (const std::string& record : records) bytes += record + "\r\n";
+    for (const std::string& record : records)
+        bytes += record + "\r\n";
     CollectionPath = folder.Write("collection.tdw", bytes);
 }
 
-int TestGame::Load(int number) { return LoadPuzzle(*this, CollectionPath, number); }
+int TestGame::Load(int number) {
+    return LoadPuzzle(*this, CollectionPath, number);
+}
 
 std::string Record(const std::vector<std::string>& rows) {
-    std::string record = Str(static_cast<int>(rows.size())) + "," + Str(static_cast<int>(rows.front().size())) + ", 0;D;";
-    for (const std::string& row : rows) record += row + ",";
+    std::string record =
+        Str(static_cast<int>(rows.size())) + "," + Str(static_cast<int>(rows.front().size())) + ", 0;D;";
+    for (const std::string& row : rows)
+        record += row + ",";
     return record;
 }
 

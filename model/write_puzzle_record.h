@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// Writing the current puzzle as a line of a collection.
+#pragma once
+
+#include <string>
+
+#include "model/game.h"
+
+namespace tidewalk {
+
+/// The current puzzle and its bridges as a record, without a line's end.
+std::string PuzzleRecord(const Game& game);
+
+/// Writes the current puzzle's record: `append` 0 creates or empties the file first, anything else appends to it.
+/// Closes file 1 first and leaves it closed. Throws FileError when the record could not be written.
+void WritePuzzleRecord(Game& game, const std::string& path, int append);
+
+}  // namespace tidewalk

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "solver/auto_solve.h"
+
+#include "model/job.h"
+#include "model/load_puzzle.h"
+#include "model/write_puzzle_record.h"
+#include "solver/solve_puzzle.h"
+#include "solver/valid_solution.h"
+
+namespace tidewalk {
+
+namespace {
+
+enum class Outcome { Solved, Failed, Superseded };
+
+/// Takes the islands on the board for the numbers to solve; returns how many there are.
+int TakeGivenNumbers(Game& game) {
+    int islands = 0;
+    for (CellNumber id = 1; id <= game.CellCount; ++id) {
+        const int number = game.IslandAt(id);
+        game.GivenGrid(game.CellRow[id], game.CellCol[id]) = number > 0 ? number : -1;
+        if (number > 0) ++islands;
+    }
+    return islands;
+}
+
+Outcome Solve(Game& game) {
+    const Job job(game);
+    game.TrialLimit = 0;
+    int trials = 0;
+    const int failed = SolvePuzzle(game, game.CellCount, trials);
+    if (job.Superseded()) return Outcome::Superseded;
+    return failed == YesValue || CheckLinkTotals(game) == YesValue ? Outcome::Failed : Outcome::Solved;
+}
+
+void GiveUp(Game& game) {
+    LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber);
+    game.window.SetText(Control::pb, "");
+    game.window.SetPointer(Pointer::Default);
+    game.prompts.Show("Unable to solve\r\nPlease check puzzle layout", "vbcritical+vbok");
+}
+
+void ShowAndWriteSolution(Game& game) {
+    game.window.SetText(Control::pb, "Solved");
+    game.board.ShowSolution(game);
+    try {
+        WritePuzzleRecord(game, SolutionPath(game.CollectionPath), 0);
+    } catch (const FileError& error) {
+        game.window.SetText(Control::pb, std::string("Solved, but not written: ") + error.what());
+    }
+}
+
+}  // namespace
+
+void mnuautosol_Click(Game& game) {
+    if (RefuseWhileBusy(game)) return;
+    if (game.CellCount == 0) {
+        game.prompts.Show("There is no puzzle to solve", "vbinformation+vbok");
+        return;
+    }
+    game.window.SetPointer(Pointer::Busy);
+    if (TakeGivenNumbers(game) == 0) {
+        game.window.SetPointer(Pointer::Default);
+        game.prompts.Show("Set the puzzle first", "vbinformation+vbok");
+        return;
+    }
+    game.window.SetText(Control::pb, "Auto solving ...");
+    LetEventsThrough(game);
+    const Outcome outcome = Solve(game);
+    if (game.ending) return;
+    if (outcome == Outcome::Failed) GiveUp(game);
+    if (outcome == Outcome::Solved) ShowAndWriteSolution(game);
+    // Who loaded another puzzle in the middle wants to see nothing more of this one.
+    if (outcome == Outcome::Superseded) game.window.SetText(Control::pb, "");
+    game.window.SetPointer(Pointer::Default);
+}
+
+std::string SolutionPath(const std::string& collectionPath) {
+    const std::size_t dot = collectionPath.rfind('.');
+    if (dot == std::string::npos) return "-solution" + collectionPath;
+    return collectionPath.substr(0, dot) + "-solution" + collectionPath.substr(dot);
+}
+
+}  // namespace tidewalk

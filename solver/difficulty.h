@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+// Names for how hard a puzzle is.
+#pragma once
+
+#include <string_view>
+
+namespace tidewalk {
+
+/// "VEasy" below 1, "Easy" up to 5, "Hard" up to 10, "VHard" from 11 on. The score is a count of trials.
+std::string_view DifficultyName(int score);
+
+}  // namespace tidewalk
