@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "program/form_load.h"
 
+#include <algorithm>
+
+#include "model/config_file.h"
 #include "model/load_puzzle.h"
 #include "model/paths.h"
+#include "options/colour_scheme.h"
 
 namespace tidewalk {
 
@@ -35,9 +39,14 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
     game.ColourListPath = game.AppFolder + "all.col";
     if (auto fatal = ReadSchemeNames(game)) return fatal;
 
+    ReadcfgFile(game);
+    Colour backColour = 0;
+    LoadColourScheme(game, game.ColourSchemeName, backColour);
+    ApplyColourScheme(game);
+
     if (!request.collection.empty()) {
         game.CollectionPath = request.collection;
-        game.PuzzleNumber = request.puzzleNumber.value_or(1);
+        game.PuzzleNumber = std::max(request.puzzleNumber.value_or(1), 1);
     }
     if (FileLength(game.CollectionPath) == 0) {
         game.CollectionPath = game.AppFolder + "puzzles.txt";

@@ -42,8 +42,7 @@ std::string TempFolder::Read(const std::string& name) const {
 
 TestGame::TestGame()
     : Game(Seams{SeamDoubles::prompts, SeamDoubles::filePicker, SeamDoubles::window, SeamDoubles::pictures,
-                 SeamDoubles::board, SeamDoubles::events, SeamDoubles::clock,
-                 SeamDoubles::clipboard}) {
+                 SeamDoubles::board, SeamDoubles::events, SeamDoubles::clock, SeamDoubles::clipboard}) {
     AppFolder = folder.Path("");
     random.UseSeed(1);
 }
