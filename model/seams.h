@@ -72,7 +72,7 @@ class MainWindow {
     /// Paints the window's controls in the colours of the active scheme.
     virtual void ApplyColours() = 0;
 
-    /// A colour of the desktop as it is now, whatever scheme the windows wear.
+    /// A colour of the player's desktop, whatever scheme the windows wear.
     virtual Colour Desktop(DesktopColour colour) const = 0;
 
     /// Ends the program as soon as the running handler returns.

@@ -79,6 +79,10 @@ OptionsForm OpenOptions(const Game& game) {
     return form;
 }
 
+WindowColours FormColours(const Game& game, const OptionsForm& form) {
+    return ColoursOfWindows(form.draft, game.window);
+}
+
 void Combo1_Click(Game& game, OptionsForm& form, const std::string& name) {
     TakeScheme(game, form, name + std::string(kEnding));
     ShowSuggestedBoard(form);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/game.h"
+#include "options/window_colours.h"
 
 namespace tidewalk {
 
@@ -23,9 +24,14 @@ struct OptionsForm {
     bool Option2 = false;              ///< "Circle"; otherwise "Square"
     bool Check1 = true;                ///< show the lines between cells
 
+    /// What the board's background would be.
+    Colour BoardBackground() const { return draft.SchemeColours[2]; }
     /// The back colour of `Combo1`: the entry that the brightness buttons change.
     Colour AdjustedColour() const { return draft.SchemeColours[static_cast<std::size_t>(draft.AdjustIndex)]; }
 };
+
+/// The colours that the options window itself wears: those of the chosen scheme.
+WindowColours FormColours(const Game& game, const OptionsForm& form);
 
 /// The widest pen for printed bridges, in pixels at 300 dpi.
 inline constexpr int kWidestPrintLine = 50;

@@ -46,7 +46,7 @@ WindowColours ColoursOfWindows(const Options& options, const MainWindow& desktop
 WindowColours ColoursOfMessages(const Options& options, const MainWindow& desktop) {
     WindowColours colours = ColoursOfWindows(options, desktop);
     colours.frame = colours.box;
-    colours.frameText = LegibleOn(colours.frame, BoardDefaultsOn(colours.frame).node);
+    colours.frameText = colours.boxText = LegibleOn(colours.frame, BoardDefaultsOn(colours.frame).node);
     return colours;
 }
 

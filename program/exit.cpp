@@ -14,9 +14,10 @@ void cmdexit_Click(Game& game) {
 }
 
 void Form_QueryUnload(Game& game) {
+    game.window.EndProgram();
     // A job that is on its way sees this and stops.
     game.ending = true;
-    game.window.EndProgram();
+    game.CancelFlag = YesValue;
 }
 
 }  // namespace tidewalk

@@ -6,6 +6,9 @@
 #include "board/check_bridges.h"
 #include "board/layout.h"
 #include "board/undo.h"
+#include "model/config_file.h"
+#include "model/read_grid_file.h"
+#include "program/exit.h"
 #include "ui/program.h"
 
 namespace tidewalk {
@@ -29,6 +32,14 @@ void DoWithButton(Program& program, const Click& click) {
     kRoutine(program.game(), click.index, click.button);
 }
 
+void OpenOptionsWindow(Program& program, const Click&) {
+    program.form2().Open();
+}
+
+void OpenEditor(Program& program, const Click&) {
+    program.form6().Open();
+}
+
 QList<QKeySequence> Keys(QKeySequence::StandardKey key) {
     QList<QKeySequence> keys = QKeySequence::keyBindings(key);
     // On most keyboards plus is reached with Shift, which nobody wants to hold for zooming.
@@ -44,9 +55,19 @@ std::vector<Command> TideCommands() {
     constexpr const char* kMenu = "Tide";
     constexpr const char* kView = "Tide/View";
     return {
-        {.menu = kMenu, .name = "mnuoptset", .text = "Options ...", .icon = "options", .keys = Keys("Ctrl+,")},
-        {.menu = kMenu, .name = "mnuoptsave", .text = "Save Options"},
-        {.menu = kMenu, .name = "mnueditor", .text = "Edit Number Values ...", .icon = "edit", .keys = Keys("Ctrl+E")},
+        {.menu = kMenu,
+         .name = "mnuoptset",
+         .text = "Options ...",
+         .icon = "options",
+         .keys = Keys("Ctrl+,"),
+         .handler = OpenOptionsWindow},
+        {.menu = kMenu, .name = "mnuoptsave", .text = "Save Options", .handler = Do<mnuoptsave_Click>},
+        {.menu = kMenu,
+         .name = "mnueditor",
+         .text = "Edit Number Values ...",
+         .icon = "edit",
+         .keys = Keys("Ctrl+E"),
+         .handler = OpenEditor},
         {.menu = kMenu, .name = "dash1", .text = "-"},
         {.menu = kView,
          .name = "cmdzoom",
@@ -79,7 +100,12 @@ std::vector<Command> TideCommands() {
         {.menu = kMenu, .name = "mnuhelp", .text = "Help", .icon = "help", .keys = Keys(QKeySequence::HelpContents)},
         {.menu = kMenu, .name = "mnuabout", .text = "About Tidewalk", .icon = "about"},
         {.menu = kMenu, .name = "dash3", .text = "-"},
-        {.menu = kMenu, .name = "mnuexit", .text = "Exit", .icon = "exit", .keys = Keys("Ctrl+Q")},
+        {.menu = kMenu,
+         .name = "mnuexit",
+         .text = "Exit",
+         .icon = "exit",
+         .keys = Keys("Ctrl+Q"),
+         .handler = Do<cmdexit_Click>},
     };
 }
 
@@ -151,8 +177,18 @@ std::vector<Command> PuzzleCommands() {
         {.menu = kMenu, .name = "mnupuzreset", .text = "Reset", .icon = "reset", .handler = Do<mnupuzreset_Click>},
         {.menu = kMenu, .name = "dash6", .text = "-"},
         {.menu = kMenu, .name = "mnuexport", .text = "Export Puzzle", .icon = "export"},
-        {.menu = kMenu, .name = "mnuimport", .text = "Import", .icon = "import", .keys = Keys("Ctrl+I")},
-        {.menu = kMenu, .name = "mnupastepuzzle", .text = "Paste", .icon = "paste", .keys = Keys(QKeySequence::Paste)},
+        {.menu = kMenu,
+         .name = "mnuimport",
+         .text = "Import",
+         .icon = "import",
+         .keys = Keys("Ctrl+I"),
+         .handler = Do<mnuimport_Click>},
+        {.menu = kMenu,
+         .name = "mnupastepuzzle",
+         .text = "Paste",
+         .icon = "paste",
+         .keys = Keys(QKeySequence::Paste),
+         .handler = Do<mnupastepuzzle_Click>},
         {.menu = kMenu, .name = "dash7", .text = "-"},
         {.menu = kMaintenance, .name = "Command3", .text = "Convert Old Layout"},
         {.menu = kMaintenance, .name = "Command4", .text = "Create Random Sizes"},
@@ -230,7 +266,8 @@ std::vector<Command> ToolBarOnlyCommands() {
          .text = "Edit Number Values",
          .bar = 9,
          .icon = "edit",
-         .toolTip = "Edit or import number values"},
+         .toolTip = "Edit or import number values",
+         .handler = OpenEditor},
         {.name = "dash13", .text = "-", .bar = 10},
         {.name = "cmdviewcol",
          .text = "View Solution",
@@ -249,7 +286,7 @@ std::vector<Command> ToolBarOnlyCommands() {
         {.name = "GridSize", .bar = 20, .toolTip = "Set grid size (7x7 to 25x25)|Rightclick to set random size"},
         {.name = "cmdcancel", .text = "Cancel", .bar = 21, .icon = "cancel", .toolTip = "Cancel"},
         {.name = "dash16", .text = "-", .bar = 22},
-        {.name = "cmdexit", .text = "Exit", .bar = 23, .icon = "exit", .toolTip = "Exit"},
+        {.name = "cmdexit", .text = "Exit", .bar = 23, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
     };
 }
 

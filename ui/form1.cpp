@@ -16,6 +16,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "program/exit.h"
 #include "ui/box_control.h"
 #include "ui/icons.h"
 #include "ui/lines_view.h"
@@ -298,7 +299,7 @@ void Form1::TakeDefaultSize() {
 
 void Form1::closeEvent(QCloseEvent* event) {
     event->accept();
-    handlers_.End();
+    handlers_.Run(Form_QueryUnload);
 }
 
 void Form1::changeEvent(QEvent* event) {
