@@ -34,9 +34,9 @@ Form2::Form2(Handlers& handlers, QWidget* parent)
       label1_(new Swatch(Swatch::Shape::Number, "Label1")),
       label2_(new Swatch(Swatch::Shape::Island, "Label2")),
       text3_(new QLineEdit),
-      option1_(new QRadioButton(tr("S&quare"))),
-      option2_(new QRadioButton(tr("&Circle"))),
-      check1_(new QCheckBox(tr("S&how"))) {
+      option1_(new QRadioButton("Square")),
+      option2_(new QRadioButton("Circle")),
+      check1_(new QCheckBox("Show")) {
     setObjectName("Form2");
     setWindowTitle("Tide Options");
     auto* const small = new QHBoxLayout;
@@ -116,7 +116,7 @@ void Form2::AddColourRow(QGridLayout* layout, QPushButton* button, Swatch* swatc
 }
 
 QWidget* Form2::NodeShapeBox() {
-    auto* const box = new QGroupBox(tr("Node shape"));
+    auto* const box = new QGroupBox("Node shape");
     auto* const layout = new QVBoxLayout(box);
     option1_->setObjectName("Option1");
     option2_->setObjectName("Option2");
@@ -130,7 +130,7 @@ QWidget* Form2::NodeShapeBox() {
 }
 
 QWidget* Form2::LinesBox() {
-    auto* const box = new QGroupBox(tr("Show lines between cells"));
+    auto* const box = new QGroupBox("Show lines between cells");
     auto* const layout = new QVBoxLayout(box);
     check1_->setObjectName("Check1");
     layout->addWidget(check1_);
