@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "board/layout.h"
+#include "model/contrast.h"
 #include "model/numbers.h"
 
 namespace tidewalk {
@@ -105,7 +106,9 @@ void DrawIsland(Game& game, CellNumber id) {
         const double side = half - half / 4;
         picture.FilledBox(x - side, y - side, x + side, y + side, game.NodeColour);
     }
-    picture.Print(x + dx, y + dy, text, game.GivenColour);
+    // A number in the colour of its island would be invisible, and the options do not keep anyone from choosing that.
+    constexpr double kLeastContrast = 2.0;
+    picture.Print(x + dx, y + dy, text, LegibleOn(game.NodeColour, game.GivenColour, kLeastContrast));
 }
 
 void DrawLinkLine(Game& game, CellNumber a, CellNumber b) {

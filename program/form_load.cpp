@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "program/form_load.h"
 
+#include "model/config_file.h"
 #include "model/load_puzzle.h"
 #include "model/paths.h"
+#include "options/colour_scheme.h"
 #include "program/first_collection.h"
 
 namespace tidewalk {
@@ -28,6 +30,14 @@ std::optional<std::string> ReadSchemeNames(Game& game) {
     return std::nullopt;
 }
 
+/// Loads what the command line asks for; true when that was done.
+bool LoadRequested(Game& game, const StartRequest& request) {
+    if (request.collection.empty()) return false;
+    if (LoadPuzzle(game, request.collection, request.puzzleNumber.value_or(1)) == 0) return true;
+    game.files.CloseAll();
+    return false;
+}
+
 }  // namespace
 
 std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
@@ -36,10 +46,12 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
     game.ColourListPath = game.AppFolder + "all.col";
     if (auto fatal = ReadSchemeNames(game)) return fatal;
 
-    if (!request.collection.empty()) {
-        game.CollectionPath = request.collection;
-        game.PuzzleNumber = request.puzzleNumber.value_or(1);
-    }
+    ReadcfgFile(game);
+    Colour backColour = 0;
+    LoadColourScheme(game, game.ColourSchemeName, backColour);
+    ApplyColourScheme(game);
+
+    if (LoadRequested(game, request)) return std::nullopt;
     if (FileLength(game.CollectionPath) == 0) {
         game.CollectionPath = game.AppFolder + "puzzles.txt";
         game.PuzzleNumber = 1;

@@ -18,6 +18,7 @@
 #include <algorithm>
 
 #include "generator/new_puzzle.h"
+#include "program/exit.h"
 #include "ui/box_control.h"
 #include "ui/icons.h"
 #include "ui/lines_view.h"
@@ -305,7 +306,7 @@ void Form1::TakeDefaultSize() {
 
 void Form1::closeEvent(QCloseEvent* event) {
     event->accept();
-    handlers_.End();
+    handlers_.Run(Form_QueryUnload);
 }
 
 void Form1::changeEvent(QEvent* event) {

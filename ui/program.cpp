@@ -16,7 +16,17 @@ Program::Program()
       window_(form1_, handlers_),
       pictures_(form1_.Container(), handlers_),
       events_(handlers_),
-      game_(std::make_unique<Game>(Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_, form3_})) {
+      form2_(handlers_, &form1_),
+      form6_(handlers_, &form1_),
+      game_(std::make_unique<Game>(Seams{.prompts = prompts_,
+                                         .filePicker = filePicker_,
+                                         .window = window_,
+                                         .pictures = pictures_,
+                                         .board = board_,
+                                         .events = events_,
+                                         .clock = clock_,
+                                         .batchWindow = form3_,
+                                         .clipboard = clipboard_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
     handlers_.Attach(*game_);

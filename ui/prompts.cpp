@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <cstdio>
 
+#include "ui/colours.h"
 #include "ui/msg_form.h"
 
 namespace tidewalk {
@@ -26,6 +27,7 @@ int QtPrompts::Show(const std::string& text, std::string_view style) {
     const MessageStyle parsed = ParseMessageStyle(style);
     if (Silent(text)) return parsed.FrameAnswer();
     MsgForm box(text, parsed, caption_, Parent());
+    if (const Game* const game = handlers_.game()) ColourFrame(box, ColoursOfMessages(*game, game->window));
     QObject::connect(&handlers_, &Handlers::Ending, &box, &QDialog::reject);
     return box.exec();
 }
