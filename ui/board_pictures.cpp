@@ -104,7 +104,12 @@ void BoardView::PaintLine1(QPainter& painter, const Game& game) const {
     const double radius = Pixels(game.HalfCell) - 1;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(ToQColor(game.ChainColour), 2, Qt::DashLine, Qt::RoundCap));
-    painter.drawLine(from, to);
+    // Inside the ring the line would only strike the island's number out.
+    QLineF band(from, to);
+    if (band.length() > radius) {
+        band.setP1(band.pointAt(radius / band.length()));
+        painter.drawLine(band);
+    }
     painter.setPen(QPen(ToQColor(game.Picture1BackColor), 4));
     painter.drawEllipse(from, radius, radius);
     painter.setPen(QPen(ToQColor(game.ChainColour), 2));

@@ -218,10 +218,23 @@ void Form1::AddDock(LinesView* list, const QString& title) {
     QAction* const toggle = dock->toggleViewAction();
     toggle->setObjectName("view" + list->objectName());
     MenuAt("Tide/View")->addAction(toggle);
+    connect(toggle, &QAction::triggered, this, [this, dock](bool shown) {
+        if (shown) MakeRoomFor(dock);
+    });
     // The list is the receiver, since docks still tell when the window is gone.
     connect(dock, &QDockWidget::visibilityChanged, list, [list](bool visible) {
         if (visible) list->Refresh();
     });
+}
+
+/// Widens the window for the first dock, so that the board keeps its place.
+void Form1::MakeRoomFor(const QDockWidget* dock) {
+    for (const QDockWidget* const other : findChildren<QDockWidget*>()) {
+        if (other != dock && other->isVisible()) return;
+    }
+    const int more = dock->sizeHint().width();
+    const bool fits = frameGeometry().width() + more <= screen()->availableSize().width();
+    if (!isMaximized() && !isFullScreen() && fits) resize(width() + more, height());
 }
 
 void Form1::AddStatusLine() {

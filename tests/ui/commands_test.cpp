@@ -66,8 +66,8 @@ TEST(Commands, TheMenuBarHasItsFourMenus) {
 }
 
 TEST(ToolTip, TheHintStandsUnderTheCaptionAndTextStaysText) {
-    EXPECT_EQ(ToolTipText("Zoom in"), "<qt>Zoom in</qt>");
-    EXPECT_EQ(ToolTipText("Set <size>|A & B"), "<qt><b>Set &lt;size&gt;</b><br>A &amp; B</qt>");
+    EXPECT_EQ(ToolTipText("Zoom in"), "<p style='white-space:pre'>Zoom in</p>");
+    EXPECT_EQ(ToolTipText("Set <size>|A & B"), "<p style='white-space:pre'><b>Set &lt;size&gt;</b><br>A &amp; B</p>");
     EXPECT_EQ(CaptionOf("Set|hint"), "Set");
     EXPECT_EQ(ToolTipText(""), "");
 }
