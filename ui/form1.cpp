@@ -42,6 +42,17 @@ QString ToolTipOf(const Command& command) {
     return QString(QLatin1String(*command.toolTip != '\0' ? command.toolTip : command.text));
 }
 
+/// The title with a mark before its first letter that no other menu of the bar is opened with.
+QString WithMnemonic(const QString& title, const QMenuBar& bar) {
+    QString taken;
+    for (const QAction* const menu : bar.actions())
+        taken += menu->text().section('&', 1).left(1);
+    for (qsizetype at = 0; at < title.size(); ++at) {
+        if (!taken.contains(title.at(at), Qt::CaseInsensitive)) return title.left(at) + "&" + title.mid(at);
+    }
+    return title;
+}
+
 /// A text box as wide as `sample`.
 void FitWidth(QLineEdit* box, const QString& sample) {
     constexpr int kFrame = 18;
@@ -95,7 +106,7 @@ QMenu* Form1::MenuAt(const QString& path) {
     if (menu != nullptr) return menu;
     const QString parent = path.section('/', 0, -2);
     const QString title = path.section('/', -1);
-    menu = parent.isEmpty() ? menuBar()->addMenu("&" + title) : MenuAt(parent)->addMenu(title);
+    menu = parent.isEmpty() ? menuBar()->addMenu(WithMnemonic(title, *menuBar())) : MenuAt(parent)->addMenu(title);
     return menu;
 }
 

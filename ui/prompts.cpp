@@ -47,7 +47,6 @@ int QtPrompts::Show(const std::string& text, std::string_view style) {
     if (Silent(text)) return parsed.FrameAnswer();
     const ArrowPointer arrow;
     MsgForm box(text, parsed, caption_, Parent());
-    QObject::connect(&handlers_, &Handlers::Ending, &box, &QDialog::reject);
     return box.exec();
 }
 
@@ -59,7 +58,6 @@ int QtPrompts::SystemBox(const std::string& text, SystemButtons buttons) {
                     QString::fromStdString(text).replace("\r\n", "\n"),
                     yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, Parent());
     box.setTextFormat(Qt::PlainText);
-    QObject::connect(&handlers_, &Handlers::Ending, &box, &QDialog::reject);
     if (!yesNo) {
         box.exec();
         return kOk;

@@ -59,8 +59,10 @@ TEST(Commands, NamesPlacesAndShortcutsAreTheirOwn) {
 TEST(Commands, TheMenuBarHasItsFourMenus) {
     WindowGame window;
     std::vector<std::string> titles;
+    std::set<QString> mnemonics;
     for (const QAction* const menu : window.form().menuBar()->actions()) {
         titles.push_back(menu->text().remove('&').toStdString());
+        EXPECT_TRUE(mnemonics.insert(menu->text().section('&', 1).left(1).toLower()).second) << titles.back();
     }
     EXPECT_EQ(titles, (std::vector<std::string>{"Tide", "Puzzle", "Solve", "Print"}));
 }
