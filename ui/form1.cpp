@@ -44,6 +44,17 @@ QString ToolTipOf(const Command& command) {
     return QString(QLatin1String(*command.toolTip != '\0' ? command.toolTip : command.text));
 }
 
+/// The title with a mark before its first letter that no other menu of the bar is opened with.
+QString WithMnemonic(const QString& title, const QMenuBar& bar) {
+    QString taken;
+    for (const QAction* const menu : bar.actions())
+        taken += menu->text().section('&', 1).left(1);
+    for (qsizetype at = 0; at < title.size(); ++at) {
+        if (!taken.contains(title.at(at), Qt::CaseInsensitive)) return title.left(at) + "&" + title.mid(at);
+    }
+    return title;
+}
+
 /// A text box as wide as `sample`.
 void FitWidth(QLineEdit* box, const QString& sample) {
     constexpr int kFrame = 18;
@@ -97,7 +108,7 @@ QMenu* Form1::MenuAt(const QString& path) {
     if (menu != nullptr) return menu;
     const QString parent = path.section('/', 0, -2);
     const QString title = path.section('/', -1);
-    menu = parent.isEmpty() ? menuBar()->addMenu("&" + title) : MenuAt(parent)->addMenu(title);
+    menu = parent.isEmpty() ? menuBar()->addMenu(WithMnemonic(title, *menuBar())) : MenuAt(parent)->addMenu(title);
     return menu;
 }
 
@@ -220,10 +231,23 @@ void Form1::AddDock(LinesView* list, const QString& title) {
     QAction* const toggle = dock->toggleViewAction();
     toggle->setObjectName("view" + list->objectName());
     MenuAt("Tide/View")->addAction(toggle);
+    connect(toggle, &QAction::triggered, this, [this, dock](bool shown) {
+        if (shown) MakeRoomFor(dock);
+    });
     // The list is the receiver, since docks still tell when the window is gone.
     connect(dock, &QDockWidget::visibilityChanged, list, [list](bool visible) {
         if (visible) list->Refresh();
     });
+}
+
+/// Widens the window for the first dock, so that the board keeps its place.
+void Form1::MakeRoomFor(const QDockWidget* dock) {
+    for (const QDockWidget* const other : findChildren<QDockWidget*>()) {
+        if (other != dock && other->isVisible()) return;
+    }
+    const int more = dock->sizeHint().width();
+    const bool fits = frameGeometry().width() + more <= screen()->availableSize().width();
+    if (!isMaximized() && !isFullScreen() && fits) resize(width() + more, height());
 }
 
 void Form1::AddStatusLine() {

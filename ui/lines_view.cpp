@@ -37,7 +37,7 @@ LinesView::LinesView(const QString& name, QWidget* parent) : QListView(parent), 
 }
 
 QSize LinesView::sizeHint() const {
-    constexpr int kCharacters = 20;
+    constexpr int kCharacters = 24;
     return {fontMetrics().averageCharWidth() * kCharacters, QListView::sizeHint().height()};
 }
 

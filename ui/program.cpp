@@ -1,9 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "ui/program.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialog>
 
 namespace tidewalk {
+
+namespace {
+
+/// Leaves every box and side window as its frame would, so that the handlers which wait for them return.
+void LeaveDialogs() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        auto* const dialog = qobject_cast<QDialog*>(window);
+        if (dialog != nullptr && dialog->isVisible()) dialog->reject();
+    }
+}
+
+}  // namespace
 
 Program::Program()
     : form1_(handlers_,
@@ -30,6 +43,7 @@ Program::Program()
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
     handlers_.Attach(*game_);
+    QObject::connect(&handlers_, &Handlers::Ending, &form1_, LeaveDialogs);
     form1_.Show(*game_);
 }
 

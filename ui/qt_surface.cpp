@@ -98,9 +98,12 @@ void QtSurface::Line(double x1, double y1, double x2, double y2, Colour colour) 
 
 void QtSurface::Box(double x1, double y1, double x2, double y2, Colour colour) {
     if (!Begin()) return;
+    // Upright edges on whole pixels need no smoothing, which would only cost time.
+    painter_.setRenderHint(QPainter::Antialiasing, false);
     painter_.setPen(Pen(colour));
     painter_.setBrush(Qt::NoBrush);
     painter_.drawRect(QRectF(SnappedCorner(x1, y1), SnappedCorner(x2, y2)));
+    painter_.setRenderHint(QPainter::Antialiasing);
 }
 
 void QtSurface::FilledBox(double x1, double y1, double x2, double y2, Colour colour) {

@@ -72,7 +72,7 @@ TEST(BoardPlay, ClicksCycleABridgeAndShiftAndTheRightButtonShortenTheWay) {
 
 TEST(BoardPlay, AQuickSecondClickIsAClickToo) {
     WindowGame window;
-    QTest::mouseMove(&window.board(), window.IslandAt(1, 3));
+    window.MoveTo(window.IslandAt(1, 3));
     QTest::mouseClick(&window.board(), Qt::LeftButton, {}, window.IslandAt(1, 3));
     EXPECT_TRUE(window.game().Line1.visible);
     // Qt sends the second press as a double click.
@@ -82,7 +82,7 @@ TEST(BoardPlay, AQuickSecondClickIsAClickToo) {
 
 TEST(BoardPlay, AReleaseBesideTheBoardIsNoClick) {
     WindowGame window;
-    QTest::mouseMove(&window.board(), window.IslandAt(1, 3));
+    window.MoveTo(window.IslandAt(1, 3));
     QTest::mousePress(&window.board(), Qt::LeftButton, {}, window.IslandAt(1, 3));
     const QPoint outside(-3, 5);
     QMouseEvent release(QEvent::MouseButtonRelease, outside, window.board().mapToGlobal(outside), Qt::LeftButton,
@@ -97,9 +97,7 @@ TEST(BoardPlay, TheBoardFollowsADragAndComesBackToTheMiddleOnResize) {
     const QPoint grip(5, 5);
     QTest::mousePress(&window.board(), Qt::LeftButton, {}, grip);
     const QPoint global = window.board().mapToGlobal(grip) + QPoint(40, -25);
-    QMouseEvent move(QEvent::MouseMove, window.board().mapFromGlobal(global), global, Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(&window.board(), &move);
+    window.MoveTo(window.board().mapFromGlobal(global), Qt::LeftButton);
     EXPECT_EQ(window.board().pos() - before, QPoint(40, -25));
     window.form().resize(window.form().size() + QSize(60, 40));
     QCoreApplication::processEvents();
@@ -133,6 +131,21 @@ TEST(BoardPlay, TheSolutionShowsWhileItsButtonIsHeld) {
     EXPECT_NE(window.board().grab().toImage(), played);
     QTest::keyRelease(&window.Button("cmdviewcol"), Qt::Key_Space);
     EXPECT_EQ(window.board().grab().toImage(), played);
+}
+
+TEST(BoardPlay, TheBoardIsAsFineAsTheScreen) {
+    WindowGame window;
+    const QImage image = window.board().grab().toImage();
+    const qreal ratio = window.board().devicePixelRatioF();
+    ASSERT_EQ(image.size(), (QSizeF(window.board().size()) * ratio).toSize());
+    if (ratio != 2) return;
+    int finer = 0;
+    for (int y = 0; y + 1 < image.height(); y += 2) {
+        for (int x = 0; x + 1 < image.width(); x += 2) {
+            if (image.pixel(x, y) != image.pixel(x + 1, y) || image.pixel(x, y) != image.pixel(x, y + 1)) ++finer;
+        }
+    }
+    EXPECT_GT(finer, 50) << "a picture that was only enlarged has none of these";
 }
 
 TEST(BoardPlay, MovesShowInTheUndoListAndAreTakenBack) {

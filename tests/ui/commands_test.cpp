@@ -59,15 +59,17 @@ TEST(Commands, NamesPlacesAndShortcutsAreTheirOwn) {
 TEST(Commands, TheMenuBarHasItsFourMenus) {
     WindowGame window;
     std::vector<std::string> titles;
+    std::set<QString> mnemonics;
     for (const QAction* const menu : window.form().menuBar()->actions()) {
         titles.push_back(menu->text().remove('&').toStdString());
+        EXPECT_TRUE(mnemonics.insert(menu->text().section('&', 1).left(1).toLower()).second) << titles.back();
     }
     EXPECT_EQ(titles, (std::vector<std::string>{"Tide", "Puzzle", "Solve", "Print"}));
 }
 
 TEST(ToolTip, TheHintStandsUnderTheCaptionAndTextStaysText) {
-    EXPECT_EQ(ToolTipText("Zoom in"), "<qt>Zoom in</qt>");
-    EXPECT_EQ(ToolTipText("Set <size>|A & B"), "<qt><b>Set &lt;size&gt;</b><br>A &amp; B</qt>");
+    EXPECT_EQ(ToolTipText("Zoom in"), "<p style='white-space:pre'>Zoom in</p>");
+    EXPECT_EQ(ToolTipText("Set <size>|A & B"), "<p style='white-space:pre'><b>Set &lt;size&gt;</b><br>A &amp; B</p>");
     EXPECT_EQ(CaptionOf("Set|hint"), "Set");
     EXPECT_EQ(ToolTipText(""), "");
 }

@@ -57,6 +57,21 @@ TEST(QtSurface, LinesFillWholePixelsAtEveryRatio) {
     }
 }
 
+TEST(QtSurface, ABoxLiesOnTheSamePixelsAsLinesAlongItsEdges) {
+    for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        for (const double at : {150.0, 154.0, 157.5, 161.0}) {
+            const QImage box = Drawn(ratio, [&](Surface& surface) { surface.Box(at, at, 400, 400, kRed); });
+            const QImage lines = Drawn(ratio, [&](Surface& surface) {
+                surface.Line(at, at, 400, at, kRed);
+                surface.Line(at, 400, 400, 400, kRed);
+                surface.Line(at, at, at, 400, kRed);
+                surface.Line(400, at, 400, 400, kRed);
+            });
+            EXPECT_EQ(box, lines) << ratio << " " << at;
+        }
+    }
+}
+
 TEST(QtSurface, ACircleOfOneColourIsExactlyAsWideAsItIsToBe) {
     for (const double ratio : {1.0, 2.0}) {
         const QImage image = Drawn(ratio, [](Surface& surface) { surface.Circle(300, 300, 150, kRed, kRed); });

@@ -33,8 +33,14 @@ QPoint WindowGame::IslandAt(int row, int col) {
     return {qRound(game().IslandX[id] / kTwipsPerPixel), qRound(game().IslandY[id] / kTwipsPerPixel)};
 }
 
+void WindowGame::MoveTo(QPoint onBoard, Qt::MouseButtons held) {
+    // QTest moves the real pointer instead, which does not leave the screen that there is.
+    QMouseEvent move(QEvent::MouseMove, onBoard, board().mapToGlobal(onBoard), Qt::NoButton, held, Qt::NoModifier);
+    QApplication::sendEvent(&board(), &move);
+}
+
 void WindowGame::ClickIsland(int row, int col, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
-    QTest::mouseMove(&board(), IslandAt(row, col));
+    MoveTo(IslandAt(row, col));
     QTest::mouseClick(&board(), button, modifiers, IslandAt(row, col));
 }
 
@@ -43,7 +49,7 @@ int WindowGame::Bridges(int row1, int col1, int row2, int col2) {
 }
 
 QColor WindowGame::ColourAt(QPoint onBoard) {
-    return board().grab().toImage().pixelColor(onBoard);
+    return board().grab().toImage().pixelColor(onBoard * board().devicePixelRatio());
 }
 
 BoxAnswer::BoxAnswer(std::string text, QString press) : text_(std::move(text)), press_(std::move(press)) {

@@ -37,6 +37,7 @@ class WindowGame {
 
     /// Where the island of a cell lies on the board's widget, in pixels.
     QPoint IslandAt(int row, int col);
+    void MoveTo(QPoint onBoard, Qt::MouseButtons held = Qt::NoButton);
     /// Moves to an island and clicks it.
     void ClickIsland(int row, int col, Qt::MouseButton button = Qt::LeftButton,
                      Qt::KeyboardModifiers modifiers = Qt::NoModifier);

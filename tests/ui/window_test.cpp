@@ -129,6 +129,22 @@ TEST(Window, WearsTheColoursOfAScheme) {
     EXPECT_EQ(palette.color(QPalette::ButtonText), QColor(Qt::black));
 }
 
+TEST(Window, TabGoesThroughTheToolBarToTheBoardAndTheUndoList) {
+    WindowGame window;
+    QStringList order;
+    QWidget* at = &window.Button("arrows0");
+    const QStringList wanted = {"arrows0", "arrows1", "arrows2", "PuzNumNow", "cmdload", "Picture1", "UndoList"};
+    do {
+        if (wanted.contains(at->objectName())) order += at->objectName();
+        at = at->nextInFocusChain();
+    } while (at != &window.Button("arrows0"));
+    EXPECT_EQ(order.join(' ').toStdString(), wanted.join(' ').toStdString());
+}
+
+TEST(FilePicker, FiltersByThePatternsAndOffersAllFiles) {
+    EXPECT_EQ(FileFilter("*.tdw;*.txt;*.dat", "Tidewalk Files"), "Tidewalk Files (*.tdw *.txt *.dat);;All files (*)");
+}
+
 TEST(Window, StartsWithTheBoardInFocusAndASquareContainer) {
     WindowGame window;
     EXPECT_EQ(window.form().focusWidget(), &window.board());
