@@ -5,6 +5,7 @@
 #include <string>
 
 #include "model/board_state.h"
+#include "model/growth_tables.h"
 #include "model/list_box.h"
 #include "model/numbered_files.h"
 #include "model/options.h"
@@ -19,7 +20,7 @@ namespace tidewalk {
 /// seam. Each subject is a struct of its own, inherited so that every field is reached under its own name.
 ///
 /// A game is large; make it on the heap. Several games do not share anything.
-struct Game : Puzzle, SolverTables, BoardState, Options {
+struct Game : Puzzle, SolverTables, GrowthTables, BoardState, Options {
     explicit Game(const Seams& seams)
         : prompts(seams.prompts),
           filePicker(seams.filePicker),
@@ -28,6 +29,7 @@ struct Game : Puzzle, SolverTables, BoardState, Options {
           board(seams.board),
           events(seams.events),
           clock(seams.clock),
+          batchWindow(seams.batchWindow),
           clipboard(seams.clipboard),
           random(seams.clock) {}
     Game(const Game&) = delete;
@@ -40,6 +42,7 @@ struct Game : Puzzle, SolverTables, BoardState, Options {
     BoardRoutines& board;
     PendingEvents& events;
     Clock& clock;
+    BatchWindow& batchWindow;
     Clipboard& clipboard;
 
     std::string AppFolder;         ///< the program's folder, with a separator at its end

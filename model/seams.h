@@ -140,6 +140,23 @@ class PendingEvents {
     virtual void DoEvents() = 0;
 };
 
+/// What the window for batches asks: the texts as they were typed.
+struct BatchRequest {
+    std::string count;
+    std::string rows;
+    std::string cols;
+    std::string outputFile;
+};
+
+/// The window that asks for a batch of new puzzles.
+class BatchWindow {
+ public:
+    virtual ~BatchWindow() = default;
+
+    /// Shows the window until the player ends it. True when OK was accepted; `request` then holds what was typed.
+    virtual bool Ask(BatchRequest& request) = 0;
+};
+
 /// One reference to each seam.
 struct Seams {
     Prompts& prompts;
@@ -149,6 +166,7 @@ struct Seams {
     BoardRoutines& board;
     PendingEvents& events;
     Clock& clock;
+    BatchWindow& batchWindow;
     Clipboard& clipboard;
 };
 

@@ -26,6 +26,9 @@ int TakeGivenNumbers(Game& game) {
 
 Outcome Solve(Game& game) {
     const Job job(game);
+    game.window.SetText(Control::pb, "Auto solving ...");
+    LetEventsThrough(game);
+    if (job.Superseded()) return Outcome::Superseded;
     game.TrialLimit = 0;
     int trials = 0;
     const int failed = SolvePuzzle(game, game.CellCount, trials);
@@ -64,8 +67,6 @@ void mnuautosol_Click(Game& game) {
         game.prompts.Show("Set the puzzle first", "vbinformation+vbok");
         return;
     }
-    game.window.SetText(Control::pb, "Auto solving ...");
-    LetEventsThrough(game);
     const Outcome outcome = Solve(game);
     if (game.ending) return;
     if (outcome == Outcome::Failed) GiveUp(game);

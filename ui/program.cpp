@@ -18,7 +18,7 @@ Program::Program()
       form2_(handlers_, &form1_),
       form6_(handlers_, &form1_),
       game_(std::make_unique<Game>(
-          Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_, clipboard_})) {
+          Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_, noBatchWindow_, clipboard_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
     handlers_.Attach(*game_);

@@ -48,6 +48,10 @@ class Program final {
     DrawnBoard board_;
     QtPendingEvents events_;
     SystemClock clock_;
+    // The command that asks for many puzzles stands disabled as long as it has no window.
+    struct : BatchWindow {
+        bool Ask(BatchRequest& /*request*/) override { return false; }
+    } noBatchWindow_;
     QtClipboard clipboard_;
     Form2 form2_;
     Form6 form6_;

@@ -24,7 +24,8 @@ class ExpectedPrompts final : public Prompts {
     void Expect(std::string text, std::string style, int answer);
     /// The next box has to be this plain one of the system.
     void ExpectSystemBox(std::string text, SystemButtons buttons, int answer);
-    /// From now on every box is answered with `answer`, for tests of inputs that may or may not be refused.
+    /// From now on every box is fine and answered with Ok.
+    void AllowAnything() { allowAnything_ = true; }
     void AnswerAll(int answer) { answerToAll_ = answer; }
     /// Fails when a box that was expected has not come yet.
     void Verify();
@@ -41,6 +42,7 @@ class ExpectedPrompts final : public Prompts {
     int Answer(const std::string& text, const std::string& style);
 
     std::deque<Expected> expected_;
+    bool allowAnything_ = false;
     std::optional<int> answerToAll_;
 };
 
@@ -56,6 +58,20 @@ class ExpectedFiles final : public FilePicker {
 
  private:
     std::deque<std::string> answers_;
+};
+
+/// Answers with a request that was typed, or as a window that is left without OK.
+class BatchDouble final : public BatchWindow {
+ public:
+    bool Ask(BatchRequest& request) override {
+        ++timesAsked;
+        if (accepted) request = typed;
+        return accepted;
+    }
+
+    BatchRequest typed;
+    bool accepted = true;
+    int timesAsked = 0;
 };
 
 /// Remembers the texts and states of the main window.

@@ -42,7 +42,8 @@ std::string TempFolder::Read(const std::string& name) const {
 
 TestGame::TestGame()
     : Game(Seams{SeamDoubles::prompts, SeamDoubles::filePicker, SeamDoubles::window, SeamDoubles::pictures,
-                 SeamDoubles::board, SeamDoubles::events, SeamDoubles::clock, SeamDoubles::clipboard}) {
+                 SeamDoubles::board, SeamDoubles::events, SeamDoubles::clock, SeamDoubles::batchWindow,
+                 SeamDoubles::clipboard}) {
     AppFolder = folder.Path("");
     random.UseSeed(1);
 }

@@ -40,6 +40,7 @@ struct SeamDoubles {
     DrawnBoard board;
     EventsDouble events;
     ClockDouble clock;
+    BatchDouble batchWindow;
     ClipboardDouble clipboard;
 };
 
@@ -53,6 +54,7 @@ class TestGame : private SeamDoubles, public Game {
     /// Loads puzzle `number` of the collection.
     int Load(int number);
 
+    using Game::board;
     using SeamDoubles::folder;
     ExpectedPrompts& prompts = SeamDoubles::prompts;
     ExpectedFiles& filePicker = SeamDoubles::filePicker;
@@ -60,13 +62,14 @@ class TestGame : private SeamDoubles, public Game {
     PicturesDouble& pictures = SeamDoubles::pictures;
     EventsDouble& events = SeamDoubles::events;
     ClockDouble& clock = SeamDoubles::clock;
+    BatchDouble& batchWindow = SeamDoubles::batchWindow;
     ClipboardDouble& clipboard = SeamDoubles::clipboard;
 };
 
 /// A record with the header that `rows` need and these rows of the board.
 std::string Record(const std::vector<std::string>& rows);
 
-/// A small puzzle of 7x7 with its solution, eleven bridges on eight links.
+/// A small puzzle of 7x7 with its solution on ten links.
 extern const char* const kSmallPuzzle;
 
 }  // namespace tidewalk::test

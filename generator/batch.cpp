@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: MIT
+#include "generator/batch.h"
+
+#include <functional>
+
+#include "generator/create_puzzle.h"
+#include "generator/new_puzzle.h"
+#include "model/job.h"
+#include "model/numbers.h"
+#include "model/paths.h"
+#include "model/write_puzzle_record.h"
+
+namespace tidewalk {
+
+namespace {
+
+constexpr int kYes = 6;
+
+struct Size {
+    int rows;
+    int cols;
+};
+
+/// A batch to make.
+struct Batch {
+    int count;
+    std::string path;                              ///< the file that the puzzles are appended to
+    std::function<Size()> sizeOfNext;              ///< asked once for every puzzle
+    std::function<std::string(int, Size)> status;  ///< the status line for the puzzle of that number
+};
+
+/// Keeps the board out of the player's reach and off the screen for as long as it lives.
+class FrozenBoard {
+ public:
+    explicit FrozenBoard(Game& game) : game_(game) {
+        game_.pictures.Freeze(true);
+        game_.pictures.SetEnabled(false);
+    }
+    ~FrozenBoard() {
+        game_.pictures.Freeze(false);
+        game_.pictures.SetEnabled(true);
+    }
+    FrozenBoard(const FrozenBoard&) = delete;
+    FrozenBoard& operator=(const FrozenBoard&) = delete;
+
+ private:
+    Game& game_;
+};
+
+/// Makes one puzzle of the size, again from the start when another puzzle was loaded in the middle. Whether it was
+/// solved is not asked: the record of a failure holds its last layout.
+void CreateInBatch(Game& game, Job& job, Size size) {
+    do {
+        job.Adopt();
+        game.Rows = size.rows;
+        game.Cols = size.cols;
+        int grade = 0;
+        int failed = 0;
+        CreatePuzzle(game, grade, failed);
+    } while (job.Superseded() && !game.ending);
+    game.BusyFlag = YesValue;
+}
+
+/// Makes the puzzles, appends each and counts them in `written`. Throws FileError when one cannot be.
+void MakePuzzles(Game& game, Job& job, const Batch& batch, int& written) {
+    while (written < batch.count) {
+        const Size size = batch.sizeOfNext();
+        game.window.SetText(Control::pb, batch.status(written + 1, size));
+        game.window.SetProgress(written, batch.count);
+        CreateInBatch(game, job, size);
+        if (game.ending) return;
+        WritePuzzleRecord(game, batch.path, 1);
+        ++written;
+        PollEvents(game);
+        if (game.ending) return;
+    }
+}
+
+/// Runs the batch and gives the player the board back as it was. True when all puzzles were written; a failure is told.
+bool RunBatch(Game& game, const Batch& batch) {
+    int written = 0;
+    std::string failure;
+    {
+        const BusyPointer pointer(game);
+        {
+            Job job(game);
+            game.pictures.Picture1().Clear(game.Picture1BackColor);
+            game.events.DoEvents();
+            const FrozenBoard frozen(game);
+            try {
+                MakePuzzles(game, job, batch, written);
+            } catch (const FileError& error) {
+                game.files.CloseAll();
+                failure = error.what();
+            }
+        }
+        if (game.ending) return false;
+        ReloadPuzzle(game, game.CollectionPath, game.PuzzleNumber);
+    }
+    if (failure.empty()) return true;
+    game.prompts.Show("The puzzles could not all be written:\r\n" + failure + "\r\n\r\n" + NumText(written) + " of" +
+                          Str(batch.count) + " puzzles were written.",
+                      "vbcritical+vbok");
+    game.window.SetText(Control::pb, "");
+    return false;
+}
+
+bool IsCreatable(int count, Size size) {
+    return count >= 1 && IsCreatableSize(size.rows, size.cols);
+}
+
+Size SizeOf(const BatchRequest& request) {
+    return {RoundedVal(request.rows), RoundedVal(request.cols)};
+}
+
+}  // namespace
+
+bool Form3_Command1_Click(Game& game, BatchRequest& request) {
+    if (!IsCreatable(RoundedVal(request.count), SizeOf(request))) {
+        game.prompts.Show("Incorrect Number or Size of Puzzles", "vbok+vbcritical");
+        return false;
+    }
+    std::string path(Trim(request.outputFile));
+    const std::string name = FileNameOf(path);
+    // A path that ends in a separator names a folder and no file.
+    if (name.empty()) {
+        game.prompts.Show("Specify an output file", "vbok+vbcritical");
+        return false;
+    }
+    if (name.find('.') == std::string::npos) path += ".txt";
+    request.outputFile = path;
+    return true;
+}
+
+void mnucreatemany_Click(Game& game) {
+    if (RefuseWhileBusy(game)) return;
+    BatchRequest request;
+    if (!game.batchWindow.Ask(request)) return;
+    const int count = RoundedVal(request.count);
+    const Size size = SizeOf(request);
+    const std::string& path = request.outputFile;
+    if (!IsCreatable(count, size)) return;
+    const std::string question = "Create" + Str(count) + Str(size.rows) + "x" + NumText(size.cols) + " puzzles\r\n" +
+                                 "Output file: " + path + "\r\n\r\nProceed?";
+    if (game.prompts.Show(question, "vbquestion+vbyesno") != kYes) return;
+
+    const auto status = [&](int number, Size) { return "Creating puzzle" + Str(number) + " of" + Str(count); };
+    if (!RunBatch(game, {count, path, [&] { return size; }, status})) return;
+    game.prompts.Show("Created" + Str(count) + " puzzles in file:\r\n" + path, "vbinformation+vbok");
+    game.window.SetText(Control::pb, "");
+}
+
+void Command4_Click(Game& game) {
+    if (RefuseWhileBusy(game)) return;
+    constexpr int kCount = 1200;
+    const auto drawSize = [&] {
+        const int rows = DrawRandomSide(game);
+        return Size{rows, DrawRandomSide(game)};
+    };
+    const auto status = [](int number, Size size) {
+        return Format(size.rows, "00") + Format(size.cols, "00") + Str(number) + " of" + Str(kCount);
+    };
+    if (!RunBatch(game, {kCount, "rand1.txt", drawSize, status})) return;
+    game.prompts.SystemBox("done", SystemButtons::Ok);
+    game.window.SetText(Control::pb, "");
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+// Making many puzzles in a row and appending each to a file.
+#pragma once
+
+#include "model/game.h"
+
+namespace tidewalk {
+
+/// OK in the window for batches. True when what was typed is accepted; the output file has an extension then. Otherwise
+/// it says what is missing, and the window stays.
+bool Form3_Command1_Click(Game& game, BatchRequest& request);
+
+/// Asks for a number of puzzles, their size and a file, and makes them. A cancel cuts only one puzzle short: the file
+/// always grows by as many records as were asked for, unless it cannot be written or the window is closed.
+void mnucreatemany_Click(Game& game);
+
+/// Makes 1200 puzzles of random sizes into "rand1.txt" in the current directory.
+void Command4_Click(Game& game);
+
+}  // namespace tidewalk
