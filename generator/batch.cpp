@@ -6,6 +6,7 @@
 #include "generator/create_puzzle.h"
 #include "generator/new_puzzle.h"
 #include "model/job.h"
+#include "model/navigation.h"
 #include "model/numbers.h"
 #include "model/paths.h"
 #include "model/write_puzzle_record.h"
@@ -105,6 +106,11 @@ bool RunBatch(Game& game, const Batch& batch) {
     return false;
 }
 
+/// A folder with a dot in its name does not count as an extension.
+void AddTextExtension(std::string& path) {
+    if (FileNameOf(path).find('.') == std::string::npos) path += ".txt";
+}
+
 bool IsCreatable(int count, Size size) {
     return count >= 1 && IsCreatableSize(size.rows, size.cols);
 }
@@ -121,15 +127,22 @@ bool Form3_Command1_Click(Game& game, BatchRequest& request) {
         return false;
     }
     std::string path(Trim(request.outputFile));
-    const std::string name = FileNameOf(path);
     // A path that ends in a separator names a folder and no file.
-    if (name.empty()) {
+    if (FileNameOf(path).empty()) {
         game.prompts.Show("Specify an output file", "vbok+vbcritical");
         return false;
     }
-    if (name.find('.') == std::string::npos) path += ".txt";
+    AddTextExtension(path);
     request.outputFile = path;
     return true;
+}
+
+void Form3_gf1_Click(Game& game, BatchRequest& request) {
+    std::string path = PickFile(
+        game, {"Select an output Puzzle file", "*.txt", "Tidewalk Files", game.AppFolder, FileRequest::Mode::Save});
+    if (path.empty()) return;
+    AddTextExtension(path);
+    request.outputFile = path;
 }
 
 void mnucreatemany_Click(Game& game) {

@@ -10,6 +10,9 @@ namespace tidewalk {
 /// it says what is missing, and the window stays.
 bool Form3_Command1_Click(Game& game, BatchRequest& request);
 
+/// Asks for an output file and puts its name into the request; nothing changes when none is chosen.
+void Form3_gf1_Click(Game& game, BatchRequest& request);
+
 /// Asks for a number of puzzles, their size and a file, and makes them. A cancel cuts only one puzzle short: the file
 /// always grows by as many records as were asked for, unless it cannot be written or the window is closed.
 void mnucreatemany_Click(Game& game);

@@ -133,14 +133,18 @@ void GridSize_MouseDown(Game& game, MouseButton button) {
     if (button == MouseButton::Right) game.window.SetText(Control::GridSize, "");
 }
 
-void ReloadPuzzle(Game& game, const std::string& path, int number) {
-    game.files.CloseAll();
-    if (LoadPuzzle(game, path, number) == 0) return;
-    game.files.CloseAll();
+void ShowEmptyBoard(Game& game) {
     ResetWorkAreas(game);
     NumberNewBoard(game);
     game.board.LayoutBoard(game);
     game.board.RedrawBoard(game, false);
+}
+
+void ReloadPuzzle(Game& game, const std::string& path, int number) {
+    game.files.CloseAll();
+    if (LoadPuzzle(game, path, number) == 0) return;
+    game.files.CloseAll();
+    ShowEmptyBoard(game);
 }
 
 }  // namespace tidewalk

@@ -35,6 +35,9 @@ void cmdcancel_Click(Game& game);
 /// The right button empties the size box, which stands for a random size.
 void GridSize_MouseDown(Game& game, MouseButton button);
 
+/// Takes everything off the board. Its size stays.
+void ShowEmptyBoard(Game& game);
+
 /// Loads puzzle `number` of the collection at `path` again after a job that worked on the board. When it is not there
 /// any more the board is left empty.
 void ReloadPuzzle(Game& game, const std::string& path, int number);

@@ -2,16 +2,12 @@
 #include "program/form_load.h"
 
 #include <algorithm>
-#include <filesystem>
 
-#include "board/layout.h"
-#include "generator/create_puzzle.h"
 #include "model/config_file.h"
-#include "model/job.h"
 #include "model/load_puzzle.h"
 #include "model/paths.h"
-#include "model/write_puzzle_record.h"
 #include "options/colour_scheme.h"
+#include "program/first_collection.h"
 
 namespace tidewalk {
 
@@ -36,34 +32,6 @@ std::optional<std::string> ReadSchemeNames(Game& game) {
     return std::nullopt;
 }
 
-/// No collection can be opened: makes one with a single new puzzle and opens that.
-void MakeOwnCollection(Game& game) {
-    constexpr int kSide = 8;
-    game.CollectionPath = game.AppFolder + "TempPuzzles.tdw";
-    std::error_code ignored;
-    std::filesystem::remove(game.CollectionPath, ignored);
-    game.prompts.SystemBox("A new file will be created:\r\n" + game.CollectionPath, SystemButtons::Ok);
-    if (game.ending) return;
-    game.Rows = game.Cols = kSide;
-    LayoutNewBoard(game);
-    {
-        const Job job(game);
-        int grade = 0;
-        int failed = 0;
-        // A layout that the solver gave up on is a puzzle all the same, and better than an empty window.
-        CreatePuzzle(game, grade, failed);
-    }
-    if (game.ending) return;
-    game.PuzzleNumber = 1;
-    try {
-        WritePuzzleRecord(game, game.CollectionPath, 1);
-    } catch (const FileError& error) {
-        game.files.CloseAll();
-        game.window.SetText(Control::pb, std::string("Not written: ") + error.what());
-    }
-    LoadPuzzle(game, game.CollectionPath, 1);
-}
-
 }  // namespace
 
 std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
@@ -85,7 +53,7 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
         game.CollectionPath = game.AppFolder + "puzzles.txt";
         game.PuzzleNumber = 1;
     }
-    if (LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber) == YesValue) MakeOwnCollection(game);
+    if (LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber) != 0) MakeFirstCollection(game);
     return std::nullopt;
 }
 

@@ -6,6 +6,9 @@
 #include "board/check_bridges.h"
 #include "board/layout.h"
 #include "board/undo.h"
+#include "generator/batch.h"
+#include "generator/new_puzzle.h"
+#include "generator/shuffle.h"
 #include "model/config_file.h"
 #include "model/read_grid_file.h"
 #include "program/exit.h"
@@ -172,8 +175,17 @@ std::vector<Command> PuzzleCommands() {
          .keys = Keys("Ctrl+R"),
          .handler = DoWithButton<arrows_Click>},
         {.menu = kMenu, .name = "dash5", .text = "-"},
-        {.menu = kMenu, .name = "mnunewpuzx", .text = "New Puzzle", .icon = "new", .keys = Keys(QKeySequence::New)},
-        {.menu = kMenu, .name = "mnucreatemany", .text = "Create New Puzzles ...", .icon = "batch"},
+        {.menu = kMenu,
+         .name = "mnunewpuzx",
+         .text = "New Puzzle",
+         .icon = "new",
+         .keys = Keys(QKeySequence::New),
+         .handler = Do<mnunewpuzx_Click>},
+        {.menu = kMenu,
+         .name = "mnucreatemany",
+         .text = "Create New Puzzles ...",
+         .icon = "batch",
+         .handler = Do<mnucreatemany_Click>},
         {.menu = kMenu, .name = "mnupuzreset", .text = "Reset", .icon = "reset", .handler = Do<mnupuzreset_Click>},
         {.menu = kMenu, .name = "dash6", .text = "-"},
         {.menu = kMenu, .name = "mnuexport", .text = "Export Puzzle", .icon = "export"},
@@ -191,10 +203,10 @@ std::vector<Command> PuzzleCommands() {
          .handler = Do<mnupastepuzzle_Click>},
         {.menu = kMenu, .name = "dash7", .text = "-"},
         {.menu = kMaintenance, .name = "Command3", .text = "Convert Old Layout"},
-        {.menu = kMaintenance, .name = "Command4", .text = "Create Random Sizes"},
-        {.menu = kMaintenance, .name = "Command5", .text = "Shuffle without Duplicates"},
+        {.menu = kMaintenance, .name = "Command4", .text = "Create Random Sizes", .handler = Do<Command4_Click>},
+        {.menu = kMaintenance, .name = "Command5", .text = "Shuffle without Duplicates", .handler = Do<Command5_Click>},
         {.menu = kMenu, .name = "dash8", .text = "-"},
-        {.menu = kMenu, .name = "can1", .text = "Cancel", .icon = "cancel"},
+        {.menu = kMenu, .name = "can1", .text = "Cancel", .icon = "cancel", .handler = Do<cmdcancel_Click>},
     };
 }
 
@@ -219,7 +231,12 @@ std::vector<Command> SolveCommands() {
          .keys = Keys(QKeySequence::Undo),
          .handler = Do<cmdundo_Click>},
         {.menu = kMenu, .name = "dash9", .text = "-"},
-        {.menu = kMenu, .name = "can2", .text = "Cancel", .icon = "cancel", .keys = Keys("Esc")},
+        {.menu = kMenu,
+         .name = "can2",
+         .text = "Cancel",
+         .icon = "cancel",
+         .keys = Keys("Esc"),
+         .handler = Do<cmdcancel_Click>},
     };
 }
 
@@ -245,7 +262,7 @@ std::vector<Command> PrintCommands() {
          .icon = "copy",
          .keys = Keys("Ctrl+Shift+C")},
         {.menu = kMenu, .name = "dash11", .text = "-"},
-        {.menu = kMenu, .name = "can3", .text = "Cancel", .icon = "cancel"},
+        {.menu = kMenu, .name = "can3", .text = "Cancel", .icon = "cancel", .handler = Do<cmdcancel_Click>},
     };
 }
 
@@ -282,9 +299,15 @@ std::vector<Command> ToolBarOnlyCommands() {
          .text = "New Puzzle",
          .bar = 19,
          .icon = "new",
-         .toolTip = "New puzzle|Its size is set in the box beside"},
+         .toolTip = "New puzzle|Its size is set in the box beside",
+         .handler = Do<cmdnew1_Click>},
         {.name = "GridSize", .bar = 20, .toolTip = "Set grid size (7x7 to 25x25)|Rightclick to set random size"},
-        {.name = "cmdcancel", .text = "Cancel", .bar = 21, .icon = "cancel", .toolTip = "Cancel"},
+        {.name = "cmdcancel",
+         .text = "Cancel",
+         .bar = 21,
+         .icon = "cancel",
+         .toolTip = "Cancel",
+         .handler = Do<cmdcancel_Click>},
         {.name = "dash16", .text = "-", .bar = 22},
         {.name = "cmdexit", .text = "Exit", .bar = 23, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
     };

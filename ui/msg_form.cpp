@@ -58,6 +58,7 @@ MsgForm::MsgForm(const std::string& text, const MessageStyle& style, const QStri
     all->addLayout(body);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
+    if (auto* const first = findChild<QPushButton*>("cmd0")) first->setFocus();
 }
 
 void MsgForm::AddIcons(QHBoxLayout* row) {
@@ -101,7 +102,7 @@ void MsgForm::AddButtons(QHBoxLayout* row) {
         control->setAutoDefault(true);
         connect(control, &QPushButton::clicked, this, [this, control] { done(control->property("Tag").toInt()); });
         row->addWidget(control);
-        if (index++ == 0) control->setFocus();
+        ++index;
     }
     row->addStretch();
 }

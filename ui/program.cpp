@@ -10,6 +10,7 @@ Program::Program()
              [this](Handler handler, const Click& click) {
                  if (handler != nullptr) handlers_.Run([&](Game&) { handler(*this, click); });
              }),
+      form3_(handlers_, &form1_),
       prompts_(handlers_),
       filePicker_(handlers_),
       window_(form1_, handlers_),
@@ -18,11 +19,16 @@ Program::Program()
       form2_(handlers_, &form1_),
       form6_(handlers_, &form1_),
       game_(std::make_unique<Game>(
-          Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_, noBatchWindow_, clipboard_})) {
+          Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_, form3_, clipboard_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
     handlers_.Attach(*game_);
     form1_.Show(*game_);
+}
+
+Program::~Program() {
+    // The windows outlive the game by a moment.
+    handlers_.Detach();
 }
 
 std::optional<std::string> Program::Start(const StartRequest& request) {

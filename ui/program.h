@@ -13,6 +13,7 @@
 #include "ui/file_picker.h"
 #include "ui/form1.h"
 #include "ui/form2.h"
+#include "ui/form3.h"
 #include "ui/form6.h"
 #include "ui/main_window.h"
 #include "ui/pending_events.h"
@@ -25,6 +26,7 @@ namespace tidewalk {
 class Program final {
  public:
     Program();
+    ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
@@ -41,6 +43,7 @@ class Program final {
  private:
     Handlers handlers_;
     Form1 form1_;
+    Form3 form3_;
     QtPrompts prompts_;
     QtFilePicker filePicker_;
     QtMainWindow window_;
@@ -48,10 +51,6 @@ class Program final {
     DrawnBoard board_;
     QtPendingEvents events_;
     SystemClock clock_;
-    // The command that asks for many puzzles stands disabled as long as it has no window.
-    struct : BatchWindow {
-        bool Ask(BatchRequest& /*request*/) override { return false; }
-    } noBatchWindow_;
     QtClipboard clipboard_;
     Form2 form2_;
     Form6 form6_;

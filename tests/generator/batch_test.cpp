@@ -6,6 +6,7 @@
 #include "generator/new_puzzle.h"
 #include "model/job.h"
 #include "model/load_puzzle.h"
+#include "model/numbers.h"
 #include "support/layout_checker.h"
 #include "support/test_game.h"
 
@@ -82,6 +83,20 @@ TEST(Form3, OkAsksForACountASizeAndAFile) {
     EXPECT_EQ(fileOf(" out "), "out.txt");
     EXPECT_EQ(fileOf("out.tdw"), "out.tdw");
     EXPECT_EQ(fileOf("some.folder/out"), "some.folder/out.txt");
+}
+
+TEST(Form3, TheChosenFileGoesIntoTheRequest) {
+    TestGame game;
+    BatchRequest request{"5", "7", "7", "before"};
+    game.filePicker.Answer("");
+    Form3_gf1_Click(game, request);
+    EXPECT_EQ(request.outputFile, "before");
+    game.filePicker.Answer("/some.where/out");
+    Form3_gf1_Click(game, request);
+    EXPECT_EQ(request.outputFile, "/some.where/out.txt");
+    EXPECT_EQ(game.filePicker.requests[0].title, "Select an output Puzzle file");
+    EXPECT_EQ(game.filePicker.requests[0].patterns, "*.txt");
+    EXPECT_EQ(game.filePicker.requests[0].mode, FileRequest::Mode::Save);
 }
 
 TEST(Batch, AppendsAsManyPuzzlesAsAskedFor) {
@@ -189,7 +204,7 @@ TEST(Command4, Makes1200PuzzlesOfRandomSizes) {
         const std::string& status = game.window.statusTexts[i];
         const int rows = std::stoi(status.substr(0, 2));
         const int cols = std::stoi(status.substr(2, 2));
-        ASSERT_EQ(status.substr(4), " " + std::to_string(i + 1) + " of 1200");
+        ASSERT_EQ(status.substr(4), Str(static_cast<int>(i) + 1) + " of 1200");
         ASSERT_TRUE(rows >= 7 && rows <= 24 && cols >= 7 && cols <= 24) << status;
         ASSERT_EQ(FaultOfLayout(lines[i], rows, cols), "") << lines[i];
     }

@@ -24,8 +24,7 @@ class ExpectedPrompts final : public Prompts {
     void Expect(std::string text, std::string style, int answer);
     /// The next box has to be this plain one of the system.
     void ExpectSystemBox(std::string text, SystemButtons buttons, int answer);
-    /// From now on every box is fine and answered with Ok.
-    void AllowAnything() { allowAnything_ = true; }
+    /// From now on every box is answered with `answer`, for tests of inputs that may or may not be refused.
     void AnswerAll(int answer) { answerToAll_ = answer; }
     /// Fails when a box that was expected has not come yet.
     void Verify();
@@ -42,7 +41,6 @@ class ExpectedPrompts final : public Prompts {
     int Answer(const std::string& text, const std::string& style);
 
     std::deque<Expected> expected_;
-    bool allowAnything_ = false;
     std::optional<int> answerToAll_;
 };
 

@@ -22,8 +22,9 @@ std::string ReadBoard(const std::string& record, int rows, int cols, Board& boar
     std::string kind;
     std::getline(in, header, ';');
     std::getline(in, kind, ';');
-    const std::string size = " " + std::to_string(rows) + ", " + std::to_string(cols) + ", ";
-    if (header.compare(0, size.size(), size) != 0 || kind != "D") return "header " + header + ";" + kind;
+    std::ostringstream size;
+    size << ' ' << rows << ", " << cols << ", ";
+    if (header.compare(0, size.str().size(), size.str()) != 0 || kind != "D") return "header " + header + ";" + kind;
     std::string row;
     while (std::getline(in, row, ','))
         board.push_back(row);

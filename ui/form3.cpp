@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+#include "ui/form3.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QFile>
+#include <QFormLayout>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "generator/batch.h"
+
+namespace tidewalk {
+
+namespace {
+
+constexpr int kFileWidth = 320;  ///< in pixels
+
+/// Offers all sides; what stands in the box stays.
+void FillSides(QComboBox* box) {
+    const QString text = box->currentText();
+    box->clear();
+    for (int side = kMinSide; side <= kMaxSide; ++side)
+        box->addItem(QString::number(side));
+    box->setCurrentText(text);
+}
+
+QComboBox* MakeSideBox(const char* name) {
+    auto* const box = new QComboBox;
+    box->setObjectName(name);
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setCurrentText("10");
+    return box;
+}
+
+}  // namespace
+
+Form3::Form3(Handlers& handlers, QWidget* parent)
+    : QDialog(parent),
+      handlers_(handlers),
+      text1_(new QLineEdit("10")),
+      combo1_(MakeSideBox("Combo1")),
+      combo2_(MakeSideBox("Combo2")),
+      fileNow_(new QLineEdit) {
+    setObjectName("Form3");
+    setWindowTitle(tr("Create New Puzzles"));
+    setProperty("Tag", "X");
+    auto* const form = new QFormLayout(this);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    form->setContentsMargins(16, 16, 16, 16);
+    AddFields(form);
+    AddButtons(form);
+    connect(&handlers_, &Handlers::Ending, this, &QDialog::reject);
+}
+
+void Form3::AddFields(QFormLayout* form) {
+    text1_->setObjectName("Text1");
+    fileNow_->setObjectName("FileNow");
+    fileNow_->setMinimumWidth(kFileWidth);
+    auto* const pick = new QPushButton(tr("&Browse ..."));
+    pick->setObjectName("gf1");
+    pick->setToolTip(tr("Select an output Puzzle file"));
+    pick->setAutoDefault(false);
+    connect(pick, &QPushButton::clicked, this, &Form3::Gf1);
+    auto* const file = new QHBoxLayout;
+    file->addWidget(fileNow_, 1);
+    file->addWidget(pick);
+    form->addRow(tr("# of &Puzzles"), text1_);
+    form->addRow(tr("&Rows"), combo1_);
+    form->addRow(tr("&Columns"), combo2_);
+    auto* const label = new QLabel(tr("Output &file"));
+    label->setBuddy(fileNow_);
+    form->addRow(label, file);
+}
+
+void Form3::AddButtons(QFormLayout* form) {
+    auto* const ok = new QPushButton(tr("OK"));
+    ok->setObjectName("Command1");
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &Form3::Command1);
+    auto* const leave = new QPushButton(tr("Cancel"));
+    leave->setObjectName("command2");
+    connect(leave, &QPushButton::clicked, this, &QDialog::reject);
+    auto* const row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(ok);
+    row->addWidget(leave);
+    form->addRow(row);
+}
+
+bool Form3::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) {
+        FillSides(combo1_);
+        FillSides(combo2_);
+    }
+    return QDialog::event(event);
+}
+
+bool Form3::Ask(BatchRequest& request) {
+    setProperty("Tag", "X");
+    FillSides(combo1_);
+    FillSides(combo2_);
+    text1_->setFocus();
+    exec();
+    request = Typed();
+    return property("Tag") == "Y";
+}
+
+BatchRequest Form3::Typed() const {
+    return {text1_->text().toStdString(), combo1_->currentText().toStdString(), combo2_->currentText().toStdString(),
+            QFile::encodeName(fileNow_->text()).toStdString()};
+}
+
+void Form3::Show(const BatchRequest& request) {
+    fileNow_->setText(QFile::decodeName(request.outputFile.c_str()));
+}
+
+void Form3::Command1() {
+    handlers_.Run([this](Game& game) {
+        BatchRequest request = Typed();
+        if (!Form3_Command1_Click(game, request)) return;
+        Show(request);
+        setProperty("Tag", "Y");
+        accept();
+    });
+}
+
+void Form3::Gf1() {
+    handlers_.Run([this](Game& game) {
+        BatchRequest request = Typed();
+        Form3_gf1_Click(game, request);
+        Show(request);
+    });
+}
+
+}  // namespace tidewalk

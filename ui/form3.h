@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// The window `Form3`, which asks for a batch of new puzzles.
+#pragma once
+
+#include <QDialog>
+
+#include "ui/handlers.h"
+
+class QComboBox;
+class QFormLayout;
+class QLineEdit;
+
+namespace tidewalk {
+
+/// Number, rows, columns and output file of a batch. What was typed stays for the next time. The property "Tag" is "Y"
+/// when OK was accepted, "X" otherwise.
+class Form3 final : public QDialog, public BatchWindow {
+    Q_OBJECT
+
+ public:
+    Form3(Handlers& handlers, QWidget* parent);
+
+    bool Ask(BatchRequest& request) override;
+
+ protected:
+    bool event(QEvent* event) override;
+
+ private:
+    void AddFields(QFormLayout* form);
+    void AddButtons(QFormLayout* form);
+    BatchRequest Typed() const;
+    void Show(const BatchRequest& request);
+    void Command1();
+    void Gf1();
+
+    Handlers& handlers_;
+    QLineEdit* text1_;
+    QComboBox* combo1_;
+    QComboBox* combo2_;
+    QLineEdit* fileNow_;
+};
+
+}  // namespace tidewalk
