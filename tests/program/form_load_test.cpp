@@ -91,6 +91,16 @@ TEST(FormLoad, ACollectionThatWasAskedForComesBeforeTheLastOne) {
     EXPECT_EQ(game.PuzzleNumber, 1);
 }
 
+TEST(FormLoad, MessagesBeforeTheFirstSchemeWearTheDesktopsColours) {
+    TestGame game;
+    FillFolder(game, 1);
+    game.folder.Write("all.col", "xp.col\r\n");
+    game.folder.Write("tide.cfg", "xp.col\r\n 1  0  250  12  1  2  3  4  1  0 \r\npuzzles.txt\r\n");
+    Start(game);
+    EXPECT_EQ(game.Picture1BackColor, game.window.desktop[DesktopColour::ListBackground]);
+    EXPECT_EQ(game.SchemeColours[4], game.window.desktop[DesktopColour::ButtonFace]);
+}
+
 TEST(FormLoad, WithoutSchemesTheProgramDoesNotStart) {
     TestGame game;
     const auto fatal = Start(game);
