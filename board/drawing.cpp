@@ -106,9 +106,9 @@ void DrawIsland(Game& game, CellNumber id) {
         const double side = half - half / 4;
         picture.FilledBox(x - side, y - side, x + side, y + side, game.NodeColour);
     }
-    // A number in the colour of its island would be invisible, and the options do not keep anyone from choosing that.
-    constexpr double kLeastContrast = 2.0;
-    picture.Print(x + dx, y + dy, text, LegibleOn(game.NodeColour, game.GivenColour, kLeastContrast));
+    // A number in the very colour of its island would be invisible, and the default options make both black.
+    const bool same = game.GivenColour == game.NodeColour;
+    picture.Print(x + dx, y + dy, text, same ? LegibleOn(game.NodeColour, game.GivenColour) : game.GivenColour);
 }
 
 void DrawLinkLine(Game& game, CellNumber a, CellNumber b) {

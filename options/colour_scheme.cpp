@@ -101,6 +101,8 @@ void ApplyColourScheme(Game& game) {
         const BoardDefaults defaults = BoardDefaultsOn(colours[kBackgroundEntry]);
         game.NodeColour = game.GridColour = defaults.node;
         game.ChainColour = defaults.chain;
+        // Numbers that were chosen for dark islands are lost on light ones.
+        if (defaults.node != kDefaultNodeColour) game.GivenColour = LegibleOn(defaults.node, game.GivenColour);
     }
     game.Picture1BackColor = colours[kBackgroundEntry];
     game.window.ApplyColours();

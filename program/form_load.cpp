@@ -38,12 +38,21 @@ bool LoadRequested(Game& game, const StartRequest& request) {
     return false;
 }
 
+/// Until a scheme is read, messages wear the desktop's colours.
+void TakeFirstColours(Game& game) {
+    game.SchemeColours[kBackgroundEntry] = game.window.Desktop(DesktopColour::ListBackground);
+    game.SchemeColours[kOutlineEntry] = game.window.Desktop(DesktopColour::WindowFace);
+    game.SchemeColours[kFaceEntry] = game.window.Desktop(DesktopColour::ButtonFace);
+    game.SchemeColours[kHighlightEntry] = game.window.Desktop(DesktopColour::Highlight);
+}
+
 }  // namespace
 
 std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
     game.AppFolder = WithSeparator(request.appFolder);
     game.SolutionTempPath = game.AppFolder + "TempPuzzleSolFile.tdw";
     game.ColourListPath = game.AppFolder + "all.col";
+    TakeFirstColours(game);
     if (auto fatal = ReadSchemeNames(game)) return fatal;
 
     ReadcfgFile(game);

@@ -57,6 +57,8 @@ class HeadlessWorld final : public Prompts,
     Colour Desktop(DesktopColour /*colour*/) const override { return kWhite; }
     void EndProgram() override {}
 
+    std::string Text() override { return ""; }
+
     Surface::Extent Picture5Extent() const override { return {kSide, kSide}; }
     Surface& Picture1() override { return surface_; }
     void PlacePicture1() override {}

@@ -115,6 +115,7 @@ TEST(ColourScheme, OnADarkDesktopTheDefaultStillShowsTheBoard) {
     for (const Colour colour : {game.NodeColour, game.GridColour, game.ChainColour}) {
         EXPECT_GE(Contrast(colour, game.Picture1BackColor), kShapeContrast);
     }
+    EXPECT_GE(Contrast(game.GivenColour, game.NodeColour), kTextContrast);
     EXPECT_EQ(ColoursOfWindows(game, game.window).face, Rgb(55, 55, 58));
 }
 

@@ -10,7 +10,8 @@ WindowGame::WindowGame(const std::vector<std::string>& records) : program(std::m
     std::string bytes;
     for (const std::string& record : records)
         bytes += record + "\r\n";
-    folder.Write("all.col", "xp.col\r\n");
+    std::filesystem::copy_file(std::string(TIDEWALK_DATA_DIR) + "/all.col", "all.col");
+    folder.Write("tide.cfg", "xp.col\r\n 1  0  250  12  1315860  16777215  128  12632256  1  0 \r\npuzzles.txt\r\n");
     StartRequest request;
     request.appFolder = folder.Path("");
     request.collection = folder.Write("collection.tdw", bytes);

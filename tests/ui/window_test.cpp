@@ -6,7 +6,7 @@
 #include <QListView>
 
 #include "model/job.h"
-#include "ui/colours.h"
+#include "options/colour_scheme.h"
 #include "window_game.h"
 
 namespace tidewalk::test {
@@ -118,8 +118,8 @@ TEST(Window, EndingWhileABoxIsOpenClosesTheBox) {
 TEST(Window, WearsTheColoursOfAScheme) {
     WindowGame window;
     window.game().SchemeColours[2] = Rgb(30, 30, 46);
-    window.game().SchemeColours[4] = Rgb(240, 230, 200);
-    window.game().window.ApplyColours();
+    window.game().SchemeColours[13] = Rgb(240, 230, 200);
+    ApplyColourScheme(window.game());
     QCoreApplication::processEvents();
     EXPECT_EQ(window.game().Picture1BackColor, Rgb(30, 30, 46));
     const QPalette palette = window.Find<QLineEdit>("PuzNumNow").palette();
