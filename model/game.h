@@ -28,6 +28,9 @@ struct Game : Puzzle, SolverTables, BoardState, Options {
           board(seams.board),
           events(seams.events),
           clock(seams.clock),
+          clipboard(seams.clipboard),
+          printers(seams.printers),
+          form5(seams.form5),
           random(seams.clock) {}
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
@@ -39,22 +42,27 @@ struct Game : Puzzle, SolverTables, BoardState, Options {
     BoardRoutines& board;
     PendingEvents& events;
     Clock& clock;
+    Clipboard& clipboard;
+    Printers& printers;
+    Form5Window& form5;
 
     std::string AppFolder;         ///< the program's folder, with a separator at its end
     std::string ColourListPath;    ///< "all.col" in it
     std::string SolutionTempPath;  ///< "TempPuzzleSolFile.tdw" in it
+
+    std::string printerName;  ///< the printer that was chosen last, "" for the system's own choice
 
     NumberedFiles files;
     RandomSource random;
     ListBox List1{ListBox::Order::Sorted};   ///< the island status list, or the lines of the last check
     ListBox List2{ListBox::Order::AsAdded};  ///< the open choice points of the trial search
 
-    int BusyFlag = NoValue;    ///< a long job runs
-    int CancelFlag = NoValue;  ///< the running job is asked to stop
-    bool jobRunning = false;   ///< a job is on its way even if a load in its middle has reset `BusyFlag`
-    int loadCount = 0;         ///< how often the puzzle was replaced as a whole
-    int jobLoadCount = 0;      ///< `loadCount` as the running job knows it
-    bool ending = false;       ///< the window was closed: jobs stop, nothing more is asked or saved
+    int BusyFlag = NoValue;     ///< a long job runs
+    int CancelFlag = NoValue;   ///< the running job is asked to stop
+    bool jobRunning = false;    ///< a job is on its way even if a load in its middle has reset `BusyFlag`
+    int loadCount = 0;          ///< how often the puzzle was replaced as a whole
+    int jobLoadCount = 0;       ///< `loadCount` as the running job knows it
+    bool ending = false;        ///< the window was closed: jobs stop, nothing more is asked or saved
     std::int64_t lastPoll = 0;  ///< when events were last let through, in the clock's milliseconds
 };
 

@@ -12,11 +12,18 @@ using Colour = std::uint32_t;
 
 /// The colour of three channels, each 0..255.
 constexpr Colour Rgb(int red, int green, int blue) {
-    return static_cast<Colour>(red & 0xFF) | static_cast<Colour>(green & 0xFF) << 8 | static_cast<Colour>(blue & 0xFF) << 16;
+    return static_cast<Colour>(red & 0xFF) | static_cast<Colour>(green & 0xFF) << 8 |
+           static_cast<Colour>(blue & 0xFF) << 16;
 }
-constexpr int RedOf(Colour colour) { return static_cast<int>(colour & 0xFF); }
-constexpr int GreenOf(Colour colour) { return static_cast<int>(colour >> 8 & 0xFF); }
-constexpr int BlueOf(Colour colour) { return static_cast<int>(colour >> 16 & 0xFF); }
+constexpr int RedOf(Colour colour) {
+    return static_cast<int>(colour & 0xFF);
+}
+constexpr int GreenOf(Colour colour) {
+    return static_cast<int>(colour >> 8 & 0xFF);
+}
+constexpr int BlueOf(Colour colour) {
+    return static_cast<int>(colour >> 16 & 0xFF);
+}
 
 inline constexpr Colour kBlack = Rgb(0, 0, 0);
 inline constexpr Colour kWhite = Rgb(255, 255, 255);
@@ -27,6 +34,14 @@ class Surface {
     struct Extent {
         double width = 0;
         double height = 0;
+    };
+
+    /// A rectangle between two corners, in twips.
+    struct Area {
+        double left = 0;
+        double top = 0;
+        double right = 0;
+        double bottom = 0;
     };
 
     virtual ~Surface() = default;

@@ -16,14 +16,19 @@ std::string Join(const Parts&... parts) {
     return out.str();
 }
 
-const char* StyleOf(SystemButtons buttons) { return buttons == SystemButtons::Ok ? "system ok" : "system yesno"; }
+const char* StyleOf(SystemButtons buttons) {
+    return buttons == SystemButtons::Ok ? "system ok" : "system yesno";
+}
 
 }  // namespace
 
-ExpectedPrompts::~ExpectedPrompts() { Verify(); }
+ExpectedPrompts::~ExpectedPrompts() {
+    Verify();
+}
 
 void ExpectedPrompts::Verify() {
-    for (const Expected& missing : expected_) ADD_FAILURE() << "never asked: " << missing.text;
+    for (const Expected& missing : expected_)
+        ADD_FAILURE() << "never asked: " << missing.text;
     expected_.clear();
 }
 
@@ -35,7 +40,9 @@ void ExpectedPrompts::ExpectSystemBox(std::string text, SystemButtons buttons, i
     expected_.push_back({std::move(text), StyleOf(buttons), answer});
 }
 
-int ExpectedPrompts::Show(const std::string& text, std::string_view style) { return Answer(text, std::string(style)); }
+int ExpectedPrompts::Show(const std::string& text, std::string_view style) {
+    return Answer(text, std::string(style));
+}
 
 int ExpectedPrompts::SystemBox(const std::string& text, SystemButtons buttons) {
     return Answer(text, StyleOf(buttons));
@@ -54,7 +61,8 @@ int ExpectedPrompts::Answer(const std::string& text, const std::string& style) {
 }
 
 ExpectedFiles::~ExpectedFiles() {
-    for (const std::string& path : answers_) ADD_FAILURE() << "nobody asked for a file: " << path;
+    for (const std::string& path : answers_)
+        ADD_FAILURE() << "nobody asked for a file: " << path;
 }
 
 std::string ExpectedFiles::Pick(const FileRequest& request) {
@@ -83,7 +91,9 @@ void WindowDouble::SetProgress(int done, int total) {
     progressTotal = total;
 }
 
-void RecordingSurface::Clear(Colour background) { calls.push_back(Join("clear", background)); }
+void RecordingSurface::Clear(Colour background) {
+    calls.push_back(Join("clear", background));
+}
 
 void RecordingSurface::Line(double x1, double y1, double x2, double y2, Colour colour) {
     calls.push_back(Join("line", x1, y1, x2, y2, colour));
@@ -114,6 +124,48 @@ int RecordingSurface::Count(const std::string& kind) const {
     return static_cast<int>(std::count_if(calls.begin(), calls.end(), [&](const std::string& call) {
         return call.compare(0, kind.size() + 1, kind + " ") == 0;
     }));
+}
+
+bool ClipboardDouble::SetPicture(const DrawFunction& draw) {
+    if (works) drawn = draw(picture);
+    return works;
+}
+
+namespace {
+
+class DocumentDouble final : public PrintDocument {
+ public:
+    explicit DocumentDouble(PrintersDouble& printers) : printers_(printers) { printers_.pages.emplace_back(); }
+
+    Surface& Page() override { return printers_.pages.back(); }
+    Surface::Area Printable() const override { return printers_.printable; }
+    bool NewPage() override {
+        if (static_cast<int>(printers_.pages.size()) + 1 == printers_.failAtPage) return false;
+        printers_.pages.emplace_back();
+        return true;
+    }
+    bool End() override { return printers_.printed = !printers_.failAtEnd; }
+    std::string Error() const override { return "out of paper"; }
+
+ private:
+    PrintersDouble& printers_;
+};
+
+}  // namespace
+
+std::unique_ptr<PrintDocument> PrintersDouble::Begin(const std::string& name, std::string& error) {
+    printer = name;
+    pages.clear();
+    printed = false;
+    error = beginError;
+    if (declined || !error.empty()) return nullptr;
+    return std::make_unique<DocumentDouble>(*this);
+}
+
+void PrintersDouble::Preview(const std::string& name, const PageFunction& draw) {
+    printer = name;
+    pages.assign(1, {});
+    draw(pages.front(), printable);
 }
 
 }  // namespace tidewalk::test

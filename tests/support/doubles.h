@@ -141,4 +141,45 @@ class ClockDouble final : public Clock {
     std::int64_t step = 0;
 };
 
+/// Keeps what was copied as drawing calls.
+class ClipboardDouble final : public Clipboard {
+ public:
+    std::string Text() override { return text; }
+    bool SetPicture(const DrawFunction& draw) override;
+
+    std::string text;
+    RecordingSurface picture;
+    Surface::Area drawn;
+    bool works = true;
+};
+
+/// A printer that keeps the pages of a document as drawing calls, and fails where a test wants it to.
+class PrintersDouble final : public Printers {
+ public:
+    std::vector<std::string> Names() override { return names; }
+    std::unique_ptr<PrintDocument> Begin(const std::string& printer, std::string& error) override;
+    void Preview(const std::string& printer, const PageFunction& draw) override;
+
+    std::vector<std::string> names{"PDF file"};
+    std::string beginError;  ///< why no document can begin
+    bool declined = false;   ///< the player gives no name for the PDF
+    int failAtPage = 0;      ///< the page that the printer refuses, 0 for none
+    bool failAtEnd = false;
+
+    std::string printer;                  ///< the one that was asked last
+    std::vector<RecordingSurface> pages;  ///< of the last document
+    bool printed = false;                 ///< the last document came to its end
+    Surface::Area printable{360, 360, 11540, 16480};
+};
+
+/// Does with the window's fields what a test wants.
+class Form5Double final : public Form5Window {
+ public:
+    void ShowModal(Form5Fields& fields) override {
+        if (play) play(fields);
+    }
+
+    std::function<void(Form5Fields&)> play;
+};
+
 }  // namespace tidewalk::test

@@ -25,7 +25,9 @@ TempFolder::~TempFolder() {
     std::filesystem::remove_all(path_, ignored);
 }
 
-std::string TempFolder::Path(const std::string& name) const { return (path_ / name).string(); }
+std::string TempFolder::Path(const std::string& name) const {
+    return (path_ / name).string();
+}
 
 std::string TempFolder::Write(const std::string& name, const std::string& bytes) const {
     std::ofstream(path_ / name, std::ios::binary) << bytes;
@@ -40,22 +42,28 @@ std::string TempFolder::Read(const std::string& name) const {
 
 TestGame::TestGame()
     : Game(Seams{SeamDoubles::prompts, SeamDoubles::filePicker, SeamDoubles::window, SeamDoubles::pictures,
-                 SeamDoubles::board, SeamDoubles::events, SeamDoubles::clock}) {
+                 SeamDoubles::board, SeamDoubles::events, SeamDoubles::clock, SeamDoubles::clipboard,
+                 SeamDoubles::printers, SeamDoubles::form5}) {
     AppFolder = folder.Path("");
     random.UseSeed(1);
 }
 
 TestGame::TestGame(const std::vector<std::string>& records) : TestGame() {
     std::string bytes;
-    for (const std::string& record : records) bytes += record + "\r\n";
+    for (const std::string& record : records)
+        bytes += record + "\r\n";
     CollectionPath = folder.Write("collection.tdw", bytes);
 }
 
-int TestGame::Load(int number) { return LoadPuzzle(*this, CollectionPath, number); }
+int TestGame::Load(int number) {
+    return LoadPuzzle(*this, CollectionPath, number);
+}
 
 std::string Record(const std::vector<std::string>& rows) {
-    std::string record = Str(static_cast<int>(rows.size())) + "," + Str(static_cast<int>(rows.front().size())) + ", 0;D;";
-    for (const std::string& row : rows) record += row + ",";
+    std::string record =
+        Str(static_cast<int>(rows.size())) + "," + Str(static_cast<int>(rows.front().size())) + ", 0;D;";
+    for (const std::string& row : rows)
+        record += row + ",";
     return record;
 }
 

@@ -40,6 +40,9 @@ struct SeamDoubles {
     DrawnBoard board;
     EventsDouble events;
     ClockDouble clock;
+    ClipboardDouble clipboard;
+    PrintersDouble printers;
+    Form5Double form5;
 };
 
 /// A game with its doubles. Random draws are those of seed 1.
@@ -59,12 +62,15 @@ class TestGame : private SeamDoubles, public Game {
     PicturesDouble& pictures = SeamDoubles::pictures;
     EventsDouble& events = SeamDoubles::events;
     ClockDouble& clock = SeamDoubles::clock;
+    ClipboardDouble& clipboard = SeamDoubles::clipboard;
+    PrintersDouble& printers = SeamDoubles::printers;
+    Form5Double& form5 = SeamDoubles::form5;
 };
 
 /// A record with the header that `rows` need and these rows of the board.
 std::string Record(const std::vector<std::string>& rows);
 
-/// A small puzzle of 7x7 with its solution, eleven bridges on eight links.
+/// A small puzzle of 7x7 with its solution, fifteen bridges on ten links.
 extern const char* const kSmallPuzzle;
 
 }  // namespace tidewalk::test
