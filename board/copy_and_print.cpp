@@ -8,6 +8,7 @@
 #include "model/load_puzzle.h"
 #include "model/navigation.h"
 #include "model/numbers.h"
+#include "model/paths.h"
 
 namespace tidewalk {
 
@@ -42,16 +43,47 @@ std::string CurrentPrinter(Game& game) {
     return names.empty() ? "" : names.front();
 }
 
+void ShowPrintError(Game& game, const std::string& reason) {
+    game.prompts.SystemBox("Printing failed:\n" + reason, SystemButtons::Ok);
+}
+
+/// Asks for the name of a PDF file; "" when the player thinks better of it, or of overwriting a file.
+std::string AskPdfName(Game& game) {
+    std::string path =
+        PickFile(game, {"Print to a PDF file", "*.pdf", "PDF Files", game.AppFolder, FileRequest::Mode::Save});
+    if (path.empty()) return path;
+    const std::string ending = ".pdf";
+    if (path.size() < ending.size() ||
+        LowerCase(path).compare(path.size() - ending.size(), ending.size(), ending) != 0) {
+        path += ending;
+    }
+    constexpr int kYes = 6;
+    const bool overwrites = FileLength(path) != 0;
+    if (overwrites && game.prompts.SystemBox("OverWrite file: " + path + " ?", SystemButtons::YesNo) != kYes) return "";
+    return path;
+}
+
+/// Begins a document on the current printer. Nothing comes back when there is none to be: the player has said so, or
+/// was told the reason.
+std::unique_ptr<PrintDocument> BeginDocument(Game& game) {
+    const std::string printer = CurrentPrinter(game);
+    std::string file;
+    if (printer == kPdfPrinter) {
+        file = AskPdfName(game);
+        if (file.empty()) return nullptr;
+    }
+    std::string error;
+    auto document = game.printers.Begin(printer, file, error);
+    if (!document) ShowPrintError(game, error);
+    return document;
+}
+
 /// True when there is a puzzle that may be printed now; else the player is told.
 bool CanPrintCurrent(Game& game) {
     if (RefuseWhileBusy(game)) return false;
     if (game.PuzzleNumber >= 1) return true;
     game.prompts.Show("No puzzle to print", "vbinformation+vbok");
     return false;
-}
-
-void ShowPrintError(Game& game, const std::string& reason) {
-    game.prompts.SystemBox("Printing failed:\n" + reason, SystemButtons::Ok);
 }
 
 /// How the printing of a range ended.
@@ -101,19 +133,19 @@ void ShowRangeEnd(Game& game, const PrintRange& range, RangeEnd end, const std::
 void PrintFromFile(Game& game, const PrintRange& range) {
     const std::string oldPath = game.CollectionPath;
     const int oldNumber = game.PuzzleNumber;
+    auto document = BeginDocument(game);
+    if (!document) return;
     RangeEnd end = RangeEnd::Failed;
     bool replaced = false;
     std::string error;
-    // The document goes away, and with it what was not printed to its end, before anything is said about it.
-    if (auto document = game.printers.Begin(CurrentPrinter(game), error)) {
+    {
         const BusyPointer busy(game);
         const Job job(game);
         end = PrintPages(game, range, *document, error);
         replaced = job.Superseded();
-    } else {
-        if (!error.empty()) ShowPrintError(game, error);
-        return;
     }
+    // What was not printed to its end goes away before anything is said about it.
+    document.reset();
     game.CancelFlag = NoValue;
     if (game.ending) return;
     // Another puzzle that the player has gone to meanwhile is the current one now.
@@ -140,17 +172,21 @@ void mnuprintcurrent_Click(Game& game) {
     if (!CanPrintCurrent(game)) return;
     constexpr int kYes = 6;
     if (game.prompts.Show("Print Current Puzzle and its Solution?", "vbquestion+vbyesno") != kYes) return;
+    auto document = BeginDocument(game);
+    if (!document) return;
     std::string error;
-    bool printed = false;
-    if (const auto document = game.printers.Begin(CurrentPrinter(game), error)) {
+    {
         const BusyPointer busy(game);
         DrawPage(game, game.PuzzleNumber, game.CollectionPath, game.PrintLineWidth, document->Page(),
                  document->Printable());
-        printed = document->End();
-        if (!printed) error = document->Error();
+        if (!document->End()) error = document->Error();
     }
-    if (printed) game.prompts.Show("Printed", "vbinformation+vbok");
-    if (!error.empty()) ShowPrintError(game, error);
+    document.reset();
+    if (error.empty()) {
+        game.prompts.Show("Printed", "vbinformation+vbok");
+    } else {
+        ShowPrintError(game, error);
+    }
 }
 
 void mnuprintpreview_Click(Game& game) {

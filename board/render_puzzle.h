@@ -13,8 +13,7 @@ namespace tidewalk {
 /// Pictures and pages count pen widths in this many to the inch, so that a stroke is as wide on paper at 300 dpi as at
 /// 1200, and as wide in a picture.
 inline constexpr double kPensPerInch = 300;
-inline constexpr double kTwipsPerInch = 1440;
-inline constexpr double kTwipsPerPen = kTwipsPerInch / kPensPerInch;
+inline constexpr double kTwipsPerPen = 1440 / kPensPerInch;
 
 /// Where the offsets of pictures and pages lie, in twips.
 inline constexpr int kPictureOffset = 400;

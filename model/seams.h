@@ -165,17 +165,21 @@ class PrintDocument {
     virtual std::string Error() const = 0;
 };
 
-/// The printers. "PDF file", which asks for a name, is always one of them.
+/// The printer that is always there: a file.
+inline constexpr std::string_view kPdfPrinter = "PDF file";
+
+/// The printers.
 class Printers {
  public:
     virtual ~Printers() = default;
 
-    /// All names, the system's default first.
+    /// All names, the system's default first and `kPdfPrinter` last.
     virtual std::vector<std::string> Names() = 0;
 
-    /// Begins a document. Nothing comes back when the printer refuses, with the reason in `error`, or when the player
-    /// thinks better of it, with `error` empty.
-    virtual std::unique_ptr<PrintDocument> Begin(const std::string& printer, std::string& error) = 0;
+    /// Begins a document. `file` is the path that `kPdfPrinter` writes to; a file that is there is replaced at the end
+    /// of the document. Nothing comes back when the printer refuses; the reason is then in `error`.
+    virtual std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
+                                                 std::string& error) = 0;
 
     /// Shows what a document of this one page looks like on a printer.
     virtual void Preview(const std::string& printer, const PageFunction& draw) = 0;

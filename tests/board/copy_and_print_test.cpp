@@ -85,10 +85,27 @@ TEST_F(Printing, CurrentPuzzleIsOnePageWithBothBoards) {
 TEST_F(Printing, CurrentPuzzleIsNotPrintedWithoutConsent) {
     game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 7);
     mnuprintcurrent_Click(game);
-    game.printers.declined = true;  // no name for the PDF: no message either
+    EXPECT_TRUE(game.printers.pages.empty());
+}
+
+TEST_F(Printing, PdfFileAsksForItsName) {
+    game.printers.names = {"PDF file"};
     game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 6);
+    game.filePicker.Answer("");
     mnuprintcurrent_Click(game);
     EXPECT_TRUE(game.printers.pages.empty());
+    path = game.folder.Write("page.v2.pdf", "old");
+    game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 6);
+    game.prompts.ExpectSystemBox("OverWrite file: " + path + " ?", SystemButtons::YesNo, 7);
+    game.filePicker.Answer(game.folder.Path("page.v2"));
+    mnuprintcurrent_Click(game);
+    EXPECT_TRUE(game.printers.pages.empty());
+    game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 6);
+    game.prompts.Expect("Printed", "vbinformation+vbok", 1);
+    game.filePicker.Answer("other.PDF");
+    mnuprintcurrent_Click(game);
+    EXPECT_EQ(game.printers.file, "other.PDF");
+    EXPECT_TRUE(game.printers.printed);
 }
 
 TEST_F(Printing, RefusedDuringAJobAndWithoutAPuzzle) {
@@ -182,7 +199,6 @@ TEST_F(Printing, RangeOutsideTheFileIsRefused) {
 }
 
 TEST_F(Printing, FormFiveCountsThePickedFileAndRemembersThePrinter) {
-    game.printers.names = {"Office", "PDF file"};
     Form5Fields fields;
     fields.FileNow = game.CollectionPath;
     Form5_Activate(game, fields);

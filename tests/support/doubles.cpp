@@ -153,12 +153,14 @@ class DocumentDouble final : public PrintDocument {
 
 }  // namespace
 
-std::unique_ptr<PrintDocument> PrintersDouble::Begin(const std::string& name, std::string& error) {
+std::unique_ptr<PrintDocument> PrintersDouble::Begin(const std::string& name, const std::string& path,
+                                                     std::string& error) {
     printer = name;
+    file = path;
     pages.clear();
     printed = false;
     error = beginError;
-    if (declined || !error.empty()) return nullptr;
+    if (!error.empty()) return nullptr;
     return std::make_unique<DocumentDouble>(*this);
 }
 

@@ -157,16 +157,17 @@ class ClipboardDouble final : public Clipboard {
 class PrintersDouble final : public Printers {
  public:
     std::vector<std::string> Names() override { return names; }
-    std::unique_ptr<PrintDocument> Begin(const std::string& printer, std::string& error) override;
+    std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
+                                         std::string& error) override;
     void Preview(const std::string& printer, const PageFunction& draw) override;
 
-    std::vector<std::string> names{"PDF file"};
+    std::vector<std::string> names{"Office", "PDF file"};
     std::string beginError;  ///< why no document can begin
-    bool declined = false;   ///< the player gives no name for the PDF
     int failAtPage = 0;      ///< the page that the printer refuses, 0 for none
     bool failAtEnd = false;
 
     std::string printer;                  ///< the one that was asked last
+    std::string file;                     ///< the file that it was to write
     std::vector<RecordingSurface> pages;  ///< of the last document
     bool printed = false;                 ///< the last document came to its end
     Surface::Area printable{360, 360, 11540, 16480};
