@@ -20,7 +20,7 @@ constexpr double kTitleSize = 8;
 constexpr double kHeadingSize = 6;
 constexpr double kSolutionNumberSize = 5;
 constexpr double kFooterSize = 6;
-constexpr double kFooterGap = 80;   ///< above the footer, in twips
+constexpr double kFooterGap = 120;  ///< above the footer, in twips
 constexpr double kHeadingGap = 60;  ///< between a heading in the margin and the board, in twips
 
 /// Two fifths of a cell: discs of neighbours two cells apart leave more than a cell of their bridges to be seen, and
@@ -38,9 +38,10 @@ void Include(Surface::Area& drawn, double left, double top, double right, double
     drawn.bottom = std::max(drawn.bottom, bottom);
 }
 
-/// The largest pen with which the two strokes of a double bridge stay apart by as much as they are wide.
+/// The pen, but no wider than leaves the two strokes of a double bridge clearly apart.
 int LimitedPen(const PrintedBoard& board, int lineWidth) {
-    const int widest = static_cast<int>(board.Gap() / kTwipsPerPen / 2);
+    constexpr double kShare = 0.55;
+    const int widest = static_cast<int>(board.Gap() / kTwipsPerPen * kShare);
     return std::clamp(lineWidth, 1, std::max(widest, 1));
 }
 
