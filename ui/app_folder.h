@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+// The program folder, where "tide.cfg", "all.col", "tide.htm" and the puzzles lie.
+#pragma once
+
+#include <QString>
+#include <optional>
+
+namespace tidewalk {
+
+/// The folders among which the program folder is chosen.
+struct FolderPlaces {
+    QString executableFolder;
+    QString userDataFolder;  ///< by the XDG rules, with "tidewalk" in it
+    QString shareFolder;     ///< what was installed with the program
+};
+
+/// The places of this run of the program.
+FolderPlaces SystemPlaces();
+
+struct AppFolderChoice {
+    QString folder;  ///< absolute
+    QString error;   ///< why there is none; empty on success
+};
+
+/// Chooses the program folder: `requested` if it is given; else the program's own folder, if it holds "all.col" and can
+/// be written; else the user's data folder, which is made if need be and filled with what it lacks of the share folder.
+/// Nothing that is there already is written over.
+AppFolderChoice ChooseAppFolder(const std::optional<QString>& requested, const FolderPlaces& places);
+
+}  // namespace tidewalk

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "ui/application.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QPixmap>
+#include <cstdio>
+
+#include "ui/app_folder.h"
+#include "ui/command_line.h"
+#include "ui/icons.h"
+#include "ui/program.h"
+
+namespace tidewalk {
+
+namespace {
+
+constexpr int kFailed = 1;
+constexpr int kWrongUsage = 2;
+
+void Say(FILE* where, const QString& text) {
+    std::fprintf(where, "%s\n", text.trimmed().toLocal8Bit().constData());
+}
+
+CommandLine ReadCommandLine(int argc, char** argv) {
+    // Help and complaints must work without a display.
+    const QCoreApplication forTheNames(argc, argv);
+    return ParseCommandLine(QCoreApplication::arguments());
+}
+
+/// Answers help, version and wrong usage; nothing when the program is to run.
+std::optional<int> AnswerAtOnce(const CommandLine& line) {
+    switch (line.wish) {
+        case CommandLine::Wish::Run:
+            return std::nullopt;
+        case CommandLine::Wish::Help:
+        case CommandLine::Wish::Version:
+            Say(stdout, line.text);
+            return 0;
+        case CommandLine::Wish::Wrong:
+            Say(stderr, line.text + "\nSee tidewalk --help");
+            return kWrongUsage;
+    }
+    return std::nullopt;
+}
+
+/// Makes sure that there is something to show windows on. False when there is not.
+bool FindDisplay(const CommandLine& line) {
+    const bool given = line.namesPlatform || qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ||
+                       !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    if (given) return true;
+    if (line.screenshot) qputenv("QT_QPA_PLATFORM", "offscreen");
+    return line.screenshot.has_value();
+}
+
+int Fail(const QString& text, bool unattended) {
+    Say(stderr, text);
+    if (!unattended) QMessageBox::critical(nullptr, QString::fromUtf8(AppTitle.data(), AppTitle.size()), text);
+    return kFailed;
+}
+
+int TakeScreenshot(Program& program, const QString& file) {
+    // What the first puzzle changed is laid out and painted by the events that wait.
+    QCoreApplication::processEvents();
+    if (program.form1().grab().save(file, "PNG")) return 0;
+    Say(stderr, "The picture could not be written: " + file);
+    return kFailed;
+}
+
+StartRequest RequestOf(const CommandLine& line, const QString& folder) {
+    StartRequest request;
+    request.appFolder = QFile::encodeName(folder).toStdString();
+    request.collection = QFile::encodeName(line.collection).toStdString();
+    request.puzzleNumber = line.puzzleNumber;
+    return request;
+}
+
+int RunWindows(const CommandLine& line) {
+    const bool unattended = line.screenshot.has_value();
+    const AppFolderChoice choice = ChooseAppFolder(line.folder, SystemPlaces());
+    if (!choice.error.isEmpty()) return Fail(choice.error, unattended);
+    if (!QDir::setCurrent(choice.folder)) return Fail("The folder cannot be entered: " + choice.folder, unattended);
+
+    Program program;
+    program.prompts().SetUnattended(unattended);
+    if (line.seed) program.game().random.UseSeed(*line.seed);
+    // QApplication::quit would ask every window first; here the decision is made.
+    QObject::connect(&program.handlers(), &Handlers::Ended, qApp, [] { QCoreApplication::exit(0); });
+    const auto fatal = program.Start(RequestOf(line, choice.folder));
+    if (fatal) return Fail(QString::fromStdString(*fatal), unattended);
+    if (program.game().ending) return 0;
+    return unattended ? TakeScreenshot(program, *line.screenshot) : QCoreApplication::exec();
+}
+
+}  // namespace
+
+int RunApplication(int argc, char** argv) {
+    const CommandLine line = ReadCommandLine(argc, argv);
+    if (const auto answer = AnswerAtOnce(line)) return *answer;
+    if (!FindDisplay(line)) {
+        Say(stderr,
+            "There is no display to show a window on. Use tidewalk --screenshot FILE.png for a picture of the window,\n"
+            "or the console program tidewalk-cli.");
+        return kFailed;
+    }
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("tidewalk");
+    QApplication::setApplicationDisplayName(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
+    QApplication::setDesktopFileName("tidewalk");
+    QApplication::setWindowIcon(ProgramIcon());
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RunWindows(line);
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+// The board's picture `Picture1`, moved about in its container `Picture5`.
+#pragma once
+
+#include <QPixmap>
+#include <QTimer>
+#include <QWidget>
+
+#include "board/board_mouse.h"
+#include "ui/handlers.h"
+#include "ui/qt_surface.h"
+
+namespace tidewalk {
+
+/// The board. What is drawn lies in a backing picture at the screen's pixel ratio; the rubber band and the marker are
+/// painted over it from the game's state.
+class BoardView final : public QWidget {
+    Q_OBJECT
+
+ public:
+    BoardView(Handlers& handlers, QWidget* parent);
+
+    Surface& Drawing() { return surface_; }
+
+    /// Takes its place in the container from the game, with a new backing picture if the size is another one.
+    void Place();
+
+    /// While switched off the board takes no mouse.
+    void SetTakesMouse(bool takes) { takesMouse_ = takes; }
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+
+ private:
+    void FitBacking();
+    void PaintLine1(QPainter& painter, const Game& game) const;
+    void PaintShape1(QPainter& painter, const Game& game) const;
+    Point OnBoard(const QPointF& global) const;
+    Point InContainer(const QPointF& global) const;
+
+    Handlers& handlers_;
+    QPixmap backing_;
+    QtSurface surface_;
+    bool takesMouse_ = true;
+};
+
+/// The container. It keeps the board in its middle.
+class BoardContainer final : public QWidget {
+    Q_OBJECT
+
+ public:
+    explicit BoardContainer(Handlers& handlers, QWidget* parent = nullptr);
+
+    BoardView& Board() { return *board_; }
+    QSize sizeHint() const override;
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+    Handlers& handlers_;
+    BoardView* board_;
+};
+
+/// The seam to both, and to the timer that takes the marker away.
+class QtBoardPictures final : public BoardPictures {
+ public:
+    QtBoardPictures(BoardContainer& container, Handlers& handlers);
+
+    Surface::Extent Picture5Extent() const override;
+    Surface& Picture1() override { return container_.Board().Drawing(); }
+    void PlacePicture1() override { container_.Board().Place(); }
+    void ShowOverlay() override { container_.Board().update(); }
+    void SetEnabled(bool enabled) override { container_.Board().SetTakesMouse(enabled); }
+    void SetVisible(bool visible) override { container_.Board().setVisible(visible); }
+    bool IsVisible() const override { return !container_.Board().isHidden(); }
+    void Freeze(bool frozen) override { container_.Board().setUpdatesEnabled(!frozen); }
+    void EnableTimer1(bool enabled) override;
+
+ private:
+    BoardContainer& container_;
+    QTimer timer1_;
+};
+
+}  // namespace tidewalk

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+// The command line of the windowed program.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <optional>
+
+namespace tidewalk {
+
+struct CommandLine {
+    enum class Wish { Run, Help, Version, Wrong };
+
+    Wish wish = Wish::Run;
+    QString text;                       ///< what to say in place of running: the help, the version, or what is wrong
+    std::optional<QString> folder;      ///< absolute
+    std::optional<QString> screenshot;  ///< absolute
+    std::optional<std::uint64_t> seed;
+    QString collection;  ///< absolute, or empty
+    std::optional<int> puzzleNumber;
+    bool namesPlatform = false;  ///< Qt was told where to show its windows
+};
+
+/// Reads the arguments, the program's name first. Paths are made absolute from the current directory.
+CommandLine ParseCommandLine(const QStringList& arguments);
+
+}  // namespace tidewalk

@@ -1,0 +1,290 @@
+// SPDX-License-Identifier: MIT
+#include "ui/commands.h"
+
+#include <algorithm>
+
+#include "board/check_bridges.h"
+#include "board/layout.h"
+#include "board/undo.h"
+#include "ui/program.h"
+
+namespace tidewalk {
+
+namespace {
+
+/// The handler that runs a routine of the game.
+template <void (*kRoutine)(Game&)>
+void Do(Program& program, const Click&) {
+    kRoutine(program.game());
+}
+
+/// The same for a routine that wants to know which control of an array it was.
+template <void (*kRoutine)(Game&, int)>
+void DoIndexed(Program& program, const Click& click) {
+    kRoutine(program.game(), click.index);
+}
+
+template <void (*kRoutine)(Game&, int, MouseButton)>
+void DoWithButton(Program& program, const Click& click) {
+    kRoutine(program.game(), click.index, click.button);
+}
+
+QList<QKeySequence> Keys(QKeySequence::StandardKey key) {
+    QList<QKeySequence> keys = QKeySequence::keyBindings(key);
+    // On most keyboards plus is reached with Shift, which nobody wants to hold for zooming.
+    if (key == QKeySequence::ZoomIn) keys.append(QKeySequence("Ctrl+="));
+    return keys;
+}
+
+QList<QKeySequence> Keys(const char* key) {
+    return {QKeySequence(key)};
+}
+
+std::vector<Command> TideCommands() {
+    constexpr const char* kMenu = "Tide";
+    constexpr const char* kView = "Tide/View";
+    return {
+        {.menu = kMenu, .name = "mnuoptset", .text = "Options ...", .icon = "options", .keys = Keys("Ctrl+,")},
+        {.menu = kMenu, .name = "mnuoptsave", .text = "Save Options"},
+        {.menu = kMenu, .name = "mnueditor", .text = "Edit Number Values ...", .icon = "edit", .keys = Keys("Ctrl+E")},
+        {.menu = kMenu, .name = "dash1", .text = "-"},
+        {.menu = kView,
+         .name = "cmdzoom",
+         .index = 0,
+         .text = "Zoom Out",
+         .bar = 15,
+         .icon = "zoom-out",
+         .toolTip = "Zoom out",
+         .keys = Keys(QKeySequence::ZoomOut),
+         .handler = DoIndexed<cmdzoom_Click>},
+        {.menu = kView,
+         .name = "cmdzoom",
+         .index = 1,
+         .text = "Zoom In",
+         .bar = 16,
+         .icon = "zoom-in",
+         .toolTip = "Zoom in",
+         .keys = Keys(QKeySequence::ZoomIn),
+         .handler = DoIndexed<cmdzoom_Click>},
+        {.menu = kView,
+         .name = "cmdzoom",
+         .index = 2,
+         .text = "Reset Zoom",
+         .bar = 17,
+         .icon = "zoom-reset",
+         .toolTip = "Reset zoom",
+         .keys = Keys("Ctrl+0"),
+         .handler = DoIndexed<cmdzoom_Click>},
+        {.menu = kMenu, .name = "dash2", .text = "-"},
+        {.menu = kMenu, .name = "mnuhelp", .text = "Help", .icon = "help", .keys = Keys(QKeySequence::HelpContents)},
+        {.menu = kMenu, .name = "mnuabout", .text = "About Tidewalk", .icon = "about"},
+        {.menu = kMenu, .name = "dash3", .text = "-"},
+        {.menu = kMenu, .name = "mnuexit", .text = "Exit", .icon = "exit", .keys = Keys("Ctrl+Q")},
+    };
+}
+
+std::vector<Command> PuzzleCommands() {
+    constexpr const char* kMenu = "Puzzle";
+    constexpr const char* kMaintenance = "Puzzle/Maintenance";
+    return {
+        {.menu = kMenu,
+         .name = "mnuloadpuz",
+         .text = "Load Puzzle File",
+         .icon = "open",
+         .keys = Keys(QKeySequence::Open),
+         .handler = Do<mnuloadpuz_Click>},
+        {.menu = kMenu,
+         .name = "mnuappend",
+         .text = "Add Puzzle to File",
+         .icon = "save",
+         .keys = Keys(QKeySequence::Save)},
+        {.menu = kMenu, .name = "mnudelete", .text = "Delete Puzzle", .icon = "delete"},
+        {.menu = kMenu, .name = "dash4", .text = "-"},
+        {.menu = kMenu,
+         .name = "arrows",
+         .index = 0,
+         .text = "Previous Puzzle",
+         .bar = 1,
+         .icon = "previous",
+         .toolTip = "Previous puzzle, right-click for first puzzle",
+         .keys = Keys(QKeySequence::Back),
+         .handler = DoWithButton<arrows_Click>},
+        {.menu = kMenu,
+         .name = "arrows",
+         .index = 2,
+         .text = "Next Puzzle",
+         .bar = 3,
+         .icon = "next",
+         .toolTip = "Next puzzle, right-click for last puzzle",
+         .keys = Keys(QKeySequence::Forward),
+         .handler = DoWithButton<arrows_Click>},
+        {.menu = kMenu,
+         .name = "arrows",
+         .index = 0,
+         .text = "First Puzzle",
+         .icon = "first",
+         .toolTip = "First puzzle",
+         .keys = Keys("Ctrl+Home"),
+         .button = MouseButton::Right,
+         .handler = DoWithButton<arrows_Click>},
+        {.menu = kMenu,
+         .name = "arrows",
+         .index = 2,
+         .text = "Last Puzzle",
+         .icon = "last",
+         .toolTip = "Last puzzle",
+         .keys = Keys("Ctrl+End"),
+         .button = MouseButton::Right,
+         .handler = DoWithButton<arrows_Click>},
+        {.menu = kMenu,
+         .name = "arrows",
+         .index = 1,
+         .text = "Random Puzzle",
+         .bar = 2,
+         .icon = "random",
+         .toolTip = "Random puzzle",
+         .keys = Keys("Ctrl+R"),
+         .handler = DoWithButton<arrows_Click>},
+        {.menu = kMenu, .name = "dash5", .text = "-"},
+        {.menu = kMenu, .name = "mnunewpuzx", .text = "New Puzzle", .icon = "new", .keys = Keys(QKeySequence::New)},
+        {.menu = kMenu, .name = "mnucreatemany", .text = "Create New Puzzles ...", .icon = "batch"},
+        {.menu = kMenu, .name = "mnupuzreset", .text = "Reset", .icon = "reset", .handler = Do<mnupuzreset_Click>},
+        {.menu = kMenu, .name = "dash6", .text = "-"},
+        {.menu = kMenu, .name = "mnuexport", .text = "Export Puzzle", .icon = "export"},
+        {.menu = kMenu, .name = "mnuimport", .text = "Import", .icon = "import", .keys = Keys("Ctrl+I")},
+        {.menu = kMenu, .name = "mnupastepuzzle", .text = "Paste", .icon = "paste", .keys = Keys(QKeySequence::Paste)},
+        {.menu = kMenu, .name = "dash7", .text = "-"},
+        {.menu = kMaintenance, .name = "Command3", .text = "Convert Old Layout"},
+        {.menu = kMaintenance, .name = "Command4", .text = "Create Random Sizes"},
+        {.menu = kMaintenance, .name = "Command5", .text = "Shuffle without Duplicates"},
+        {.menu = kMenu, .name = "dash8", .text = "-"},
+        {.menu = kMenu, .name = "can1", .text = "Cancel", .icon = "cancel"},
+    };
+}
+
+std::vector<Command> SolveCommands() {
+    constexpr const char* kMenu = "Solve";
+    return {
+        {.menu = kMenu, .name = "mnuautosol", .text = "AutoSolve", .icon = "solve", .keys = Keys("F9")},
+        {.menu = kMenu,
+         .name = "cmdverify",
+         .text = "Check",
+         .bar = 12,
+         .icon = "check",
+         .toolTip = "Check the bridges",
+         .keys = Keys("F5"),
+         .handler = Do<cmdverify_Click>},
+        {.menu = kMenu,
+         .name = "cmdundo",
+         .text = "Undo",
+         .bar = 13,
+         .icon = "undo",
+         .toolTip = "Undo the last move",
+         .keys = Keys(QKeySequence::Undo),
+         .handler = Do<cmdundo_Click>},
+        {.menu = kMenu, .name = "dash9", .text = "-"},
+        {.menu = kMenu, .name = "can2", .text = "Cancel", .icon = "cancel", .keys = Keys("Esc")},
+    };
+}
+
+std::vector<Command> PrintCommands() {
+    constexpr const char* kMenu = "Print";
+    return {
+        {.menu = kMenu,
+         .name = "mnuprintcurrent",
+         .text = "Print Current Puzzle",
+         .icon = "print",
+         .keys = Keys(QKeySequence::Print)},
+        {.menu = kMenu, .name = "mnuprintpreview", .text = "Print Preview ...", .icon = "view"},
+        {.menu = kMenu, .name = "control27", .text = "Print Puzzles From File ...", .icon = "print"},
+        {.menu = kMenu, .name = "dash10", .text = "-"},
+        {.menu = kMenu,
+         .name = "mnucopyclippuz",
+         .text = "Copy Puzzle to Clipboard",
+         .icon = "copy",
+         .keys = Keys(QKeySequence::Copy)},
+        {.menu = kMenu,
+         .name = "mnucopyclipsol",
+         .text = "Copy Solution to Clipboard",
+         .icon = "copy",
+         .keys = Keys("Ctrl+Shift+C")},
+        {.menu = kMenu, .name = "dash11", .text = "-"},
+        {.menu = kMenu, .name = "can3", .text = "Cancel", .icon = "cancel"},
+    };
+}
+
+/// What stands in the tool bar alone, its two text boxes and the label between them among it.
+std::vector<Command> ToolBarOnlyCommands() {
+    return {
+        {.name = "PuzNumNow", .bar = 4, .toolTip = "Puzzle number|Press Enter to go there"},
+        {.name = "PuzNumber", .bar = 5},
+        {.name = "dash12", .text = "-", .bar = 6},
+        {.name = "cmdsave", .text = "Add Puzzle to File", .bar = 7, .icon = "save", .toolTip = "Add puzzle to file"},
+        {.name = "cmdload",
+         .text = "Load Puzzle File",
+         .bar = 8,
+         .icon = "open",
+         .toolTip = "Load a puzzle file",
+         .handler = Do<cmdload_Click>},
+        {.name = "cmdedit",
+         .text = "Edit Number Values",
+         .bar = 9,
+         .icon = "edit",
+         .toolTip = "Edit or import number values"},
+        {.name = "dash13", .text = "-", .bar = 10},
+        {.name = "cmdviewcol",
+         .text = "View Solution",
+         .bar = 11,
+         .icon = "view",
+         .toolTip = "View solution|Hold the button down",
+         .handler = Do<cmdviewcol_Release>,
+         .pressed = Do<cmdviewcol_Press>},
+        {.name = "dash14", .text = "-", .bar = 14},
+        {.name = "dash15", .text = "-", .bar = 18},
+        {.name = "cmdnew1",
+         .text = "New Puzzle",
+         .bar = 19,
+         .icon = "new",
+         .toolTip = "New puzzle|Its size is set in the box beside"},
+        {.name = "GridSize", .bar = 20, .toolTip = "Set grid size (7x7 to 25x25)|Rightclick to set random size"},
+        {.name = "cmdcancel", .text = "Cancel", .bar = 21, .icon = "cancel", .toolTip = "Cancel"},
+        {.name = "dash16", .text = "-", .bar = 22},
+        {.name = "cmdexit", .text = "Exit", .bar = 23, .icon = "exit", .toolTip = "Exit"},
+    };
+}
+
+}  // namespace
+
+QString Command::ObjectName() const {
+    const QString plain(name);
+    if (index == kNoIndex) return plain;
+    return plain + QString::number(index) + (button == MouseButton::Right ? "right" : "");
+}
+
+const std::vector<Command>& Commands() {
+    static const std::vector<Command> all = [] {
+        std::vector<Command> joined;
+        for (const auto& part :
+             {TideCommands(), PuzzleCommands(), SolveCommands(), PrintCommands(), ToolBarOnlyCommands()}) {
+            joined.insert(joined.end(), part.begin(), part.end());
+        }
+        return joined;
+    }();
+    return all;
+}
+
+std::vector<const Command*> ToolBarCommands() {
+    std::vector<const Command*> found;
+    for (const Command& command : Commands()) {
+        if (command.bar > 0) found.push_back(&command);
+    }
+    std::sort(found.begin(), found.end(), [](const Command* a, const Command* b) { return a->bar < b->bar; });
+    return found;
+}
+
+const std::vector<QString>& MenuTitles() {
+    static const std::vector<QString> titles = {"Tide", "Puzzle", "Solve", "Print"};
+    return titles;
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,313 @@
+// SPDX-License-Identifier: MIT
+#include "ui/form1.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QProgressBar>
+#include <QScreen>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "ui/box_control.h"
+#include "ui/icons.h"
+#include "ui/lines_view.h"
+#include "ui/tool_tip.h"
+
+namespace tidewalk {
+
+namespace {
+
+constexpr int kListWidth = 150;  ///< in pixels
+
+LineSource SourceOf(const ListBox& list) {
+    return {[&list] { return list.Revision(); }, [&list] { return static_cast<int>(list.Lines().size()); },
+            [&list](int line) { return list.Lines()[static_cast<std::size_t>(line)]; }};
+}
+
+LineSource UndoSource(const Game& game) {
+    return {[&game] { return game.undoRevision; }, [&game] { return static_cast<int>(game.UndoList.size()); },
+            [&game](int line) { return Text(game.UndoList[static_cast<std::size_t>(line)]); }};
+}
+
+QString ToolTipOf(const Command& command) {
+    return QString(QLatin1String(*command.toolTip != '\0' ? command.toolTip : command.text));
+}
+
+/// A text box as wide as `sample`.
+void FitWidth(QLineEdit* box, const QString& sample) {
+    constexpr int kFrame = 18;
+    box->setFixedWidth(box->fontMetrics().horizontalAdvance(sample) + kFrame);
+}
+
+}  // namespace
+
+Form1::Form1(Handlers& handlers, OnCommand onCommand)
+    : handlers_(handlers),
+      onCommand_(std::move(onCommand)),
+      container_(new BoardContainer(handlers)),
+      undoList_(new LinesView("UndoList")),
+      list1_(new LinesView("List1")),
+      list2_(new LinesView("List2")),
+      pb_(new QLabel),
+      progress_(new QProgressBar),
+      puzNumNow_(new QLineEdit),
+      puzNumber_(new QLabel),
+      puzfile_(new QLabel),
+      gridSize_(new QLineEdit) {
+    setObjectName("Form1");
+    setWindowTitle(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
+    setWindowIcon(ProgramIcon());
+    // The right button is a click on many controls here; a menu of tool bars must not come in between.
+    setContextMenuPolicy(Qt::NoContextMenu);
+    AddNumberBox();
+    AddSizeBox();
+    AddMenus();
+    AddToolBar();
+    AddCentre();
+    AddDock(list1_, tr("Work list 1"));
+    AddDock(list2_, tr("Work list 2"));
+    AddStatusLine();
+    connect(&handlers_, &Handlers::Changed, this, &Form1::RefreshLists);
+    connect(&handlers_, &Handlers::Ending, this, &QWidget::hide);
+    container_->Board().setFocus();
+}
+
+void Form1::AddMenus() {
+    for (const QString& title : MenuTitles())
+        MenuAt(title);
+    for (const Command& command : Commands()) {
+        if (*command.menu != '\0') AddMenuCommand(command);
+    }
+}
+
+/// The menu at a path such as "Puzzle/Maintenance", made if need be.
+QMenu* Form1::MenuAt(const QString& path) {
+    QMenu*& menu = menus_[path];
+    if (menu != nullptr) return menu;
+    const QString parent = path.section('/', 0, -2);
+    const QString title = path.section('/', -1);
+    menu = parent.isEmpty() ? menuBar()->addMenu("&" + title) : MenuAt(parent)->addMenu(title);
+    return menu;
+}
+
+void Form1::AddMenuCommand(const Command& command) {
+    QMenu* const menu = MenuAt(command.menu);
+    if (command.IsSeparator()) {
+        menu->addSeparator()->setObjectName(command.ObjectName());
+        return;
+    }
+    QAction* const action = menu->addAction(command.text);
+    action->setObjectName(command.ObjectName());
+    action->setProperty("icon name", command.icon);
+    action->setIcon(MakeIcon(command.icon, palette()));
+    action->setShortcuts(command.keys);
+    action->setEnabled(command.IsEnabled());
+    const Handler handler = command.handler;
+    const Click click = command.ClickWith(command.button);
+    connect(action, &QAction::triggered, this, [this, handler, click] { onCommand_(handler, click); });
+}
+
+void Form1::AddToolBar() {
+    auto* const bar = addToolBar(tr("Tool bar"));
+    bar->setObjectName("ToolBar");
+    bar->setMovable(false);
+    for (const Command* command : ToolBarCommands()) {
+        if (command->IsSeparator()) {
+            bar->addSeparator()->setObjectName(command->ObjectName());
+        } else {
+            bar->addWidget(BarWidget(*command));
+        }
+    }
+}
+
+/// The control of a tool bar's place: one of the boxes, or a picture button.
+QWidget* Form1::BarWidget(const Command& command) {
+    QWidget* control = nullptr;
+    for (QWidget* const box : std::initializer_list<QWidget*>{puzNumNow_, puzNumber_, gridSize_}) {
+        if (box->objectName() == command.ObjectName()) control = box;
+    }
+    if (control == nullptr) control = BarButton(command);
+    const QString toolTip = ToolTipOf(command);
+    control->setToolTip(ToolTipText(toolTip));
+    control->setAccessibleName(CaptionOf(toolTip));
+    return control;
+}
+
+QWidget* Form1::BarButton(const Command& command) {
+    auto* const button = new BoxControl(command.icon);
+    button->setObjectName(command.ObjectName());
+    button->setEnabled(command.IsEnabled());
+    const Command* const row = &command;
+    if (command.pressed != nullptr) {
+        connect(button, &BoxControl::pressed, this,
+                [=, this] { onCommand_(row->pressed, row->ClickWith(row->button)); });
+        connect(button, &BoxControl::released, this,
+                [=, this] { onCommand_(row->handler, row->ClickWith(row->button)); });
+    } else {
+        connect(button, &BoxControl::Clicked, this,
+                [=, this](MouseButton with) { onCommand_(row->handler, row->ClickWith(with)); });
+    }
+    return button;
+}
+
+void Form1::AddNumberBox() {
+    puzNumNow_->setObjectName("PuzNumNow");
+    puzNumNow_->setAlignment(Qt::AlignRight);
+    FitWidth(puzNumNow_, "000000");
+    connect(puzNumNow_, &QLineEdit::returnPressed, this,
+            [this] { handlers_.Run([](Game& game) { PuzNumNow_KeyPress(game, kEnterKey); }); });
+    puzNumber_->setObjectName("PuzNumber");
+    puzNumber_->setTextFormat(Qt::PlainText);
+    puzNumber_->setMinimumWidth(puzNumber_->fontMetrics().horizontalAdvance(" of 00000"));
+}
+
+void Form1::AddSizeBox() {
+    gridSize_->setObjectName("GridSize");
+    gridSize_->setAlignment(Qt::AlignHCenter);
+    gridSize_->setContextMenuPolicy(Qt::PreventContextMenu);
+    gridSize_->installEventFilter(this);
+    FitWidth(gridSize_, "25 x 25");
+}
+
+/// The right button on the size box empties it: a random size is wanted.
+bool Form1::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == gridSize_ && event->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::RightButton) {
+        gridSize_->clear();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void Form1::AddCentre() {
+    auto* const side = new QWidget;
+    auto* const sideLayout = new QVBoxLayout(side);
+    auto* const title = new QLabel(tr("Moves, the last one first"));
+    title->setBuddy(undoList_);
+    title->setWordWrap(true);
+    sideLayout->setContentsMargins(4, 4, 4, 4);
+    sideLayout->addWidget(title);
+    sideLayout->addWidget(undoList_);
+    undoList_->setAccessibleName(tr("Undo list"));
+    undoList_->setToolTip(ToolTipText(tr("Moves that can be taken back|Two islands and the bridges before the move")));
+    auto* const splitter = new QSplitter;
+    splitter->addWidget(container_);
+    splitter->addWidget(side);
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 0);
+    splitter->setChildrenCollapsible(false);
+    splitter->setSizes({container_->sizeHint().width(), kListWidth});
+    setCentralWidget(splitter);
+}
+
+void Form1::AddDock(LinesView* list, const QString& title) {
+    auto* const dock = new QDockWidget(title);
+    dock->setObjectName("dock" + list->objectName());
+    dock->setWidget(list);
+    list->setAccessibleName(title);
+    addDockWidget(Qt::RightDockWidgetArea, dock);
+    dock->hide();
+    QAction* const toggle = dock->toggleViewAction();
+    toggle->setObjectName("view" + list->objectName());
+    MenuAt("Tide/View")->addAction(toggle);
+    connect(dock, &QDockWidget::visibilityChanged, this, &Form1::RefreshLists);
+}
+
+void Form1::AddStatusLine() {
+    pb_->setObjectName("pb");
+    pb_->setTextFormat(Qt::PlainText);
+    pb_->setAutoFillBackground(true);
+    pb_->setBackgroundRole(QPalette::Base);
+    pb_->setForegroundRole(QPalette::Text);
+    pb_->setMargin(3);
+    pb_->setMinimumWidth(1);
+    pb_->setAccessibleName(tr("Status"));
+    progress_->setObjectName("Progress");
+    progress_->setMaximumWidth(kListWidth);
+    progress_->hide();
+    puzfile_->setObjectName("Puzfile");
+    puzfile_->setTextFormat(Qt::PlainText);
+    puzfile_->setMargin(3);
+    puzfile_->setAccessibleName(tr("Puzzle file"));
+    statusBar()->addWidget(pb_, 1);
+    statusBar()->addWidget(progress_);
+    statusBar()->addPermanentWidget(puzfile_);
+}
+
+QWidget* Form1::WidgetOf(Control control) const {
+    switch (control) {
+        case Control::pb:
+            return pb_;
+        case Control::PuzNumNow:
+            return puzNumNow_;
+        case Control::PuzNumber:
+            return puzNumber_;
+        case Control::Puzfile:
+            return puzfile_;
+        case Control::GridSize:
+            return gridSize_;
+    }
+    return nullptr;
+}
+
+QString Form1::TextOf(Control control) const {
+    return WidgetOf(control)->property("text").toString();
+}
+
+void Form1::SetTextOf(Control control, const QString& text) {
+    WidgetOf(control)->setProperty("text", text);
+}
+
+void Form1::SetToolTipOf(Control control, const QString& toolTip) {
+    WidgetOf(control)->setToolTip(ToolTipText(toolTip));
+}
+
+void Form1::SetProgress(int done, int total) {
+    progress_->setVisible(total > 0);
+    progress_->setRange(0, total);
+    progress_->setValue(done);
+}
+
+void Form1::Show(Game& game) {
+    undoList_->SetSource(UndoSource(game));
+    list1_->SetSource(SourceOf(game.List1));
+    list2_->SetSource(SourceOf(game.List2));
+}
+
+void Form1::RefreshLists() {
+    for (LinesView* const list : {undoList_, list1_, list2_}) {
+        if (list->isVisible()) list->Refresh();
+    }
+}
+
+void Form1::TakeDefaultSize() {
+    constexpr int kWindowFrame = 48;  // a title bar and its shadows, in pixels
+    const QSize wanted = sizeHint();
+    const QSize room = screen()->availableSize() - QSize(kWindowFrame, kWindowFrame);
+    const int less = std::max({0, wanted.width() - room.width(), wanted.height() - room.height()});
+    resize(wanted - QSize(less, less));
+}
+
+void Form1::closeEvent(QCloseEvent* event) {
+    event->accept();
+    handlers_.End();
+}
+
+void Form1::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) return;
+    for (QAction* const action : findChildren<QAction*>()) {
+        const QString icon = action->property("icon name").toString();
+        if (!icon.isEmpty()) action->setIcon(MakeIcon(icon, palette()));
+    }
+}
+
+}  // namespace tidewalk

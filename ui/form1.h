@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// The main window `Form1`: menus, tool bar, board, undo list, status line.
+#pragma once
+
+#include <QMainWindow>
+#include <functional>
+#include <map>
+
+#include "ui/board_pictures.h"
+#include "ui/commands.h"
+#include "ui/handlers.h"
+
+class QDockWidget;
+class QLabel;
+class QLineEdit;
+class QProgressBar;
+
+namespace tidewalk {
+
+class LinesView;
+
+/// The window's controls bear their given names. It decides nothing: what a control asks for goes to `onCommand` or
+/// straight to the routine of that control.
+class Form1 final : public QMainWindow {
+    Q_OBJECT
+
+ public:
+    using OnCommand = std::function<void(Handler, const Click&)>;
+
+    Form1(Handlers& handlers, OnCommand onCommand);
+
+    BoardContainer& Container() { return *container_; }
+
+    QString TextOf(Control control) const;
+    void SetTextOf(Control control, const QString& text);
+    void SetToolTipOf(Control control, const QString& toolTip);
+
+    /// Shows how far a job is; a total of 0 takes the bar away.
+    void SetProgress(int done, int total);
+
+    /// The lists take their lines from this game.
+    void Show(Game& game);
+
+    /// A size in which the board's container is square and all fits on the screen.
+    void TakeDefaultSize();
+
+ protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+ private:
+    void AddMenus();
+    void AddMenuCommand(const Command& command);
+    QMenu* MenuAt(const QString& path);
+    void AddToolBar();
+    QWidget* BarWidget(const Command& command);
+    QWidget* BarButton(const Command& command);
+    void AddNumberBox();
+    void AddSizeBox();
+    void AddCentre();
+    void AddDock(LinesView* list, const QString& title);
+    void AddStatusLine();
+    void RefreshLists();
+    QWidget* WidgetOf(Control control) const;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    Handlers& handlers_;
+    OnCommand onCommand_;
+    std::map<QString, QMenu*> menus_;
+    BoardContainer* container_;
+    LinesView* undoList_;
+    LinesView* list1_;
+    LinesView* list2_;
+    QLabel* pb_;
+    QProgressBar* progress_;
+    QLineEdit* puzNumNow_;
+    QLabel* puzNumber_;
+    QLabel* puzfile_;
+    QLineEdit* gridSize_;
+};
+
+}  // namespace tidewalk

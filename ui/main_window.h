@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+// What the program's routines write to the main window and read from it.
+#pragma once
+
+#include "ui/form1.h"
+
+namespace tidewalk {
+
+class QtMainWindow final : public MainWindow {
+ public:
+    QtMainWindow(Form1& form, Handlers& handlers) : form_(form), handlers_(handlers) {}
+
+    std::string Text(Control control) const override { return form_.TextOf(control).toStdString(); }
+    void SetText(Control control, const std::string& text) override {
+        form_.SetTextOf(control, QString::fromStdString(text));
+    }
+    void SetToolTip(Control control, const std::string& text) override {
+        form_.SetToolTipOf(control, QString::fromStdString(text));
+    }
+    void SetPointer(Pointer pointer) override;
+    void SetProgress(int done, int total) override { form_.SetProgress(done, total); }
+    void ApplyColours() override;
+    void EndProgram() override { handlers_.End(); }
+
+ private:
+    Form1& form_;
+    Handlers& handlers_;
+    bool busyPointer_ = false;
+};
+
+}  // namespace tidewalk

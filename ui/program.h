@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// The windowed program: the game, its seams and its windows.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "board/drawing.h"
+#include "program/form_load.h"
+#include "ui/board_pictures.h"
+#include "ui/file_picker.h"
+#include "ui/form1.h"
+#include "ui/main_window.h"
+#include "ui/pending_events.h"
+#include "ui/prompts.h"
+
+namespace tidewalk {
+
+/// Owns everything and ties it together. Side windows are members here, made once, next to `form1`; a command opens
+/// them from its handler, which gets this object.
+class Program final {
+ public:
+    Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    Game& game() { return *game_; }
+    Form1& form1() { return form1_; }
+    Handlers& handlers() { return handlers_; }
+    QtPrompts& prompts() { return prompts_; }
+
+    /// Shows the main window and runs `Form_Load`, whose text is returned if the program cannot start.
+    std::optional<std::string> Start(const StartRequest& request);
+
+ private:
+    Handlers handlers_;
+    Form1 form1_;
+    QtPrompts prompts_;
+    QtFilePicker filePicker_;
+    QtMainWindow window_;
+    QtBoardPictures pictures_;
+    DrawnBoard board_;
+    QtPendingEvents events_;
+    SystemClock clock_;
+    std::unique_ptr<Game> game_;
+};
+
+}  // namespace tidewalk

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "ui/prompts.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <cstdio>
+
+#include "ui/msg_form.h"
+
+namespace tidewalk {
+
+/// True when no box is to be shown.
+bool QtPrompts::Silent(const std::string& text) const {
+    if (handlers_.game() != nullptr && handlers_.game()->ending) return true;
+    if (unattended_) std::fprintf(stderr, "%s\n", text.c_str());
+    return unattended_;
+}
+
+QWidget* QtPrompts::Parent() const {
+    QWidget* const active = QApplication::activeModalWidget();
+    if (active != nullptr) return active;
+    return mainWindow_ != nullptr && mainWindow_->isVisible() ? mainWindow_.data() : nullptr;
+}
+
+int QtPrompts::Show(const std::string& text, std::string_view style) {
+    const MessageStyle parsed = ParseMessageStyle(style);
+    if (Silent(text)) return parsed.FrameAnswer();
+    MsgForm box(text, parsed, caption_, Parent());
+    QObject::connect(&handlers_, &Handlers::Ending, &box, &QDialog::reject);
+    return box.exec();
+}
+
+int QtPrompts::SystemBox(const std::string& text, SystemButtons buttons) {
+    const bool yesNo = buttons == SystemButtons::YesNo;
+    if (Silent(text)) return yesNo ? kNo : kOk;
+    QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(AppTitle.data(), AppTitle.size()),
+                    QString::fromStdString(text).replace("\r\n", "\n"),
+                    yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, Parent());
+    box.setTextFormat(Qt::PlainText);
+    QObject::connect(&handlers_, &Handlers::Ending, &box, &QDialog::reject);
+    if (!yesNo) {
+        box.exec();
+        return kOk;
+    }
+    return box.exec() == QMessageBox::Yes ? kYes : kNo;
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt_surface.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
+
+namespace tidewalk {
+
+namespace {
+
+constexpr double kTwipsPerPoint = 20;
+
+}  // namespace
+
+QColor ToQColor(Colour colour) {
+    return {RedOf(colour), GreenOf(colour), BlueOf(colour)};
+}
+
+Colour FromQColor(const QColor& colour) {
+    return Rgb(colour.red(), colour.green(), colour.blue());
+}
+
+QtSurface::QtSurface(double pixelsPerInch, double twipsPerPenPixel)
+    : pixelsPerInch_(pixelsPerInch), twipsPerPenPixel_(twipsPerPenPixel), font_("Arial") {
+    font_.setStyleHint(QFont::SansSerif);
+    SetFontSize(8);
+}
+
+void QtSurface::SetTarget(QPaintDevice* target) {
+    Finish();
+    target_ = target;
+}
+
+void QtSurface::Finish() {
+    if (painter_.isActive()) painter_.end();
+}
+
+bool QtSurface::Begin() {
+    if (painter_.isActive()) return true;
+    if (target_ == nullptr || !painter_.begin(target_)) return false;
+    painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter_.scale(pixelsPerInch_ / kTwipsPerInch, pixelsPerInch_ / kTwipsPerInch);
+    pixelsPerTwip_ = painter_.deviceTransform().m11();
+    return true;
+}
+
+/// The pen's width in whole pixels of the device.
+double QtSurface::PenPixels() const {
+    return std::max(1.0, std::round(drawWidth_ * twipsPerPenPixel_ * pixelsPerTwip_));
+}
+
+/// The nearest place where a line of the current pen fills whole pixels: their middle for odd widths, their edge for
+/// even ones.
+double QtSurface::Snapped(double twips) const {
+    const double pixels = twips * pixelsPerTwip_;
+    const bool odd = std::fmod(PenPixels(), 2) == 1;
+    return (odd ? std::floor(pixels) + 0.5 : std::round(pixels)) / pixelsPerTwip_;
+}
+
+QPen QtSurface::Pen(Colour colour) const {
+    return {QBrush(ToQColor(colour)), PenPixels() / pixelsPerTwip_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
+}
+
+void QtSurface::Clear(Colour background) {
+    if (!Begin()) return;
+    const QRectF all(QPointF(0, 0), QSizeF(target_->width(), target_->height()));
+    painter_.save();
+    painter_.resetTransform();
+    painter_.fillRect(all, ToQColor(background));
+    painter_.restore();
+}
+
+void QtSurface::SetDrawWidth(int pixels) {
+    drawWidth_ = std::max(pixels, 1);
+}
+
+void QtSurface::Line(double x1, double y1, double x2, double y2, Colour colour) {
+    if (!Begin()) return;
+    painter_.setPen(Pen(colour));
+    painter_.drawLine(QPointF(Snapped(x1), Snapped(y1)), QPointF(Snapped(x2), Snapped(y2)));
+}
+
+void QtSurface::Box(double x1, double y1, double x2, double y2, Colour colour) {
+    if (!Begin()) return;
+    painter_.setPen(Pen(colour));
+    painter_.setBrush(Qt::NoBrush);
+    painter_.drawRect(QRectF(QPointF(Snapped(x1), Snapped(y1)), QPointF(Snapped(x2), Snapped(y2))));
+}
+
+void QtSurface::FilledBox(double x1, double y1, double x2, double y2, Colour colour) {
+    if (!Begin()) return;
+    // The size is rounded by itself: boxes of one size stay so wherever they lie.
+    const auto whole = [this](double twips) { return std::round(twips * pixelsPerTwip_) / pixelsPerTwip_; };
+    painter_.fillRect(QRectF(whole(x1), whole(y1), whole(x2 - x1), whole(y2 - y1)), ToQColor(colour));
+}
+
+void QtSurface::Circle(double x, double y, double radius, Colour outline, Colour fill) {
+    if (!Begin()) return;
+    // An outline of the fill's own colour would only make the circle larger than it is to be.
+    painter_.setPen(outline == fill ? QPen(Qt::NoPen) : Pen(outline));
+    painter_.setBrush(ToQColor(fill));
+    painter_.drawEllipse(QPointF(x, y), radius, radius);
+}
+
+void QtSurface::SetFontSize(double points) {
+    font_.setPixelSize(std::max(1, qRound(points * kTwipsPerPoint)));
+}
+
+Surface::Extent QtSurface::TextExtent(const std::string& text) {
+    const QFontMetricsF metrics(font_);
+    return {metrics.horizontalAdvance(QString::fromStdString(text)), metrics.height()};
+}
+
+void QtSurface::Print(double x, double y, const std::string& text, Colour colour) {
+    if (!Begin()) return;
+    painter_.setFont(font_);
+    painter_.setPen(ToQColor(colour));
+    painter_.drawText(QPointF(x, y + QFontMetricsF(font_).ascent()), QString::fromStdString(text));
+}
+
+}  // namespace tidewalk
