@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/commands.h"
 
+#include <QFile>
 #include <algorithm>
 
 #include "board/check_bridges.h"
+#include "board/copy_and_print.h"
 #include "board/layout.h"
 #include "board/undo.h"
+#include "ui/about.h"
 #include "ui/program.h"
 
 namespace tidewalk {
@@ -27,6 +30,16 @@ void DoIndexed(Program& program, const Click& click) {
 template <void (*kRoutine)(Game&, int, MouseButton)>
 void DoWithButton(Program& program, const Click& click) {
     kRoutine(program.game(), click.index, click.button);
+}
+
+void ShowHelp(Program& program, const Click&) {
+    program.help().Open(QFile::decodeName(program.game().AppFolder.c_str()));
+}
+
+void ShowAbout(Program& program, const Click&) {
+    AboutBox box(&program.form1());
+    QObject::connect(&program.handlers(), &Handlers::Ending, &box, &QDialog::reject);
+    box.exec();
 }
 
 QList<QKeySequence> Keys(QKeySequence::StandardKey key) {
@@ -76,8 +89,13 @@ std::vector<Command> TideCommands() {
          .keys = Keys("Ctrl+0"),
          .handler = DoIndexed<cmdzoom_Click>},
         {.menu = kMenu, .name = "dash2", .text = "-"},
-        {.menu = kMenu, .name = "mnuhelp", .text = "Help", .icon = "help", .keys = Keys(QKeySequence::HelpContents)},
-        {.menu = kMenu, .name = "mnuabout", .text = "About Tidewalk", .icon = "about"},
+        {.menu = kMenu,
+         .name = "mnuhelp",
+         .text = "Help",
+         .icon = "help",
+         .keys = Keys(QKeySequence::HelpContents),
+         .handler = ShowHelp},
+        {.menu = kMenu, .name = "mnuabout", .text = "About Tidewalk", .icon = "about", .handler = ShowAbout},
         {.menu = kMenu, .name = "dash3", .text = "-"},
         {.menu = kMenu, .name = "mnuexit", .text = "Exit", .icon = "exit", .keys = Keys("Ctrl+Q")},
     };
@@ -194,20 +212,31 @@ std::vector<Command> PrintCommands() {
          .name = "mnuprintcurrent",
          .text = "Print Current Puzzle",
          .icon = "print",
-         .keys = Keys(QKeySequence::Print)},
-        {.menu = kMenu, .name = "mnuprintpreview", .text = "Print Preview ...", .icon = "view"},
-        {.menu = kMenu, .name = "control27", .text = "Print Puzzles From File ...", .icon = "print"},
+         .keys = Keys(QKeySequence::Print),
+         .handler = Do<mnuprintcurrent_Click>},
+        {.menu = kMenu,
+         .name = "mnuprintpreview",
+         .text = "Print Preview ...",
+         .icon = "view",
+         .handler = Do<mnuprintpreview_Click>},
+        {.menu = kMenu,
+         .name = "control27",
+         .text = "Print Puzzles From File ...",
+         .icon = "print",
+         .handler = Do<control27_Click>},
         {.menu = kMenu, .name = "dash10", .text = "-"},
         {.menu = kMenu,
          .name = "mnucopyclippuz",
          .text = "Copy Puzzle to Clipboard",
          .icon = "copy",
-         .keys = Keys(QKeySequence::Copy)},
+         .keys = Keys(QKeySequence::Copy),
+         .handler = Do<mnucopyclippuz_Click>},
         {.menu = kMenu,
          .name = "mnucopyclipsol",
          .text = "Copy Solution to Clipboard",
          .icon = "copy",
-         .keys = Keys("Ctrl+Shift+C")},
+         .keys = Keys("Ctrl+Shift+C"),
+         .handler = Do<mnucopyclipsol_Click>},
         {.menu = kMenu, .name = "dash11", .text = "-"},
         {.menu = kMenu, .name = "can3", .text = "Cancel", .icon = "cancel"},
     };

@@ -10,14 +10,22 @@ Program::Program()
              [this](Handler handler, const Click& click) {
                  if (handler != nullptr) handlers_.Run([&](Game&) { handler(*this, click); });
              }),
+      help_(&form1_),
       prompts_(handlers_),
       filePicker_(handlers_),
       window_(form1_, handlers_),
       pictures_(form1_.Container(), handlers_),
       events_(handlers_),
-      game_(std::make_unique<Game>(Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_})) {
+      printers_(handlers_),
+      form5_(handlers_),
+      game_(std::make_unique<Game>(
+          Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_, clipboard_, printers_, form5_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
+    clipboard_.SetMainWindow(&form1_);
+    printers_.SetMainWindow(&form1_);
+    form5_.SetMainWindow(&form1_);
+    QObject::connect(&handlers_, &Handlers::Ending, &help_, &QWidget::close);
     handlers_.Attach(*game_);
     form1_.Show(*game_);
 }

@@ -11,9 +11,13 @@
 #include "ui/board_pictures.h"
 #include "ui/file_picker.h"
 #include "ui/form1.h"
+#include "ui/form5.h"
+#include "ui/help_window.h"
 #include "ui/main_window.h"
 #include "ui/pending_events.h"
 #include "ui/prompts.h"
+#include "ui/qt_clipboard.h"
+#include "ui/qt_printers.h"
 
 namespace tidewalk {
 
@@ -28,6 +32,7 @@ class Program final {
     Game& game() { return *game_; }
     Form1& form1() { return form1_; }
     Handlers& handlers() { return handlers_; }
+    HelpWindow& help() { return help_; }
     QtPrompts& prompts() { return prompts_; }
 
     /// Shows the main window and runs `Form_Load`, whose text is returned if the program cannot start.
@@ -36,6 +41,7 @@ class Program final {
  private:
     Handlers handlers_;
     Form1 form1_;
+    HelpWindow help_;
     QtPrompts prompts_;
     QtFilePicker filePicker_;
     QtMainWindow window_;
@@ -43,6 +49,9 @@ class Program final {
     DrawnBoard board_;
     QtPendingEvents events_;
     SystemClock clock_;
+    QtClipboard clipboard_;
+    QtPrinters printers_;
+    QtForm5 form5_;
     std::unique_ptr<Game> game_;
 };
 
