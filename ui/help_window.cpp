@@ -67,13 +67,13 @@ void HelpWindow::AddControls() {
 }
 
 void HelpWindow::Open(const QString& folder) {
-    page_ = QDir(folder).absoluteFilePath("tide.htm");
-    if (QFileInfo(page_).isReadable()) {
-        browser_->setSource(QUrl::fromLocalFile(page_));
+    const QString page = QDir(folder).absoluteFilePath("tide.htm");
+    if (QFileInfo(page).isReadable()) {
+        browser_->setSource(QUrl::fromLocalFile(page));
     } else {
         browser_->setPlainText(tr("The help page was not found:\n%1\n\nInstall Tidewalk again, or copy the file "
                                   "\"tide.htm\" and the folder \"help\" that came with it to this folder.")
-                                   .arg(page_));
+                                   .arg(page));
     }
     show();
     raise();
@@ -82,22 +82,17 @@ void HelpWindow::Open(const QString& folder) {
 }
 
 void HelpWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::PaletteChange && !colouring_) ApplyLinkColour();
+    if (event->type() == QEvent::PaletteChange) ApplyLinkColour();
     QDialog::changeEvent(event);
 }
 
 /// Links in the usual dark blue cannot be read on a dark page. The text takes their colour when it is read, so it is
 /// read again.
 void HelpWindow::ApplyLinkColour() {
-    colouring_ = true;
     constexpr int kMiddle = 128;
-    QPalette colours = browser_->palette();
-    const bool dark = colours.color(QPalette::Base).lightness() < kMiddle;
-    colours.setColor(QPalette::Link, dark ? QColor(0x8A, 0xB8, 0xFF) : QColor(0x00, 0x4A, 0xAD));
-    colours.setColor(QPalette::LinkVisited, colours.color(QPalette::Link));
-    browser_->setPalette(colours);
-    if (!page_.isEmpty() && browser_->source().isValid()) browser_->reload();
-    colouring_ = false;
+    const bool dark = browser_->palette().color(QPalette::Base).lightness() < kMiddle;
+    browser_->document()->setDefaultStyleSheet(dark ? "a { color: #8ab8ff; }" : "a { color: #004aad; }");
+    if (browser_->source().isValid()) browser_->reload();
 }
 
 }  // namespace tidewalk

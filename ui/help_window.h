@@ -25,8 +25,6 @@ class HelpWindow final : public QDialog {
     void ApplyLinkColour();
 
     QTextBrowser* browser_;
-    QString page_;
-    bool colouring_ = false;
 };
 
 }  // namespace tidewalk

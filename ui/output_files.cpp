@@ -24,7 +24,7 @@ QString WritePictureFile(const OutputOrder& order) {
     const auto puzzle = std::make_unique<Puzzle>();
     const std::string path = FileName(order.collection);
     if (!ReadPuzzle(files, path, order.from, *puzzle)) {
-        return QString("There is no puzzle %1 in %2").arg(order.from).arg(order.collection);
+        return QString("Puzzle %1 of %2 is missing or cannot be read").arg(order.from).arg(order.collection);
     }
     const RenderMode mode = order.solution ? RenderMode::Solution : RenderMode::Puzzle;
     const std::string title = PrintTitle(order.solution ? "Solution#" : "Puzzle#", order.from, path);
