@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -25,7 +26,7 @@ namespace tidewalk {
 
 namespace {
 
-constexpr int kListWidth = 150;  ///< in pixels
+constexpr int kProgressWidth = 150;  ///< in pixels
 
 LineSource SourceOf(const ListBox& list) {
     return {[&list] { return list.Revision(); }, [&list] { return static_cast<int>(list.Lines().size()); },
@@ -190,9 +191,8 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
 void Form1::AddCentre() {
     auto* const side = new QWidget;
     auto* const sideLayout = new QVBoxLayout(side);
-    auto* const title = new QLabel(tr("Moves, the last one first"));
+    auto* const title = new QLabel(tr("Undo list"));
     title->setBuddy(undoList_);
-    title->setWordWrap(true);
     sideLayout->setContentsMargins(4, 4, 4, 4);
     sideLayout->addWidget(title);
     sideLayout->addWidget(undoList_);
@@ -204,7 +204,7 @@ void Form1::AddCentre() {
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
     splitter->setChildrenCollapsible(false);
-    splitter->setSizes({container_->sizeHint().width(), kListWidth});
+    splitter->setSizes({container_->sizeHint().width(), side->sizeHint().width()});
     setCentralWidget(splitter);
 }
 
@@ -218,7 +218,23 @@ void Form1::AddDock(LinesView* list, const QString& title) {
     QAction* const toggle = dock->toggleViewAction();
     toggle->setObjectName("view" + list->objectName());
     MenuAt("Tide/View")->addAction(toggle);
-    connect(dock, &QDockWidget::visibilityChanged, this, &Form1::RefreshLists);
+    connect(toggle, &QAction::triggered, this, [this, dock](bool shown) {
+        if (shown) MakeRoomFor(dock);
+    });
+    // The list is the receiver, since docks still tell when the window is gone.
+    connect(dock, &QDockWidget::visibilityChanged, list, [list](bool visible) {
+        if (visible) list->Refresh();
+    });
+}
+
+/// Widens the window for the first dock, so that the board keeps its place.
+void Form1::MakeRoomFor(const QDockWidget* dock) {
+    for (const QDockWidget* const other : findChildren<QDockWidget*>()) {
+        if (other != dock && other->isVisible()) return;
+    }
+    const int more = dock->sizeHint().width();
+    const bool fits = frameGeometry().width() + more <= screen()->availableSize().width();
+    if (!isMaximized() && !isFullScreen() && fits) resize(width() + more, height());
 }
 
 void Form1::AddStatusLine() {
@@ -231,7 +247,7 @@ void Form1::AddStatusLine() {
     pb_->setMinimumWidth(1);
     pb_->setAccessibleName(tr("Status"));
     progress_->setObjectName("Progress");
-    progress_->setMaximumWidth(kListWidth);
+    progress_->setMaximumWidth(kProgressWidth);
     progress_->hide();
     puzfile_->setObjectName("Puzfile");
     puzfile_->setTextFormat(Qt::PlainText);
@@ -290,7 +306,10 @@ void Form1::RefreshLists() {
 
 void Form1::TakeDefaultSize() {
     constexpr int kWindowFrame = 48;  // a title bar and its shadows, in pixels
-    const QSize wanted = sizeHint();
+    // A splitter forgets its handle when it is asked for its size.
+    const QSize wanted = sizeHint() + QSize(findChild<QSplitter*>()->handleWidth(), 0);
+    // Without a display there is no screen to fit on either.
+    if (QGuiApplication::platformName() == "offscreen") return resize(wanted);
     const QSize room = screen()->availableSize() - QSize(kWindowFrame, kWindowFrame);
     const int less = std::max({0, wanted.width() - room.width(), wanted.height() - room.height()});
     resize(wanted - QSize(less, less));

@@ -30,6 +30,11 @@ Program::Program()
     form1_.Show(*game_);
 }
 
+Program::~Program() {
+    // The windows outlive the game by a moment.
+    handlers_.Detach();
+}
+
 std::optional<std::string> Program::Start(const StartRequest& request) {
     prompts_.SetCaption(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
     form1_.TakeDefaultSize();

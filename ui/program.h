@@ -26,6 +26,7 @@ namespace tidewalk {
 class Program final {
  public:
     Program();
+    ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 

@@ -9,6 +9,26 @@
 
 namespace tidewalk {
 
+namespace {
+
+/// A box is no place for the busy pointer. While it shows, the arrow stands in for it.
+class ArrowPointer {
+ public:
+    ArrowPointer() : busy_(QApplication::overrideCursor() != nullptr) {
+        if (busy_) QApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+    ~ArrowPointer() {
+        if (busy_) QApplication::restoreOverrideCursor();
+    }
+    ArrowPointer(const ArrowPointer&) = delete;
+    ArrowPointer& operator=(const ArrowPointer&) = delete;
+
+ private:
+    bool busy_;
+};
+
+}  // namespace
+
 /// True when no box is to be shown.
 bool QtPrompts::Silent(const std::string& text) const {
     if (handlers_.game() != nullptr && handlers_.game()->ending) return true;
@@ -25,6 +45,7 @@ QWidget* QtPrompts::Parent() const {
 int QtPrompts::Show(const std::string& text, std::string_view style) {
     const MessageStyle parsed = ParseMessageStyle(style);
     if (Silent(text)) return parsed.FrameAnswer();
+    const ArrowPointer arrow;
     MsgForm box(text, parsed, caption_, Parent());
     QObject::connect(&handlers_, &Handlers::Ending, &box, &QDialog::reject);
     return box.exec();
@@ -33,6 +54,7 @@ int QtPrompts::Show(const std::string& text, std::string_view style) {
 int QtPrompts::SystemBox(const std::string& text, SystemButtons buttons) {
     const bool yesNo = buttons == SystemButtons::YesNo;
     if (Silent(text)) return yesNo ? kNo : kOk;
+    const ArrowPointer arrow;
     QMessageBox box(QMessageBox::NoIcon, QString::fromUtf8(AppTitle.data(), AppTitle.size()),
                     QString::fromStdString(text).replace("\r\n", "\n"),
                     yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, Parent());
