@@ -90,7 +90,7 @@ void HelpWindow::changeEvent(QEvent* event) {
 /// read again.
 void HelpWindow::ApplyLinkColour() {
     constexpr int kMiddle = 128;
-    const bool dark = browser_->palette().color(QPalette::Base).lightness() < kMiddle;
+    const bool dark = palette().color(QPalette::Base).lightness() < kMiddle;
     browser_->document()->setDefaultStyleSheet(dark ? "a { color: #8ab8ff; }" : "a { color: #004aad; }");
     if (browser_->source().isValid()) browser_->reload();
 }
