@@ -55,6 +55,7 @@ AboutBox::AboutBox(QWidget* parent) : QDialog(parent) {
     body->addWidget(icon, 0, Qt::AlignTop);
     body->addWidget(text, 1);
     auto* const all = new QVBoxLayout(this);
+    all->setContentsMargins(20, 18, 24, 14);
     all->addLayout(body);
     all->addWidget(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);

@@ -24,7 +24,7 @@ constexpr int kPageMargin = 14;
 
 HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), browser_(new QTextBrowser) {
     setObjectName("WebBrowser");
-    setWindowTitle(tr("Tidewalk Help"));
+    setWindowTitle(tr("Help"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     resize(QSize(kWidth, kHeight).boundedTo(screen()->availableSize() * kScreenShare / 100));
     browser_->setObjectName("HelpPage");
