@@ -31,6 +31,8 @@ struct Game : Puzzle, SolverTables, GrowthTables, BoardState, Options {
           clock(seams.clock),
           batchWindow(seams.batchWindow),
           clipboard(seams.clipboard),
+          printers(seams.printers),
+          form5(seams.form5),
           random(seams.clock) {}
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
@@ -44,10 +46,14 @@ struct Game : Puzzle, SolverTables, GrowthTables, BoardState, Options {
     Clock& clock;
     BatchWindow& batchWindow;
     Clipboard& clipboard;
+    Printers& printers;
+    Form5Window& form5;
 
     std::string AppFolder;         ///< the program's folder, with a separator at its end
     std::string ColourListPath;    ///< "all.col" in it
     std::string SolutionTempPath;  ///< "TempPuzzleSolFile.tdw" in it
+
+    std::string printerName;  ///< the printer that was chosen last, "" for the system's own choice
 
     NumberedFiles files;
     RandomSource random;

@@ -35,40 +35,40 @@ bool IsText(std::string_view line) {
 }
 
 /// Reads line `number` of the file into `record`; false when there is none or it can be no record. File 1 stays open.
-bool ReadRecord(Game& game, const std::string& path, int number, std::string& record) {
-    game.files.Open(1, path, FileMode::Input);
+bool ReadRecord(NumberedFiles& files, const std::string& path, int number, std::string& record) {
+    files.Open(1, path, FileMode::Input);
     for (int line = 1; line < number; ++line) {
-        if (!game.files.SkipLine(1)) return false;
+        if (!files.SkipLine(1)) return false;
     }
-    return number >= 1 && game.files.ReadLine(1, record) && record.size() <= kLongestRecord && IsText(record);
+    return number >= 1 && files.ReadLine(1, record) && record.size() <= kLongestRecord && IsText(record);
 }
 
-bool ReadHeader(Game& game, std::string_view header) {
+bool ReadHeader(Puzzle& puzzle, std::string_view header) {
     const auto fields = Split(header, ',');
     if (fields.size() < 3) return false;
     const int rows = RoundedVal(fields[0]);
     const int cols = RoundedVal(fields[1]);
     if (rows < 1 || rows > kMaxSide || cols < 1 || cols > kMaxSide) return false;
-    game.Rows = rows;
-    game.Cols = cols;
+    puzzle.Rows = rows;
+    puzzle.Cols = cols;
     return true;
 }
 
 /// Reads the islands' numbers, and every character for the bridges between them; false when a row is missing.
-bool ReadBoard(Game& game, std::string_view boardText, BoardText& cells) {
+bool ReadBoard(Puzzle& puzzle, std::string_view boardText, BoardText& cells) {
     const auto rows = Split(boardText, ',');
     cells.Fill('.');
-    game.NumberTotal = 0;
-    for (int row = 1; row <= game.Rows; ++row) {
+    puzzle.NumberTotal = 0;
+    for (int row = 1; row <= puzzle.Rows; ++row) {
         if (static_cast<std::size_t>(row) > rows.size()) return false;
         const std::string_view text = rows[static_cast<std::size_t>(row - 1)];
-        const int given = std::min(game.Cols, static_cast<int>(text.size()));
-        for (int col = 1; col <= game.Cols; ++col) {
+        const int given = std::min(puzzle.Cols, static_cast<int>(text.size()));
+        for (int col = 1; col <= puzzle.Cols; ++col) {
             if (col <= given) cells(row, col) = text[static_cast<std::size_t>(col - 1)];
             const int number = static_cast<int>(Val({&cells(row, col), 1}));
-            game.IslandGrid(row, col) = number;
-            game.GivenGrid(row, col) = number;
-            game.NumberTotal += number;
+            puzzle.IslandGrid(row, col) = number;
+            puzzle.GivenGrid(row, col) = number;
+            puzzle.NumberTotal += number;
         }
     }
     return true;
@@ -82,48 +82,59 @@ struct Step {
 
 /// Records the bridge drawn with `stroke` that leaves the island at (row, col) by `step`. Whatever cell ends the run is
 /// taken for the other island, without a look at it; a run that leaves the board is no bridge.
-void TakeBridge(Game& game, const BoardText& cells, int row, int col, Step step, char stroke, int state) {
-    if (game.IslandGrid(row, col) <= 0 || cells(row + step.row, col + step.col) != stroke) return;
+void TakeBridge(Puzzle& puzzle, const BoardText& cells, int row, int col, Step step, char stroke, int state) {
+    if (puzzle.IslandGrid(row, col) <= 0 || cells(row + step.row, col + step.col) != stroke) return;
     int endRow = row + step.row;
     int endCol = col + step.col;
-    while (game.OnBoard(endRow, endCol) && cells(endRow, endCol) == stroke) {
+    while (puzzle.OnBoard(endRow, endCol) && cells(endRow, endCol) == stroke) {
         endRow += step.row;
         endCol += step.col;
     }
-    if (!game.OnBoard(endRow, endCol)) return;
-    game.LinkList.Append(game.CellId(row, col), game.CellId(endRow, endCol), state);
+    if (!puzzle.OnBoard(endRow, endCol)) return;
+    puzzle.LinkList.Append(puzzle.CellId(row, col), puzzle.CellId(endRow, endCol), state);
 }
 
 /// Rebuilds the links of the stored solution: row by row the single bridges and then the double ones, after them the
 /// single and then the double bridges of all columns.
-void ReadBridges(Game& game, const BoardText& cells) {
+void ReadBridges(Puzzle& puzzle, const BoardText& cells) {
     constexpr Step kRight{0, 1};
     constexpr Step kDown{1, 0};
-    for (int row = 1; row <= game.Rows; ++row) {
-        for (int col = 1; col < game.Cols; ++col)
-            TakeBridge(game, cells, row, col, kRight, '-', 1);
-        for (int col = 1; col < game.Cols; ++col)
-            TakeBridge(game, cells, row, col, kRight, '=', 0);
+    for (int row = 1; row <= puzzle.Rows; ++row) {
+        for (int col = 1; col < puzzle.Cols; ++col)
+            TakeBridge(puzzle, cells, row, col, kRight, '-', 1);
+        for (int col = 1; col < puzzle.Cols; ++col)
+            TakeBridge(puzzle, cells, row, col, kRight, '=', 0);
     }
     for (const auto& [stroke, state] : {std::pair{'|', 1}, std::pair{'I', 0}}) {
-        for (int col = 1; col <= game.Cols; ++col) {
-            for (int row = 1; row < game.Rows; ++row)
-                TakeBridge(game, cells, row, col, kDown, stroke, state);
+        for (int col = 1; col <= puzzle.Cols; ++col) {
+            for (int row = 1; row < puzzle.Rows; ++row)
+                TakeBridge(puzzle, cells, row, col, kDown, stroke, state);
         }
     }
 }
 
-bool ReadPuzzle(Game& game, const std::string& path, int number) {
-    std::string record;
-    if (!ReadRecord(game, path, number, record)) return false;
-    ResetWorkAreas(game);
+/// Reads the record into `puzzle`. `numberBoard` is called once its size is known, and has to number the cells.
+template <class NumberBoard>
+bool ParseRecord(Puzzle& puzzle, std::string_view record, NumberBoard numberBoard) {
     const auto parts = Split(record, ';');
-    if (parts.size() < 3 || !ReadHeader(game, parts[0])) return false;
-    NumberNewBoard(game);
-    FitBoard(game);
+    if (parts.size() < 3 || !ReadHeader(puzzle, parts[0])) return false;
+    numberBoard();
     BoardText cells;
-    if (!ReadBoard(game, parts[2], cells)) return false;
-    ReadBridges(game, cells);
+    if (!ReadBoard(puzzle, parts[2], cells)) return false;
+    ReadBridges(puzzle, cells);
+    return true;
+}
+
+/// Reads the line into the game itself; file 1 is closed only after a success.
+bool ReadCurrentPuzzle(Game& game, const std::string& path, int number) {
+    std::string record;
+    if (!ReadRecord(game.files, path, number, record)) return false;
+    ResetWorkAreas(game);
+    const auto layOut = [&game] {
+        NumberNewBoard(game);
+        FitBoard(game);
+    };
+    if (!ParseRecord(game, record, layOut)) return false;
     game.files.Close(1);
     return true;
 }
@@ -145,10 +156,30 @@ int CountLines(Game& game, const std::string& path) {
     return count;
 }
 
+bool ReadPuzzle(NumberedFiles& files, const std::string& path, int number, Puzzle& puzzle) {
+    files.CloseAll();
+    puzzle = Puzzle();
+    puzzle.IslandGrid.FillBoard(-1);
+    puzzle.GivenGrid.FillBoard(-1);
+    bool read = false;
+    try {
+        std::string record;
+        const auto numberCells = [&puzzle] {
+            NumberCells(puzzle);
+            puzzle.LinkList.Clear(puzzle.Cols);
+        };
+        read = ReadRecord(files, path, number, record) && ParseRecord(puzzle, record, numberCells);
+    } catch (const FileError&) {
+        read = false;
+    }
+    files.CloseAll();
+    return read;
+}
+
 int LoadPuzzle(Game& game, const std::string& path, int number) {
     bool read = false;
     try {
-        read = ReadPuzzle(game, path, number);
+        read = ReadCurrentPuzzle(game, path, number);
     } catch (const FileError&) {
         read = false;
     }

@@ -20,4 +20,11 @@ int CountLines(Game& game, const std::string& path);
 /// partly reset.
 int LoadPuzzle(Game& game, const std::string& path, int number);
 
+/// Reads line `number` of the collection at `path` into `puzzle`, which belongs to no game: nothing is shown, drawn or
+/// asked, and the current puzzle stays. Returns false when there is no such line or it is no record; `puzzle` is then
+/// of no use. Closes all numbered files first and leaves them closed.
+///
+/// `PuzzleNumber`, `PuzzleCount` and `CollectionPath` of `puzzle` are not set.
+bool ReadPuzzle(NumberedFiles& files, const std::string& path, int number, Puzzle& puzzle);
+
 }  // namespace tidewalk

@@ -36,6 +36,14 @@ class Surface {
         double height = 0;
     };
 
+    /// A rectangle between two corners, in twips.
+    struct Area {
+        double left = 0;
+        double top = 0;
+        double right = 0;
+        double bottom = 0;
+    };
+
     virtual ~Surface() = default;
 
     /// Wipes everything with one colour.

@@ -31,7 +31,9 @@ class HeadlessWorld final : public Prompts,
                             public BoardPictures,
                             public PendingEvents,
                             public BatchWindow,
-                            public Clipboard {
+                            public Clipboard,
+                            public Printers,
+                            public Form5Window {
  public:
     std::string lastMessage;
 
@@ -44,6 +46,15 @@ class HeadlessWorld final : public Prompts,
     void DoEvents() override {}
 
     std::string Text() override { return ""; }
+    bool SetPicture(const DrawFunction& /*draw*/) override { return false; }
+    std::vector<std::string> Names() override { return {}; }
+    std::unique_ptr<PrintDocument> Begin(const std::string& /*printer*/, const std::string& /*file*/,
+                                         std::string& error) override {
+        error = "There is no printer.";
+        return nullptr;
+    }
+    void Preview(const std::string& /*printer*/, const PageFunction& /*draw*/) override {}
+    void ShowModal(Form5Fields& /*fields*/) override {}
 
     std::string Text(Control control) const override {
         const auto found = texts_.find(control);
@@ -58,6 +69,15 @@ class HeadlessWorld final : public Prompts,
     void EndProgram() override {}
 
     std::string Text() override { return ""; }
+    bool SetPicture(const DrawFunction& /*draw*/) override { return false; }
+    std::vector<std::string> Names() override { return {}; }
+    std::unique_ptr<PrintDocument> Begin(const std::string& /*printer*/, const std::string& /*file*/,
+                                         std::string& error) override {
+        error = "There is no printer.";
+        return nullptr;
+    }
+    void Preview(const std::string& /*printer*/, const PageFunction& /*draw*/) override {}
+    void ShowModal(Form5Fields& /*fields*/) override {}
 
     Surface::Extent Picture5Extent() const override { return {kSide, kSide}; }
     Surface& Picture1() override { return surface_; }
@@ -100,7 +120,9 @@ class HeadlessGame : private HeadlessSeams, public Game {
                      .events = HeadlessSeams::world,
                      .clock = systemClock,
                      .batchWindow = HeadlessSeams::world,
-                     .clipboard = HeadlessSeams::world}) {}
+                     .clipboard = HeadlessSeams::world,
+                     .printers = HeadlessSeams::world,
+                     .form5 = HeadlessSeams::world}) {}
 
     /// The last message that a player would have seen.
     const std::string& LastMessage() const { return HeadlessSeams::world.lastMessage; }

@@ -94,11 +94,22 @@ int RunWindows(const CommandLine& line) {
     return unattended ? TakeScreenshot(program, *line.screenshot) : QCoreApplication::exec();
 }
 
+/// Writes the file that the command line asks for, with no need of a display.
+int RunOutput(int argc, char** argv, const OutputOrder& order) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication app(argc, argv);
+    const QString error = WriteOutput(order);
+    if (error.isEmpty()) return 0;
+    Say(stderr, error);
+    return kFailed;
+}
+
 }  // namespace
 
 int RunApplication(int argc, char** argv) {
     const CommandLine line = ReadCommandLine(argc, argv);
     if (const auto answer = AnswerAtOnce(line)) return *answer;
+    if (line.output) return RunOutput(argc, argv, *line.output);
     if (!FindDisplay(line)) {
         Say(stderr,
             "There is no display to show a window on. Use tidewalk --screenshot FILE.png for a picture of the window,\n"

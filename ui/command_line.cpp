@@ -14,12 +14,16 @@ struct Arguments {
     QCommandLineOption version{{"v", "version"}, "Show the version and end."};
     QCommandLineOption folder{"folder", "Use <dir> as the program folder.", "dir"};
     QCommandLineOption screenshot{"screenshot", "Draw the main window into <file.png> and end.", "file.png"};
+    QCommandLineOption picture{"picture", "Draw puzzle <number> of the collection into <file.png> and end.",
+                               "file.png"};
+    QCommandLineOption solution{"solution", "With --picture: draw the solution."};
+    QCommandLineOption pdf{"pdf", "Print puzzles of the collection, such as 3-7, into <file.pdf> and end.", "file.pdf"};
     QCommandLineOption seed{"seed", "Make random draws reproducible.", "number"};
 
     Arguments() {
         parser.setApplicationDescription("Play, solve and make bridges puzzles.");
         parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-        parser.addOptions({help, version, folder, screenshot, seed});
+        parser.addOptions({help, version, folder, screenshot, picture, solution, pdf, seed});
         // Qt takes these for itself later; until then they must not look like mistakes.
         for (const char* const name : {"platform", "style", "stylesheet", "qwindowgeometry", "display"}) {
             QCommandLineOption option(name, {}, "value");
@@ -27,7 +31,8 @@ struct Arguments {
             parser.addOption(option);
         }
         parser.addPositionalArgument("collection", "A collection of puzzles to open.", "[collection");
-        parser.addPositionalArgument("number", "The number of the puzzle in it, 1 if not given.", "[number]]");
+        parser.addPositionalArgument("number", "The number of the puzzle in it, 1 if not given; with --pdf a range.",
+                                     "[number]]");
     }
 };
 
@@ -40,6 +45,30 @@ CommandLine Wrong(const QString& text) {
 
 QString Absolute(const QString& path) {
     return QFileInfo(path).absoluteFilePath();
+}
+
+/// Reads what `--picture` and `--pdf` ask for. "" when all is well, else what is wrong.
+QString ReadOutput(const Arguments& known, const QStringList& positional, CommandLine& line) {
+    const bool picture = known.parser.isSet(known.picture);
+    const bool pdf = known.parser.isSet(known.pdf);
+    const bool solution = known.parser.isSet(known.solution);
+    if (!picture && !pdf) return solution ? "--solution goes with --picture" : "";
+    if (picture && pdf) return "Only one of --picture and --pdf can be given";
+    if (pdf && solution) return "--solution goes with --picture; pages show the solution anyway";
+    if (positional.size() != 2) {
+        return picture ? "--picture needs a collection and the number of a puzzle"
+                       : "--pdf needs a collection and a range of puzzles, such as 3-7";
+    }
+    OutputOrder order;
+    order.kind = picture ? OutputOrder::Kind::Picture : OutputOrder::Kind::Pdf;
+    order.solution = solution;
+    order.file = Absolute(known.parser.value(picture ? known.picture : known.pdf));
+    order.collection = Absolute(positional.at(0));
+    if (!ReadPuzzleRange(positional.at(1), order)) {
+        return (picture ? "This is no puzzle number: " : "This is no range of puzzles: ") + positional.at(1);
+    }
+    line.output = order;
+    return "";
 }
 
 }  // namespace
@@ -61,7 +90,8 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     }
     const QStringList positional = parser.positionalArguments();
     if (positional.size() > 2) return Wrong("Too many arguments: " + positional.at(2));
-    for (const QCommandLineOption* const option : {&known.folder, &known.screenshot, &known.seed}) {
+    for (const QCommandLineOption* const option :
+         {&known.folder, &known.screenshot, &known.picture, &known.pdf, &known.seed}) {
         if (parser.isSet(*option) && parser.value(*option).isEmpty()) {
             return Wrong("Nothing is given for --" + option->names().constFirst());
         }
@@ -69,9 +99,11 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     bool isNumber = true;
     if (parser.isSet(known.seed)) line.seed = parser.value(known.seed).toULongLong(&isNumber);
     if (!isNumber) return Wrong("The seed is no number: " + parser.value(known.seed));
+    if (!positional.isEmpty() && positional.at(0).isEmpty()) return Wrong("The collection has no name");
+    if (const QString wrong = ReadOutput(known, positional, line); !wrong.isEmpty()) return Wrong(wrong);
+    if (line.output) return line;
     if (positional.size() == 2) line.puzzleNumber = positional.at(1).toInt(&isNumber);
     if (!isNumber || line.puzzleNumber.value_or(1) < 1) return Wrong("This is no puzzle number: " + positional.at(1));
-    if (!positional.isEmpty() && positional.at(0).isEmpty()) return Wrong("The collection has no name");
     if (!positional.isEmpty()) line.collection = Absolute(positional.at(0));
     if (parser.isSet(known.folder)) line.folder = Absolute(parser.value(known.folder));
     if (parser.isSet(known.screenshot)) line.screenshot = Absolute(parser.value(known.screenshot));

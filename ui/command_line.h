@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "ui/output_files.h"
+
 namespace tidewalk {
 
 struct CommandLine {
@@ -19,7 +21,8 @@ struct CommandLine {
     std::optional<std::uint64_t> seed;
     QString collection;  ///< absolute, or empty
     std::optional<int> puzzleNumber;
-    bool namesPlatform = false;  ///< Qt was told where to show its windows
+    std::optional<OutputOrder> output;  ///< a file to write in place of showing a window; its paths are absolute
+    bool namesPlatform = false;         ///< Qt was told where to show its windows
 };
 
 /// Reads the arguments, the program's name first. Paths are made absolute from the current directory.

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/commands.h"
 
+#include <QFile>
 #include <algorithm>
 
 #include "board/check_bridges.h"
+#include "board/copy_and_print.h"
 #include "board/layout.h"
 #include "board/undo.h"
 #include "generator/batch.h"
@@ -15,6 +17,7 @@
 #include "model/read_grid_file.h"
 #include "program/exit.h"
 #include "solver/auto_solve.h"
+#include "ui/about.h"
 #include "ui/program.h"
 
 namespace tidewalk {
@@ -44,6 +47,16 @@ void OpenOptionsWindow(Program& program, const Click&) {
 
 void OpenEditor(Program& program, const Click&) {
     program.form6().Open();
+}
+
+void ShowHelp(Program& program, const Click&) {
+    program.help().Open(QFile::decodeName(program.game().AppFolder.c_str()));
+}
+
+void ShowAbout(Program& program, const Click&) {
+    AboutBox box(&program.form1());
+    QObject::connect(&program.handlers(), &Handlers::Ending, &box, &QDialog::reject);
+    box.exec();
 }
 
 QList<QKeySequence> Keys(QKeySequence::StandardKey key) {
@@ -103,8 +116,13 @@ std::vector<Command> TideCommands() {
          .keys = Keys("Ctrl+0"),
          .handler = DoIndexed<cmdzoom_Click>},
         {.menu = kMenu, .name = "dash2", .text = "-"},
-        {.menu = kMenu, .name = "mnuhelp", .text = "Help", .icon = "help", .keys = Keys(QKeySequence::HelpContents)},
-        {.menu = kMenu, .name = "mnuabout", .text = "About Tidewalk", .icon = "about"},
+        {.menu = kMenu,
+         .name = "mnuhelp",
+         .text = "Help",
+         .icon = "help",
+         .keys = Keys(QKeySequence::HelpContents),
+         .handler = ShowHelp},
+        {.menu = kMenu, .name = "mnuabout", .text = "About Tidewalk", .icon = "about", .handler = ShowAbout},
         {.menu = kMenu, .name = "dash3", .text = "-"},
         {.menu = kMenu,
          .name = "mnuexit",
@@ -256,20 +274,31 @@ std::vector<Command> PrintCommands() {
          .name = "mnuprintcurrent",
          .text = "Print Current Puzzle",
          .icon = "print",
-         .keys = Keys(QKeySequence::Print)},
-        {.menu = kMenu, .name = "mnuprintpreview", .text = "Print Preview ...", .icon = "view"},
-        {.menu = kMenu, .name = "control27", .text = "Print Puzzles From File ...", .icon = "print"},
+         .keys = Keys(QKeySequence::Print),
+         .handler = Do<mnuprintcurrent_Click>},
+        {.menu = kMenu,
+         .name = "mnuprintpreview",
+         .text = "Print Preview ...",
+         .icon = "view",
+         .handler = Do<mnuprintpreview_Click>},
+        {.menu = kMenu,
+         .name = "control27",
+         .text = "Print Puzzles From File ...",
+         .icon = "print",
+         .handler = Do<control27_Click>},
         {.menu = kMenu, .name = "dash10", .text = "-"},
         {.menu = kMenu,
          .name = "mnucopyclippuz",
          .text = "Copy Puzzle to Clipboard",
          .icon = "copy",
-         .keys = Keys(QKeySequence::Copy)},
+         .keys = Keys(QKeySequence::Copy),
+         .handler = Do<mnucopyclippuz_Click>},
         {.menu = kMenu,
          .name = "mnucopyclipsol",
          .text = "Copy Solution to Clipboard",
          .icon = "copy",
-         .keys = Keys("Ctrl+Shift+C")},
+         .keys = Keys("Ctrl+Shift+C"),
+         .handler = Do<mnucopyclipsol_Click>},
         {.menu = kMenu, .name = "dash11", .text = "-"},
         {.menu = kMenu, .name = "can3", .text = "Cancel", .icon = "cancel", .handler = Do<cmdcancel_Click>},
     };

@@ -24,6 +24,7 @@ Program::Program()
                  if (handler != nullptr) handlers_.Run([&](Game&) { handler(*this, click); });
              }),
       form3_(handlers_, &form1_),
+      help_(&form1_),
       prompts_(handlers_),
       filePicker_(handlers_),
       window_(form1_, handlers_),
@@ -31,6 +32,8 @@ Program::Program()
       events_(handlers_),
       form2_(handlers_, &form1_),
       form6_(handlers_, &form1_),
+      printers_(handlers_),
+      form5_(handlers_),
       game_(std::make_unique<Game>(Seams{.prompts = prompts_,
                                          .filePicker = filePicker_,
                                          .window = window_,
@@ -39,9 +42,15 @@ Program::Program()
                                          .events = events_,
                                          .clock = clock_,
                                          .batchWindow = form3_,
-                                         .clipboard = clipboard_})) {
+                                         .clipboard = clipboard_,
+                                         .printers = printers_,
+                                         .form5 = form5_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
+    clipboard_.SetMainWindow(&form1_);
+    printers_.SetMainWindow(&form1_);
+    form5_.SetMainWindow(&form1_);
+    QObject::connect(&handlers_, &Handlers::Ending, &help_, &QWidget::close);
     handlers_.Attach(*game_);
     QObject::connect(&handlers_, &Handlers::Ending, &form1_, LeaveDialogs);
     form1_.Show(*game_);

@@ -9,15 +9,18 @@
 #include "board/drawing.h"
 #include "program/form_load.h"
 #include "ui/board_pictures.h"
-#include "ui/clipboard.h"
 #include "ui/file_picker.h"
 #include "ui/form1.h"
-#include "ui/form3.h"
 #include "ui/form2.h"
+#include "ui/form3.h"
 #include "ui/form6.h"
+#include "ui/form5.h"
+#include "ui/help_window.h"
 #include "ui/main_window.h"
 #include "ui/pending_events.h"
 #include "ui/prompts.h"
+#include "ui/qt_clipboard.h"
+#include "ui/qt_printers.h"
 
 namespace tidewalk {
 
@@ -35,6 +38,7 @@ class Program final {
     Form2& form2() { return form2_; }
     Form6& form6() { return form6_; }
     Handlers& handlers() { return handlers_; }
+    HelpWindow& help() { return help_; }
     QtPrompts& prompts() { return prompts_; }
 
     /// Shows the main window and runs `Form_Load`, whose text is returned if the program cannot start.
@@ -44,6 +48,7 @@ class Program final {
     Handlers handlers_;
     Form1 form1_;
     Form3 form3_;
+    HelpWindow help_;
     QtPrompts prompts_;
     QtFilePicker filePicker_;
     QtMainWindow window_;
@@ -54,6 +59,8 @@ class Program final {
     QtClipboard clipboard_;
     Form2 form2_;
     Form6 form6_;
+    QtPrinters printers_;
+    QtForm5 form5_;
     std::unique_ptr<Game> game_;
 };
 

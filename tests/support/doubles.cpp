@@ -127,4 +127,48 @@ int RecordingSurface::Count(const std::string& kind) const {
     }));
 }
 
+bool ClipboardDouble::SetPicture(const DrawFunction& draw) {
+    if (works) drawn = draw(picture);
+    return works;
+}
+
+namespace {
+
+class DocumentDouble final : public PrintDocument {
+ public:
+    explicit DocumentDouble(PrintersDouble& printers) : printers_(printers) { printers_.pages.emplace_back(); }
+
+    Surface& Page() override { return printers_.pages.back(); }
+    Surface::Area Printable() const override { return printers_.printable; }
+    bool NewPage() override {
+        if (static_cast<int>(printers_.pages.size()) + 1 == printers_.failAtPage) return false;
+        printers_.pages.emplace_back();
+        return true;
+    }
+    bool End() override { return printers_.printed = !printers_.failAtEnd; }
+    std::string Error() const override { return "out of paper"; }
+
+ private:
+    PrintersDouble& printers_;
+};
+
+}  // namespace
+
+std::unique_ptr<PrintDocument> PrintersDouble::Begin(const std::string& name, const std::string& path,
+                                                     std::string& error) {
+    printer = name;
+    file = path;
+    pages.clear();
+    printed = false;
+    error = beginError;
+    if (!error.empty()) return nullptr;
+    return std::make_unique<DocumentDouble>(*this);
+}
+
+void PrintersDouble::Preview(const std::string& name, const PageFunction& draw) {
+    printer = name;
+    pages.assign(1, {});
+    draw(pages.front(), printable);
+}
+
 }  // namespace tidewalk::test

@@ -154,13 +154,6 @@ class EventsDouble final : public PendingEvents {
     std::function<void()> happen;
 };
 
-class ClipboardDouble final : public Clipboard {
- public:
-    std::string Text() override { return text; }
-
-    std::string text;
-};
-
 /// A clock that a test sets; each look at the milliseconds lets `step` pass.
 class ClockDouble final : public Clock {
  public:
@@ -170,6 +163,48 @@ class ClockDouble final : public Clock {
     double seconds = 0;
     std::int64_t milliseconds = 0;
     std::int64_t step = 0;
+};
+
+/// Keeps what was copied as drawing calls.
+class ClipboardDouble final : public Clipboard {
+ public:
+    std::string Text() override { return text; }
+    bool SetPicture(const DrawFunction& draw) override;
+
+    std::string text;
+    RecordingSurface picture;
+    Surface::Area drawn;
+    bool works = true;
+};
+
+/// A printer that keeps the pages of a document as drawing calls, and fails where a test wants it to.
+class PrintersDouble final : public Printers {
+ public:
+    std::vector<std::string> Names() override { return names; }
+    std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
+                                         std::string& error) override;
+    void Preview(const std::string& printer, const PageFunction& draw) override;
+
+    std::vector<std::string> names{"Office", "PDF file"};
+    std::string beginError;  ///< why no document can begin
+    int failAtPage = 0;      ///< the page that the printer refuses, 0 for none
+    bool failAtEnd = false;
+
+    std::string printer;                  ///< the one that was asked last
+    std::string file;                     ///< the file that it was to write
+    std::vector<RecordingSurface> pages;  ///< of the last document
+    bool printed = false;                 ///< the last document came to its end
+    Surface::Area printable{360, 360, 11540, 16480};
+};
+
+/// Does with the window's fields what a test wants.
+class Form5Double final : public Form5Window {
+ public:
+    void ShowModal(Form5Fields& fields) override {
+        if (play) play(fields);
+    }
+
+    std::function<void(Form5Fields&)> play;
 };
 
 }  // namespace tidewalk::test

@@ -49,7 +49,9 @@ TestGame::TestGame()
                  .events = SeamDoubles::events,
                  .clock = SeamDoubles::clock,
                  .batchWindow = SeamDoubles::batchWindow,
-                 .clipboard = SeamDoubles::clipboard}) {
+                 .clipboard = SeamDoubles::clipboard,
+                 .printers = SeamDoubles::printers,
+                 .form5 = SeamDoubles::form5}) {
     AppFolder = folder.Path("");
     random.UseSeed(1);
 }

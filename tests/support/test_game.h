@@ -42,6 +42,8 @@ struct SeamDoubles {
     ClockDouble clock;
     BatchDouble batchWindow;
     ClipboardDouble clipboard;
+    PrintersDouble printers;
+    Form5Double form5;
 };
 
 /// A game with its doubles. Random draws are those of seed 1.
@@ -64,12 +66,14 @@ class TestGame : private SeamDoubles, public Game {
     ClockDouble& clock = SeamDoubles::clock;
     BatchDouble& batchWindow = SeamDoubles::batchWindow;
     ClipboardDouble& clipboard = SeamDoubles::clipboard;
+    PrintersDouble& printers = SeamDoubles::printers;
+    Form5Double& form5 = SeamDoubles::form5;
 };
 
 /// A record with the header that `rows` need and these rows of the board.
 std::string Record(const std::vector<std::string>& rows);
 
-/// A small puzzle of 7x7 with its solution on ten links.
+/// A small puzzle of 7x7 with its solution, fifteen bridges on ten links.
 extern const char* const kSmallPuzzle;
 
 }  // namespace tidewalk::test

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+// Copying the puzzle to the clipboard, printing it, and printing puzzles out of a file.
+#pragma once
+
+#include "model/game.h"
+
+namespace tidewalk {
+
+/// Puts a picture of the puzzle, or of its stored solution, on the clipboard.
+void mnucopyclippuz_Click(Game& game);
+void mnucopyclipsol_Click(Game& game);
+
+/// Prints the current puzzle and its solution on one page.
+void mnuprintcurrent_Click(Game& game);
+
+/// Shows what that page looks like.
+void mnuprintpreview_Click(Game& game);
+
+/// Asks for a file and a range of its puzzles and prints them, a page each. Cancel stops it; then nothing is printed.
+/// A puzzle that cannot be read leaves its page empty.
+void control27_Click(Game& game);
+
+/// Fills the window's numbers and printers when it appears.
+void Form5_Activate(Game& game, Form5Fields& fields);
+
+/// The file picker of the window: takes the chosen file and counts its puzzles, and says so when there are none.
+void Form5_gf1_Click(Game& game, Form5Fields& fields);
+
+/// OK: checks the fields. Returns true when the window is to close with the tag "Y"; else the player was told why not.
+bool Form5_Command1_Click(Game& game, Form5Fields& fields);
+
+}  // namespace tidewalk

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "ui/form5.h"
+
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QGridLayout>
+#include <QPushButton>
+
+#include "board/copy_and_print.h"
+
+namespace tidewalk {
+
+namespace {
+
+constexpr int kPathWidth = 380;   ///< in pixels
+constexpr int kNumberWidth = 80;  ///< in pixels
+
+template <class Widget>
+Widget* Named(Widget* widget, const char* name, const QString& accessible) {
+    widget->setObjectName(name);
+    widget->setAccessibleName(accessible);
+    return widget;
+}
+
+/// A label whose mnemonic leads to the control.
+QLabel* LabelFor(const QString& text, QWidget* control) {
+    auto* const label = new QLabel(text);
+    label->setBuddy(control);
+    return label;
+}
+
+}  // namespace
+
+Form5::Form5(Handlers& handlers, Form5Fields& fields, QWidget* parent)
+    : QDialog(parent),
+      handlers_(handlers),
+      fields_(fields),
+      fileNow_(Named(new QLineEdit, "FileNow", tr("File"))),
+      text1_(Named(new QLineEdit, "Text1", tr("First puzzle"))),
+      text2_(Named(new QLineEdit, "Text2", tr("Last puzzle"))),
+      count_(Named(new QLabel, "Count", tr("Puzzles in the file"))),
+      combo1_(Named(new QComboBox, "Combo1", tr("Printer"))) {
+    setObjectName("Form5");
+    setWindowTitle(tr("Print Puzzles From File"));
+    AddControls();
+    connect(&handlers_, &Handlers::Ending, this, &QDialog::reject);
+    handlers_.Run([this](Game& game) { Form5_Activate(game, fields_); });
+    for (const std::string& name : fields_.printers)
+        combo1_->addItem(QString::fromStdString(name));
+    Show();
+    text1_->setFocus();
+    text1_->selectAll();
+}
+
+void Form5::AddControls() {
+    fileNow_->setMinimumWidth(kPathWidth);
+    text1_->setFixedWidth(kNumberWidth);
+    text2_->setFixedWidth(kNumberWidth);
+    auto* const browse = Named(new QPushButton(tr("&Browse ...")), "gf1", tr("Select a file"));
+    browse->setAutoDefault(false);
+    auto* const range = new QHBoxLayout;
+    range->addWidget(text1_);
+    range->addWidget(LabelFor(tr("&to"), text2_));
+    range->addWidget(text2_);
+    range->addWidget(count_);
+    range->addStretch();
+    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
+    Named(buttons->button(QDialogButtonBox::Ok), "Command1", tr("OK"));
+    Named(buttons->button(QDialogButtonBox::Cancel), "command2", tr("Cancel"));
+
+    auto* const grid = new QGridLayout(this);
+    grid->addWidget(LabelFor(tr("&File:"), fileNow_), 0, 0);
+    grid->addWidget(fileNow_, 0, 1);
+    grid->addWidget(browse, 0, 2);
+    grid->addWidget(LabelFor(tr("&Puzzles:"), text1_), 1, 0);
+    grid->addLayout(range, 1, 1, 1, 2);
+    grid->addWidget(LabelFor(tr("P&rinter:"), combo1_), 2, 0);
+    grid->addWidget(combo1_, 2, 1, 1, 2);
+    grid->addWidget(buttons, 3, 0, 1, 3);
+    grid->setColumnStretch(1, 1);
+    connect(browse, &QPushButton::clicked, this, &Form5::Pick);
+    connect(buttons, &QDialogButtonBox::accepted, this, &Form5::Accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+}
+
+void Form5::Show() {
+    fileNow_->setText(QFile::decodeName(fields_.FileNow.c_str()));
+    text1_->setText(QString::fromStdString(fields_.Text1));
+    text2_->setText(QString::fromStdString(fields_.Text2));
+    count_->setText(tr("of %1").arg(fields_.count));
+    combo1_->setCurrentText(QString::fromStdString(fields_.Combo1));
+}
+
+void Form5::Take() {
+    fields_.FileNow = QFile::encodeName(fileNow_->text()).toStdString();
+    fields_.Text1 = text1_->text().toStdString();
+    fields_.Text2 = text2_->text().toStdString();
+    fields_.Combo1 = combo1_->currentText().toStdString();
+}
+
+void Form5::Pick() {
+    Take();
+    handlers_.Run([this](Game& game) { Form5_gf1_Click(game, fields_); });
+    Show();
+}
+
+void Form5::Accept() {
+    Take();
+    bool decided = false;
+    handlers_.Run([this, &decided](Game& game) { decided = Form5_Command1_Click(game, fields_); });
+    Show();
+    if (decided) accept();
+}
+
+}  // namespace tidewalk

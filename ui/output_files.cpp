@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "ui/output_files.h"
+
+#include <QFile>
+#include <QGuiApplication>
+#include <QRegularExpression>
+#include <QSaveFile>
+
+#include "board/render_puzzle.h"
+#include "model/load_puzzle.h"
+#include "ui/paper.h"
+#include "ui/picture.h"
+
+namespace tidewalk {
+
+namespace {
+
+std::string FileName(const QString& name) {
+    return QFile::encodeName(name).toStdString();
+}
+
+QString WritePictureFile(const OutputOrder& order) {
+    NumberedFiles files;
+    const auto puzzle = std::make_unique<Puzzle>();
+    const std::string path = FileName(order.collection);
+    if (!ReadPuzzle(files, path, order.from, *puzzle)) {
+        return QString("Puzzle %1 of %2 is missing or cannot be read").arg(order.from).arg(order.collection);
+    }
+    const RenderMode mode = order.solution ? RenderMode::Solution : RenderMode::Puzzle;
+    const std::string title = PrintTitle(order.solution ? "Solution#" : "Puzzle#", order.from, path);
+    const RenderRequest request = PictureRequest(mode, title, Options().PrintLineWidth);
+    const auto draw = [&](Surface& surface) { return RenderPuzzle(*puzzle, surface, request); };
+    const QImage picture = MakePicture(draw, qGuiApp->devicePixelRatio());
+    QSaveFile file(order.file);
+    if (!picture.isNull() && file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) return "";
+    return QString("%1 could not be written: %2").arg(order.file, file.errorString());
+}
+
+QString WritePages(const OutputOrder& order) {
+    NumberedFiles files;
+    const auto puzzle = std::make_unique<Puzzle>();
+    const std::string path = FileName(order.collection);
+    std::string error;
+    const auto document = BeginPdf(FileName(order.file), error);
+    if (!document) return QString("The pages could not be written: %1").arg(QString::fromStdString(error));
+    QStringList broken;
+    for (int number = order.from; number <= order.to; ++number) {
+        if (number > order.from && !document->NewPage()) break;
+        if (ReadPuzzle(files, path, number, *puzzle)) {
+            const std::string title = PrintTitle("Puzzle#", number, path);
+            RenderPuzzle(*puzzle, document->Page(),
+                         PageRequest(title, Options().PrintLineWidth, document->Printable()));
+        } else {
+            broken += QString::number(number);
+        }
+    }
+    if (!document->End()) {
+        return QString("The pages could not be written: %1").arg(QString::fromStdString(document->Error()));
+    }
+    if (broken.isEmpty()) return "";
+    return QString("These puzzles could not be read, their pages are empty: %1").arg(broken.join(", "));
+}
+
+/// The number of lines of the collection, counted as far as `wanted`.
+int CountPuzzles(const QString& collection, int wanted) {
+    NumberedFiles files;
+    int count = 0;
+    try {
+        files.Open(1, FileName(collection), FileMode::Input);
+        while (count < wanted && files.SkipLine(1))
+            ++count;
+    } catch (const FileError&) {
+        return 0;
+    }
+    return count;
+}
+
+}  // namespace
+
+bool ReadPuzzleRange(const QString& argument, OutputOrder& order) {
+    static const QRegularExpression form("^([0-9]{1,9})(?:-([0-9]{1,9}))?$");
+    const QRegularExpressionMatch match = form.match(argument);
+    if (!match.hasMatch()) return false;
+    order.from = match.captured(1).toInt();
+    order.to = match.captured(2).isEmpty() ? order.from : match.captured(2).toInt();
+    const bool single = order.kind == OutputOrder::Kind::Pdf || match.captured(2).isEmpty();
+    return single && order.from >= 1 && order.to >= order.from;
+}
+
+QString WriteOutput(const OutputOrder& order) {
+    const int count = CountPuzzles(order.collection, order.to);
+    if (count == 0) return QString("No puzzles in this file: %1").arg(order.collection);
+    if (order.kind == OutputOrder::Kind::Picture) return WritePictureFile(order);
+    if (count < order.to) return QString("There are only %1 puzzles in %2").arg(count).arg(order.collection);
+    return WritePages(order);
+}
+
+}  // namespace tidewalk

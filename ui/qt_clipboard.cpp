@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt_clipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include "ui/picture.h"
+
+namespace tidewalk {
+
+std::string QtClipboard::Text() {
+    // One byte a character: puzzles count columns, and everything but a digit is water anyway.
+    return QGuiApplication::clipboard()->text().toLatin1().toStdString();
+}
+
+bool QtClipboard::SetPicture(const DrawFunction& draw) {
+    const double scale = mainWindow_ != nullptr ? mainWindow_->devicePixelRatioF() : qGuiApp->devicePixelRatio();
+    const QImage picture = MakePicture(draw, scale);
+    if (picture.isNull()) return false;
+    QGuiApplication::clipboard()->setImage(picture);
+    return true;
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "ui/qt_printers.h"
+
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include "board/render_puzzle.h"
+#include "ui/paper.h"
+#include "ui/qt_surface.h"
+
+namespace tidewalk {
+
+namespace {
+
+constexpr int kPreviewWidth = 760;  ///< in pixels
+constexpr int kPreviewHeight = 820;
+
+void SetUp(QPrinter& device, const std::string& name) {
+    if (name == kPdfPrinter) {
+        device.setOutputFormat(QPrinter::PdfFormat);
+    } else {
+        device.setPrinterName(QString::fromStdString(name));
+    }
+    device.setCreator(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
+    device.setDocName(device.creator());
+    UseWholeSheets(device, UsualPaper(device.pageLayout().pageSize()));
+}
+
+/// A document on a printer of the system.
+class PrinterDocument final : public PrintDocument {
+ public:
+    explicit PrinterDocument(const std::string& name) : name_(name), device_(QPrinter::HighResolution) {
+        SetUp(device_, name);
+        surface_ = std::make_unique<QtSurface>(device_.resolution(), kTwipsPerPen);
+        surface_->SetTarget(&device_);
+        // A page that stays empty, the first one too, is a page only if painting has begun.
+        surface_->FilledBox(0, 0, 0, 0, kWhite);
+    }
+    ~PrinterDocument() override {
+        if (!ended_ && Works()) device_.abort();
+        surface_->SetTarget(nullptr);
+    }
+
+    bool Works() const { return device_.printerState() == QPrinter::Active; }
+
+    Surface& Page() override { return *surface_; }
+    Surface::Area Printable() const override { return PrintableArea(device_); }
+    bool NewPage() override { return Works() && device_.newPage(); }
+    bool End() override {
+        if (!Works()) return false;
+        ended_ = true;
+        surface_->SetTarget(nullptr);
+        return device_.printerState() != QPrinter::Error;
+    }
+    std::string Error() const override {
+        return "The printer \"" + name_ +
+               "\" does not take the document.\nSee whether it is switched on and connected.";
+    }
+
+ private:
+    std::string name_;
+    QPrinter device_;
+    std::unique_ptr<QtSurface> surface_;
+    bool ended_ = false;
+};
+
+}  // namespace
+
+std::vector<std::string> QtPrinters::Names() {
+    std::vector<std::string> names;
+    const QString first = QPrinterInfo::defaultPrinterName();
+    if (!first.isEmpty()) names.push_back(first.toStdString());
+    for (const QString& name : QPrinterInfo::availablePrinterNames()) {
+        if (name != first) names.push_back(name.toStdString());
+    }
+    names.emplace_back(kPdfPrinter);
+    return names;
+}
+
+std::unique_ptr<PrintDocument> QtPrinters::Begin(const std::string& printer, const std::string& file,
+                                                 std::string& error) {
+    if (printer == kPdfPrinter) return BeginPdf(file, error);
+    auto document = std::make_unique<PrinterDocument>(printer);
+    if (document->Works()) return document;
+    error = document->Error();
+    return nullptr;
+}
+
+void QtPrinters::Preview(const std::string& printer, const PageFunction& draw) {
+    QPrinter device(QPrinter::HighResolution);
+    SetUp(device, printer);
+    QPrintPreviewDialog dialog(&device, mainWindow_.data());
+    dialog.setObjectName("PrintPreview");
+    dialog.setWindowTitle(QPrintPreviewDialog::tr("Print Preview"));
+    dialog.resize(kPreviewWidth, kPreviewHeight);
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&draw](QPrinter* target) {
+        QtSurface surface(target->resolution(), kTwipsPerPen);
+        surface.SetTarget(target);
+        draw(surface, PrintableArea(*target));
+        surface.SetTarget(nullptr);
+    });
+    QObject::connect(&handlers_, &Handlers::Ending, &dialog, &QDialog::reject);
+    dialog.exec();
+}
+
+}  // namespace tidewalk
