@@ -127,7 +127,8 @@ void EditCurrentPuzzle(const Game& game, NumberGrid& grid) {
     // The numbers as given: a job may be counting the others down.
     for (int row = 1; row <= text.rows; ++row) {
         std::string& line = text.lines.emplace_back();
-        for (int col = 1; col <= text.cols; ++col) line += NumText(std::max(game.GivenGrid(row, col), 0));
+        for (int col = 1; col <= text.cols; ++col)
+            line += NumText(std::max(game.GivenGrid(row, col), 0));
     }
     grid.Take(text);
 }

@@ -99,7 +99,8 @@ TEST(SolvePuzzle, RulesAloneNeedNoTrial) {
 
 TEST(SolvePuzzle, OfTwoSolutionsTheFirstMoveOfTheFirstLineWins) {
     int trials = 0;
-    // A square of threes: double on top and bottom, or on the sides. Island 1 first takes one to its right, then another.
+    // A square of threes: double on top and bottom, or on the sides. Island 1 first takes one to its right, then
+    // another.
     EXPECT_EQ(Solve({"3.3", "...", "3.3"}, 9, trials), "0010030 0010071 0030091 0070090 ");
     EXPECT_GE(trials, 1);
     EXPECT_EQ(Solve({"3.3", "...", "3.3"}, 0, trials), "failed") << "a search was needed and not allowed";
