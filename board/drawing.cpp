@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "board/layout.h"
+#include "model/contrast.h"
 #include "model/numbers.h"
 
 namespace tidewalk {
@@ -105,7 +106,9 @@ void DrawIsland(Game& game, CellNumber id) {
         const double side = half - half / 4;
         picture.FilledBox(x - side, y - side, x + side, y + side, game.NodeColour);
     }
-    picture.Print(x + dx, y + dy, text, game.GivenColour);
+    // A number in the very colour of its island would be invisible, and the default options make both black.
+    const bool same = game.GivenColour == game.NodeColour;
+    picture.Print(x + dx, y + dy, text, same ? LegibleOn(game.NodeColour, game.GivenColour) : game.GivenColour);
 }
 
 void DrawLinkLine(Game& game, CellNumber a, CellNumber b) {

@@ -30,6 +30,7 @@ struct Game : Puzzle, SolverTables, GrowthTables, BoardState, Options {
           events(seams.events),
           clock(seams.clock),
           batchWindow(seams.batchWindow),
+          clipboard(seams.clipboard),
           random(seams.clock) {}
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
@@ -42,6 +43,7 @@ struct Game : Puzzle, SolverTables, GrowthTables, BoardState, Options {
     PendingEvents& events;
     Clock& clock;
     BatchWindow& batchWindow;
+    Clipboard& clipboard;
 
     std::string AppFolder;         ///< the program's folder, with a separator at its end
     std::string ColourListPath;    ///< "all.col" in it

@@ -53,6 +53,9 @@ enum class Control { pb, PuzNumNow, PuzNumber, Puzfile, GridSize };
 
 enum class Pointer { Default, Busy };
 
+/// The colours of the player's desktop that the scheme "default.col" follows.
+enum class DesktopColour { WindowFace, ListBackground, ButtonFace, Highlight };
+
 /// The main window around the board.
 class MainWindow {
  public:
@@ -69,8 +72,20 @@ class MainWindow {
     /// Paints the window's controls in the colours of the active scheme.
     virtual void ApplyColours() = 0;
 
+    /// A colour of the player's desktop, whatever scheme the windows wear.
+    virtual Colour Desktop(DesktopColour colour) const = 0;
+
     /// Ends the program as soon as the running handler returns.
     virtual void EndProgram() = 0;
+};
+
+/// What the player has copied elsewhere.
+class Clipboard {
+ public:
+    virtual ~Clipboard() = default;
+
+    /// The clipboard's text, "" when it holds none.
+    virtual std::string Text() = 0;
 };
 
 /// The board's picture `Picture1` and its container `Picture5`.
@@ -152,6 +167,7 @@ struct Seams {
     PendingEvents& events;
     Clock& clock;
     BatchWindow& batchWindow;
+    Clipboard& clipboard;
 };
 
 }  // namespace tidewalk

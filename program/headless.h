@@ -30,7 +30,8 @@ class HeadlessWorld final : public Prompts,
                             public MainWindow,
                             public BoardPictures,
                             public PendingEvents,
-                            public BatchWindow {
+                            public BatchWindow,
+                            public Clipboard {
  public:
     std::string lastMessage;
 
@@ -42,6 +43,8 @@ class HeadlessWorld final : public Prompts,
     bool Ask(BatchRequest& /*request*/) override { return false; }
     void DoEvents() override {}
 
+    std::string Text() override { return ""; }
+
     std::string Text(Control control) const override {
         const auto found = texts_.find(control);
         return found == texts_.end() ? "" : found->second;
@@ -51,7 +54,10 @@ class HeadlessWorld final : public Prompts,
     void SetPointer(Pointer /*pointer*/) override {}
     void SetProgress(int /*done*/, int /*total*/) override {}
     void ApplyColours() override {}
+    Colour Desktop(DesktopColour /*colour*/) const override { return kWhite; }
     void EndProgram() override {}
+
+    std::string Text() override { return ""; }
 
     Surface::Extent Picture5Extent() const override { return {kSide, kSide}; }
     Surface& Picture1() override { return surface_; }
@@ -93,7 +99,8 @@ class HeadlessGame : private HeadlessSeams, public Game {
                      .board = drawnBoard,
                      .events = HeadlessSeams::world,
                      .clock = systemClock,
-                     .batchWindow = HeadlessSeams::world}) {}
+                     .batchWindow = HeadlessSeams::world,
+                     .clipboard = HeadlessSeams::world}) {}
 
     /// The last message that a player would have seen.
     const std::string& LastMessage() const { return HeadlessSeams::world.lastMessage; }

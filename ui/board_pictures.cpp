@@ -101,10 +101,16 @@ void BoardView::paintEvent(QPaintEvent* event) {
 void BoardView::PaintLine1(QPainter& painter, const Game& game) const {
     const QPointF from(Pixels(game.Line1.x1), Pixels(game.Line1.y1));
     const QPointF to(Pixels(game.Line1.x2), Pixels(game.Line1.y2));
-    const double radius = Pixels(game.HalfCell) - 1;
+    // Just outside of a square island's corners, which lie 0.75 times the square root of 2 from its middle.
+    const double radius = Pixels(game.HalfCell) * 1.06 + 3;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(ToQColor(game.ChainColour), 2, Qt::DashLine, Qt::RoundCap));
-    painter.drawLine(from, to);
+    // Inside the ring the line would only strike the island's number out.
+    QLineF band(from, to);
+    if (band.length() > radius) {
+        band.setP1(band.pointAt(radius / band.length()));
+        painter.drawLine(band);
+    }
     painter.setPen(QPen(ToQColor(game.Picture1BackColor), 4));
     painter.drawEllipse(from, radius, radius);
     painter.setPen(QPen(ToQColor(game.ChainColour), 2));

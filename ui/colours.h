@@ -1,21 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The colours of the windows, made from the active scheme.
+// The colours of the windows as Qt wants them.
 #pragma once
 
 #include <QPalette>
 
-#include "model/options.h"
+#include "options/window_colours.h"
+#include "ui/qt_surface.h"
+
+class QWidget;
 
 namespace tidewalk {
 
-/// True once a scheme was read: no scheme has black for both its backgrounds.
-bool HasScheme(const Options& options);
+inline Colour ToColour(const QColor& colour) {
+    return Rgb(colour.red(), colour.green(), colour.blue());
+}
 
-/// Buttons, frames and labels in the scheme's face colour, lists, text boxes and the board in its background, and all
-/// texts in what can be read on them.
-QPalette SchemePalette(const Options& options);
+/// Windows, buttons, text boxes and selections in these colours; what is disabled half way to its background.
+QPalette PaletteOf(const WindowColours& colours);
 
-/// Black or white, whichever reads better on `background`.
-QColor ReadableOn(const QColor& background);
+/// Gives one window, its frame and everything on it, colours of its own.
+void ColourFrame(QWidget& form, const WindowColours& colours);
 
 }  // namespace tidewalk

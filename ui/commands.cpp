@@ -9,6 +9,12 @@
 #include "generator/batch.h"
 #include "generator/new_puzzle.h"
 #include "generator/shuffle.h"
+#include "model/collection_edit.h"
+#include "model/config_file.h"
+#include "model/convert_layout.h"
+#include "model/read_grid_file.h"
+#include "program/exit.h"
+#include "solver/auto_solve.h"
 #include "ui/program.h"
 
 namespace tidewalk {
@@ -32,6 +38,14 @@ void DoWithButton(Program& program, const Click& click) {
     kRoutine(program.game(), click.index, click.button);
 }
 
+void OpenOptionsWindow(Program& program, const Click&) {
+    program.form2().Open();
+}
+
+void OpenEditor(Program& program, const Click&) {
+    program.form6().Open();
+}
+
 QList<QKeySequence> Keys(QKeySequence::StandardKey key) {
     QList<QKeySequence> keys = QKeySequence::keyBindings(key);
     // On most keyboards plus is reached with Shift, which nobody wants to hold for zooming.
@@ -47,9 +61,19 @@ std::vector<Command> TideCommands() {
     constexpr const char* kMenu = "Tide";
     constexpr const char* kView = "Tide/View";
     return {
-        {.menu = kMenu, .name = "mnuoptset", .text = "Options ...", .icon = "options", .keys = Keys("Ctrl+,")},
-        {.menu = kMenu, .name = "mnuoptsave", .text = "Save Options"},
-        {.menu = kMenu, .name = "mnueditor", .text = "Edit Number Values ...", .icon = "edit", .keys = Keys("Ctrl+E")},
+        {.menu = kMenu,
+         .name = "mnuoptset",
+         .text = "Options ...",
+         .icon = "options",
+         .keys = Keys("Ctrl+,"),
+         .handler = OpenOptionsWindow},
+        {.menu = kMenu, .name = "mnuoptsave", .text = "Save Options", .handler = Do<mnuoptsave_Click>},
+        {.menu = kMenu,
+         .name = "mnueditor",
+         .text = "Edit Number Values ...",
+         .icon = "edit",
+         .keys = Keys("Ctrl+E"),
+         .handler = OpenEditor},
         {.menu = kMenu, .name = "dash1", .text = "-"},
         {.menu = kView,
          .name = "cmdzoom",
@@ -82,7 +106,12 @@ std::vector<Command> TideCommands() {
         {.menu = kMenu, .name = "mnuhelp", .text = "Help", .icon = "help", .keys = Keys(QKeySequence::HelpContents)},
         {.menu = kMenu, .name = "mnuabout", .text = "About Tidewalk", .icon = "about"},
         {.menu = kMenu, .name = "dash3", .text = "-"},
-        {.menu = kMenu, .name = "mnuexit", .text = "Exit", .icon = "exit", .keys = Keys("Ctrl+Q")},
+        {.menu = kMenu,
+         .name = "mnuexit",
+         .text = "Exit",
+         .icon = "exit",
+         .keys = Keys("Ctrl+Q"),
+         .handler = Do<cmdexit_Click>},
     };
 }
 
@@ -100,8 +129,9 @@ std::vector<Command> PuzzleCommands() {
          .name = "mnuappend",
          .text = "Add Puzzle to File",
          .icon = "save",
-         .keys = Keys(QKeySequence::Save)},
-        {.menu = kMenu, .name = "mnudelete", .text = "Delete Puzzle", .icon = "delete"},
+         .keys = Keys(QKeySequence::Save),
+         .handler = Do<mnuappend_Click>},
+        {.menu = kMenu, .name = "mnudelete", .text = "Delete Puzzle", .icon = "delete", .handler = Do<mnudelete_Click>},
         {.menu = kMenu, .name = "dash4", .text = "-"},
         {.menu = kMenu,
          .name = "arrows",
@@ -162,11 +192,21 @@ std::vector<Command> PuzzleCommands() {
          .handler = Do<mnucreatemany_Click>},
         {.menu = kMenu, .name = "mnupuzreset", .text = "Reset", .icon = "reset", .handler = Do<mnupuzreset_Click>},
         {.menu = kMenu, .name = "dash6", .text = "-"},
-        {.menu = kMenu, .name = "mnuexport", .text = "Export Puzzle", .icon = "export"},
-        {.menu = kMenu, .name = "mnuimport", .text = "Import", .icon = "import", .keys = Keys("Ctrl+I")},
-        {.menu = kMenu, .name = "mnupastepuzzle", .text = "Paste", .icon = "paste", .keys = Keys(QKeySequence::Paste)},
+        {.menu = kMenu, .name = "mnuexport", .text = "Export Puzzle", .icon = "export", .handler = Do<mnuexport_Click>},
+        {.menu = kMenu,
+         .name = "mnuimport",
+         .text = "Import",
+         .icon = "import",
+         .keys = Keys("Ctrl+I"),
+         .handler = Do<mnuimport_Click>},
+        {.menu = kMenu,
+         .name = "mnupastepuzzle",
+         .text = "Paste",
+         .icon = "paste",
+         .keys = Keys(QKeySequence::Paste),
+         .handler = Do<mnupastepuzzle_Click>},
         {.menu = kMenu, .name = "dash7", .text = "-"},
-        {.menu = kMaintenance, .name = "Command3", .text = "Convert Old Layout"},
+        {.menu = kMaintenance, .name = "Command3", .text = "Convert Old Layout", .handler = Do<Command3_Click>},
         {.menu = kMaintenance, .name = "Command4", .text = "Create Random Sizes", .handler = Do<Command4_Click>},
         {.menu = kMaintenance, .name = "Command5", .text = "Shuffle without Duplicates", .handler = Do<Command5_Click>},
         {.menu = kMenu, .name = "dash8", .text = "-"},
@@ -177,7 +217,12 @@ std::vector<Command> PuzzleCommands() {
 std::vector<Command> SolveCommands() {
     constexpr const char* kMenu = "Solve";
     return {
-        {.menu = kMenu, .name = "mnuautosol", .text = "AutoSolve", .icon = "solve", .keys = Keys("F9")},
+        {.menu = kMenu,
+         .name = "mnuautosol",
+         .text = "AutoSolve",
+         .icon = "solve",
+         .keys = Keys("F9"),
+         .handler = Do<mnuautosol_Click>},
         {.menu = kMenu,
          .name = "cmdverify",
          .text = "Check",
@@ -236,7 +281,12 @@ std::vector<Command> ToolBarOnlyCommands() {
         {.name = "PuzNumNow", .bar = 4, .toolTip = "Puzzle number|Press Enter to go there"},
         {.name = "PuzNumber", .bar = 5},
         {.name = "dash12", .text = "-", .bar = 6},
-        {.name = "cmdsave", .text = "Add Puzzle to File", .bar = 7, .icon = "save", .toolTip = "Add puzzle to file"},
+        {.name = "cmdsave",
+         .text = "Add Puzzle to File",
+         .bar = 7,
+         .icon = "save",
+         .toolTip = "Add puzzle to file",
+         .handler = Do<mnuappend_Click>},
         {.name = "cmdload",
          .text = "Load Puzzle File",
          .bar = 8,
@@ -247,7 +297,8 @@ std::vector<Command> ToolBarOnlyCommands() {
          .text = "Edit Number Values",
          .bar = 9,
          .icon = "edit",
-         .toolTip = "Edit or import number values"},
+         .toolTip = "Edit or import number values",
+         .handler = OpenEditor},
         {.name = "dash13", .text = "-", .bar = 10},
         {.name = "cmdviewcol",
          .text = "View Solution",
@@ -272,7 +323,7 @@ std::vector<Command> ToolBarOnlyCommands() {
          .toolTip = "Cancel",
          .handler = Do<cmdcancel_Click>},
         {.name = "dash16", .text = "-", .bar = 22},
-        {.name = "cmdexit", .text = "Exit", .bar = 23, .icon = "exit", .toolTip = "Exit"},
+        {.name = "cmdexit", .text = "Exit", .bar = 23, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
     };
 }
 

@@ -25,7 +25,6 @@ std::string QtFilePicker::Pick(const FileRequest& request) {
     // Overwriting is a question of the commands themselves, as is the ending of a name without one.
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::DontUseNativeDialog, QGuiApplication::platformName() == "offscreen");
-    QObject::connect(&handlers_, &Handlers::Ending, &dialog, &QDialog::reject);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return "";
     return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
 }

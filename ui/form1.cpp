@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -17,6 +18,7 @@
 #include <algorithm>
 
 #include "generator/new_puzzle.h"
+#include "program/exit.h"
 #include "ui/box_control.h"
 #include "ui/icons.h"
 #include "ui/lines_view.h"
@@ -26,7 +28,7 @@ namespace tidewalk {
 
 namespace {
 
-constexpr int kListWidth = 150;  ///< in pixels
+constexpr int kProgressWidth = 150;  ///< in pixels
 
 LineSource SourceOf(const ListBox& list) {
     return {[&list] { return list.Revision(); }, [&list] { return static_cast<int>(list.Lines().size()); },
@@ -40,6 +42,17 @@ LineSource UndoSource(const Game& game) {
 
 QString ToolTipOf(const Command& command) {
     return QString(QLatin1String(*command.toolTip != '\0' ? command.toolTip : command.text));
+}
+
+/// The title with a mark before its first letter that no other menu of the bar is opened with.
+QString WithMnemonic(const QString& title, const QMenuBar& bar) {
+    QString taken;
+    for (const QAction* const menu : bar.actions())
+        taken += menu->text().section('&', 1).left(1);
+    for (qsizetype at = 0; at < title.size(); ++at) {
+        if (!taken.contains(title.at(at), Qt::CaseInsensitive)) return title.left(at) + "&" + title.mid(at);
+    }
+    return title;
 }
 
 /// A text box as wide as `sample`.
@@ -95,7 +108,7 @@ QMenu* Form1::MenuAt(const QString& path) {
     if (menu != nullptr) return menu;
     const QString parent = path.section('/', 0, -2);
     const QString title = path.section('/', -1);
-    menu = parent.isEmpty() ? menuBar()->addMenu("&" + title) : MenuAt(parent)->addMenu(title);
+    menu = parent.isEmpty() ? menuBar()->addMenu(WithMnemonic(title, *menuBar())) : MenuAt(parent)->addMenu(title);
     return menu;
 }
 
@@ -191,9 +204,8 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
 void Form1::AddCentre() {
     auto* const side = new QWidget;
     auto* const sideLayout = new QVBoxLayout(side);
-    auto* const title = new QLabel(tr("Moves, the last one first"));
+    auto* const title = new QLabel(tr("Undo list"));
     title->setBuddy(undoList_);
-    title->setWordWrap(true);
     sideLayout->setContentsMargins(4, 4, 4, 4);
     sideLayout->addWidget(title);
     sideLayout->addWidget(undoList_);
@@ -205,7 +217,7 @@ void Form1::AddCentre() {
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
     splitter->setChildrenCollapsible(false);
-    splitter->setSizes({container_->sizeHint().width(), kListWidth});
+    splitter->setSizes({container_->sizeHint().width(), side->sizeHint().width()});
     setCentralWidget(splitter);
 }
 
@@ -219,7 +231,23 @@ void Form1::AddDock(LinesView* list, const QString& title) {
     QAction* const toggle = dock->toggleViewAction();
     toggle->setObjectName("view" + list->objectName());
     MenuAt("Tide/View")->addAction(toggle);
-    connect(dock, &QDockWidget::visibilityChanged, this, &Form1::RefreshLists);
+    connect(toggle, &QAction::triggered, this, [this, dock](bool shown) {
+        if (shown) MakeRoomFor(dock);
+    });
+    // The list is the receiver, since docks still tell when the window is gone.
+    connect(dock, &QDockWidget::visibilityChanged, list, [list](bool visible) {
+        if (visible) list->Refresh();
+    });
+}
+
+/// Widens the window for the first dock, so that the board keeps its place.
+void Form1::MakeRoomFor(const QDockWidget* dock) {
+    for (const QDockWidget* const other : findChildren<QDockWidget*>()) {
+        if (other != dock && other->isVisible()) return;
+    }
+    const int more = dock->sizeHint().width();
+    const bool fits = frameGeometry().width() + more <= screen()->availableSize().width();
+    if (!isMaximized() && !isFullScreen() && fits) resize(width() + more, height());
 }
 
 void Form1::AddStatusLine() {
@@ -232,7 +260,7 @@ void Form1::AddStatusLine() {
     pb_->setMinimumWidth(1);
     pb_->setAccessibleName(tr("Status"));
     progress_->setObjectName("Progress");
-    progress_->setMaximumWidth(kListWidth);
+    progress_->setMaximumWidth(kProgressWidth);
     progress_->hide();
     puzfile_->setObjectName("Puzfile");
     puzfile_->setTextFormat(Qt::PlainText);
@@ -291,7 +319,10 @@ void Form1::RefreshLists() {
 
 void Form1::TakeDefaultSize() {
     constexpr int kWindowFrame = 48;  // a title bar and its shadows, in pixels
-    const QSize wanted = sizeHint();
+    // A splitter forgets its handle when it is asked for its size.
+    const QSize wanted = sizeHint() + QSize(findChild<QSplitter*>()->handleWidth(), 0);
+    // Without a display there is no screen to fit on either.
+    if (QGuiApplication::platformName() == "offscreen") return resize(wanted);
     const QSize room = screen()->availableSize() - QSize(kWindowFrame, kWindowFrame);
     const int less = std::max({0, wanted.width() - room.width(), wanted.height() - room.height()});
     resize(wanted - QSize(less, less));
@@ -299,7 +330,7 @@ void Form1::TakeDefaultSize() {
 
 void Form1::closeEvent(QCloseEvent* event) {
     event->accept();
-    handlers_.End();
+    handlers_.Run(Form_QueryUnload);
 }
 
 void Form1::changeEvent(QEvent* event) {

@@ -59,6 +59,7 @@ class Form1 final : public QMainWindow {
     void AddSizeBox();
     void AddCentre();
     void AddDock(LinesView* list, const QString& title);
+    void MakeRoomFor(const QDockWidget* dock);
     void AddStatusLine();
     void RefreshLists();
     QWidget* WidgetOf(Control control) const;

@@ -16,6 +16,7 @@ class Handlers final : public QObject {
  public:
     /// Until a game is attached nothing runs.
     void Attach(Game& game) { game_ = &game; }
+    void Detach() { game_ = nullptr; }
     Game* game() const { return game_; }
 
     /// Runs `routine` and announces what may have changed. Nothing runs once the program is ending.

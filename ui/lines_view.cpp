@@ -36,6 +36,11 @@ LinesView::LinesView(const QString& name, QWidget* parent) : QListView(parent), 
     setEditTriggers(QAbstractItemView::NoEditTriggers);
 }
 
+QSize LinesView::sizeHint() const {
+    constexpr int kCharacters = 24;
+    return {fontMetrics().averageCharWidth() * kCharacters, QListView::sizeHint().height()};
+}
+
 void LinesView::SetSource(LineSource source) {
     source_ = std::move(source);
     shown_.reset();

@@ -29,6 +29,8 @@ class LinesView final : public QListView {
     /// Takes the lines over anew if they have changed.
     void Refresh();
 
+    QSize sizeHint() const override;
+
  private:
     class Model;
 

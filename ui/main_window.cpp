@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/main_window.h"
 
-#include <QApplication>
-
 #include "ui/colours.h"
 
 namespace tidewalk {
@@ -18,14 +16,26 @@ void QtMainWindow::SetPointer(Pointer pointer) {
     }
 }
 
-/// All windows wear the scheme's colours, the message box and the side windows too.
 void QtMainWindow::ApplyColours() {
     Game* const game = handlers_.game();
-    if (game == nullptr || !HasScheme(*game)) return;
-    constexpr std::size_t kBackgroundEntry = 2;
-    game->Picture1BackColor = game->SchemeColours[kBackgroundEntry];
-    QApplication::setPalette(SchemePalette(*game));
+    if (game == nullptr) return;
+    // All windows take their colours from here; the message box and the options window change some for themselves.
+    QApplication::setPalette(PaletteOf(ColoursOfWindows(*game, *this)));
     form_.Container().update();
+}
+
+Colour QtMainWindow::Desktop(DesktopColour colour) const {
+    switch (colour) {
+        case DesktopColour::WindowFace:
+            return ToColour(desktop_.color(QPalette::Window));
+        case DesktopColour::ListBackground:
+            return ToColour(desktop_.color(QPalette::Base));
+        case DesktopColour::ButtonFace:
+            return ToColour(desktop_.color(QPalette::Button));
+        case DesktopColour::Highlight:
+            break;
+    }
+    return ToColour(desktop_.color(QPalette::Highlight));
 }
 
 }  // namespace tidewalk

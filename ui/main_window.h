@@ -2,6 +2,9 @@
 // What the program's routines write to the main window and read from it.
 #pragma once
 
+#include <QApplication>
+#include <QPalette>
+
 #include "ui/form1.h"
 
 namespace tidewalk {
@@ -20,11 +23,13 @@ class QtMainWindow final : public MainWindow {
     void SetPointer(Pointer pointer) override;
     void SetProgress(int done, int total) override { form_.SetProgress(done, total); }
     void ApplyColours() override;
+    Colour Desktop(DesktopColour colour) const override;
     void EndProgram() override { handlers_.End(); }
 
  private:
     Form1& form_;
     Handlers& handlers_;
+    QPalette desktop_ = QApplication::palette();  ///< before any scheme
     bool busyPointer_ = false;
 };
 

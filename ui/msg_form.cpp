@@ -35,7 +35,9 @@ int WidestPiece(const QString& text, const QFontMetrics& metrics, const QRegular
 }  // namespace
 
 MsgForm::MsgForm(const std::string& text, const MessageStyle& style, const QString& caption, QWidget* parent)
-    : QDialog(parent), message_(text), style_(style) {
+    : QDialog(parent, Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+      message_(text),
+      style_(style) {
     setObjectName("MsgForm");
     setWindowTitle(caption);
     QFont arial("Arial");
@@ -58,6 +60,9 @@ MsgForm::MsgForm(const std::string& text, const MessageStyle& style, const QStri
     all->addLayout(body);
     all->addLayout(buttons);
     all->setSizeConstraint(QLayout::SetFixedSize);
+    if (auto* const first = findChild<QPushButton*>("cmd0")) first->setFocus();
+    // Only with its size known is the box placed over the middle of its parent.
+    adjustSize();
 }
 
 void MsgForm::AddIcons(QHBoxLayout* row) {
@@ -101,7 +106,7 @@ void MsgForm::AddButtons(QHBoxLayout* row) {
         control->setAutoDefault(true);
         connect(control, &QPushButton::clicked, this, [this, control] { done(control->property("Tag").toInt()); });
         row->addWidget(control);
-        if (index++ == 0) control->setFocus();
+        ++index;
     }
     row->addStretch();
 }

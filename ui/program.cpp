@@ -1,9 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "ui/program.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialog>
 
 namespace tidewalk {
+
+namespace {
+
+/// Leaves every box and side window as its frame would, so that the handlers which wait for them return.
+void LeaveDialogs() {
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        auto* const dialog = qobject_cast<QDialog*>(window);
+        if (dialog != nullptr && dialog->isVisible()) dialog->reject();
+    }
+}
+
+}  // namespace
 
 Program::Program()
     : form1_(handlers_,
@@ -16,11 +29,27 @@ Program::Program()
       window_(form1_, handlers_),
       pictures_(form1_.Container(), handlers_),
       events_(handlers_),
-      game_(std::make_unique<Game>(Seams{prompts_, filePicker_, window_, pictures_, board_, events_, clock_, form3_})) {
+      form2_(handlers_, &form1_),
+      form6_(handlers_, &form1_),
+      game_(std::make_unique<Game>(Seams{.prompts = prompts_,
+                                         .filePicker = filePicker_,
+                                         .window = window_,
+                                         .pictures = pictures_,
+                                         .board = board_,
+                                         .events = events_,
+                                         .clock = clock_,
+                                         .batchWindow = form3_,
+                                         .clipboard = clipboard_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
     handlers_.Attach(*game_);
+    QObject::connect(&handlers_, &Handlers::Ending, &form1_, LeaveDialogs);
     form1_.Show(*game_);
+}
+
+Program::~Program() {
+    // The windows outlive the game by a moment.
+    handlers_.Detach();
 }
 
 std::optional<std::string> Program::Start(const StartRequest& request) {

@@ -9,9 +9,12 @@
 #include "board/drawing.h"
 #include "program/form_load.h"
 #include "ui/board_pictures.h"
+#include "ui/clipboard.h"
 #include "ui/file_picker.h"
 #include "ui/form1.h"
 #include "ui/form3.h"
+#include "ui/form2.h"
+#include "ui/form6.h"
 #include "ui/main_window.h"
 #include "ui/pending_events.h"
 #include "ui/prompts.h"
@@ -23,11 +26,14 @@ namespace tidewalk {
 class Program final {
  public:
     Program();
+    ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
     Game& game() { return *game_; }
     Form1& form1() { return form1_; }
+    Form2& form2() { return form2_; }
+    Form6& form6() { return form6_; }
     Handlers& handlers() { return handlers_; }
     QtPrompts& prompts() { return prompts_; }
 
@@ -45,6 +51,9 @@ class Program final {
     DrawnBoard board_;
     QtPendingEvents events_;
     SystemClock clock_;
+    QtClipboard clipboard_;
+    Form2 form2_;
+    Form6 form6_;
     std::unique_ptr<Game> game_;
 };
 

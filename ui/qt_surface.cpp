@@ -58,11 +58,26 @@ double QtSurface::Snapped(double twips) const {
     return (odd ? std::floor(pixels) + 0.5 : std::round(pixels)) / pixelsPerTwip_;
 }
 
+/// Half a cell is a rounded number: the common edge of two cells may lie a twip further for one than for the other.
+/// An edge beside one that was drawn already goes to the same pixel.
+double QtSurface::SnappedEdge(Edges& edges, double twips) const {
+    const int whole = static_cast<int>(std::lround(twips));
+    const auto near = edges.lower_bound(whole - 1);
+    if (near != edges.end() && near->first <= whole + 1) return near->second;
+    return edges.emplace(whole, Snapped(twips)).first->second;
+}
+
+QPointF QtSurface::SnappedCorner(double x, double y) {
+    return {SnappedEdge(columns_, x), SnappedEdge(rows_, y)};
+}
+
 QPen QtSurface::Pen(Colour colour) const {
     return {QBrush(ToQColor(colour)), PenPixels() / pixelsPerTwip_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
 void QtSurface::Clear(Colour background) {
+    columns_.clear();
+    rows_.clear();
     if (!Begin()) return;
     const QRectF all(QPointF(0, 0), QSizeF(target_->width(), target_->height()));
     painter_.save();
@@ -83,9 +98,12 @@ void QtSurface::Line(double x1, double y1, double x2, double y2, Colour colour) 
 
 void QtSurface::Box(double x1, double y1, double x2, double y2, Colour colour) {
     if (!Begin()) return;
+    // Upright edges on whole pixels need no smoothing, which would only cost time.
+    painter_.setRenderHint(QPainter::Antialiasing, false);
     painter_.setPen(Pen(colour));
     painter_.setBrush(Qt::NoBrush);
-    painter_.drawRect(QRectF(QPointF(Snapped(x1), Snapped(y1)), QPointF(Snapped(x2), Snapped(y2))));
+    painter_.drawRect(QRectF(SnappedCorner(x1, y1), SnappedCorner(x2, y2)));
+    painter_.setRenderHint(QPainter::Antialiasing);
 }
 
 void QtSurface::FilledBox(double x1, double y1, double x2, double y2, Colour colour) {

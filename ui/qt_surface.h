@@ -4,6 +4,7 @@
 
 #include <QFont>
 #include <QPainter>
+#include <map>
 
 #include "model/surface.h"
 
@@ -43,6 +44,7 @@ class QtSurface final : public Surface {
     QPen Pen(Colour colour) const;
     double PenPixels() const;
     double Snapped(double twips) const;
+    QPointF SnappedCorner(double x, double y);
 
     double pixelsPerInch_;
     double twipsPerPenPixel_;
@@ -51,6 +53,12 @@ class QtSurface final : public Surface {
     double pixelsPerTwip_ = 1;  ///< device pixels, while painting
     int drawWidth_ = 1;
     QFont font_;
+
+    /// Where box edges of this picture came to lie, by their twips.
+    using Edges = std::map<int, double>;
+    double SnappedEdge(Edges& edges, double twips) const;
+    Edges columns_;
+    Edges rows_;
 };
 
 }  // namespace tidewalk

@@ -115,12 +115,12 @@ TEST(Drawing, AnIslandLiesAroundItsPosition) {
     game.CellSize = 250;
     LayoutBoard(game);
     game.NodeColour = 7;
-    game.GivenColour = 9;
+    game.GivenColour = 0xFFFF;
     game.pictures.surface.calls.clear();
     DrawIsland(game, 1);
     // x 38 (37.5), y 144 (143.75): three quarters of a cell around it, the number centred.
     EXPECT_EQ(game.pictures.surface.calls,
-              (std::vector<std::string>{"filledbox -55.75 50.25 131.75 237.75 7", "print 13 94 1 9"}));
+              (std::vector<std::string>{"filledbox -55.75 50.25 131.75 237.75 7", "print 13 94 1 65535"}));
 }
 
 TEST(Play, ClicksCycleThroughOneTwoAndNone) {

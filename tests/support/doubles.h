@@ -81,6 +81,7 @@ class WindowDouble final : public MainWindow {
     void SetPointer(Pointer to) override { pointer = to; }
     void SetProgress(int done, int total) override;
     void ApplyColours() override { ++timesColoured; }
+    Colour Desktop(DesktopColour colour) const override { return desktop.at(colour); }
     void EndProgram() override { ended = true; }
 
     std::map<Control, std::string> texts;
@@ -90,6 +91,11 @@ class WindowDouble final : public MainWindow {
     int progressDone = 0;
     int progressTotal = 0;
     int timesColoured = 0;
+    /// A light desktop.
+    std::map<DesktopColour, Colour> desktop{{DesktopColour::WindowFace, Rgb(239, 239, 239)},
+                                            {DesktopColour::ListBackground, Rgb(252, 252, 252)},
+                                            {DesktopColour::ButtonFace, Rgb(230, 230, 230)},
+                                            {DesktopColour::Highlight, Rgb(48, 140, 198)}};
     bool ended = false;
 };
 
@@ -146,6 +152,13 @@ class EventsDouble final : public PendingEvents {
 
     int count = 0;
     std::function<void()> happen;
+};
+
+class ClipboardDouble final : public Clipboard {
+ public:
+    std::string Text() override { return text; }
+
+    std::string text;
 };
 
 /// A clock that a test sets; each look at the milliseconds lets `step` pass.

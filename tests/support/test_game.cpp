@@ -41,8 +41,15 @@ std::string TempFolder::Read(const std::string& name) const {
 }
 
 TestGame::TestGame()
-    : Game(Seams{SeamDoubles::prompts, SeamDoubles::filePicker, SeamDoubles::window, SeamDoubles::pictures,
-                 SeamDoubles::board, SeamDoubles::events, SeamDoubles::clock, SeamDoubles::batchWindow}) {
+    : Game(Seams{.prompts = SeamDoubles::prompts,
+                 .filePicker = SeamDoubles::filePicker,
+                 .window = SeamDoubles::window,
+                 .pictures = SeamDoubles::pictures,
+                 .board = SeamDoubles::board,
+                 .events = SeamDoubles::events,
+                 .clock = SeamDoubles::clock,
+                 .batchWindow = SeamDoubles::batchWindow,
+                 .clipboard = SeamDoubles::clipboard}) {
     AppFolder = folder.Path("");
     random.UseSeed(1);
 }

@@ -41,6 +41,7 @@ struct SeamDoubles {
     EventsDouble events;
     ClockDouble clock;
     BatchDouble batchWindow;
+    ClipboardDouble clipboard;
 };
 
 /// A game with its doubles. Random draws are those of seed 1.
@@ -62,6 +63,7 @@ class TestGame : private SeamDoubles, public Game {
     EventsDouble& events = SeamDoubles::events;
     ClockDouble& clock = SeamDoubles::clock;
     BatchDouble& batchWindow = SeamDoubles::batchWindow;
+    ClipboardDouble& clipboard = SeamDoubles::clipboard;
 };
 
 /// A record with the header that `rows` need and these rows of the board.

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+// Colour schemes: reading one from "all.col" and giving it to the windows and the board.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/game.h"
+
+namespace tidewalk {
+
+// What the entries of a scheme are for; 11 and 12 are spare.
+inline constexpr std::size_t kFaceTextEntry = 0;        ///< text on buttons, frames and labels
+inline constexpr std::size_t kBoxTextEntry = 1;         ///< text in text boxes and lists
+inline constexpr std::size_t kBackgroundEntry = 2;      ///< background of the board and of text boxes
+inline constexpr std::size_t kOutlineEntry = 3;         ///< outlines of the cells, lines around frames
+inline constexpr std::size_t kFaceEntry = 4;            ///< buttons, frames and labels
+inline constexpr std::size_t kGridEntry = 5;            ///< suggested `GridColour`
+inline constexpr std::size_t kChainEntry = 6;           ///< suggested `ChainColour`
+inline constexpr std::size_t kGivenEntry = 7;           ///< suggested `GivenColour`
+inline constexpr std::size_t kNodeEntry = 8;            ///< suggested `NodeColour`
+inline constexpr std::size_t kHighlightEntry = 9;       ///< what is selected or has the focus
+inline constexpr std::size_t kHighlightTextEntry = 10;  ///< text on it
+inline constexpr std::size_t kReadEntries = 13;         ///< entries 0..12 come from the file
+inline constexpr std::size_t kAdjustedEntry = 13;       ///< the player's own version of the entry `AdjustIndex`
+
+/// True for "default.col" in any letter case, the scheme that follows the desktop and is in no file.
+bool IsDefaultScheme(std::string_view name);
+
+/// Fills `SchemeColours` with the scheme called `Name`, such as "xp.col", and returns its background in `BackColour`.
+///
+/// Colours that the file does not give stay. A name that is not there is reported; `BackColour` is 0 then and
+/// `ColourSchemeName` "default.col". The window shows nothing of the scheme before `ApplyColourScheme`.
+void LoadColourScheme(Game& game, const std::string& Name, Colour& BackColour);
+
+/// The same into `options`, so that a scheme can be looked at before it is the program's.
+void ReadColourScheme(Game& game, const std::string& Name, Colour& BackColour, Options& options);
+
+/// Gives the loaded scheme to the main window, the board's picture and the message box. The board is not redrawn.
+void ApplyColourScheme(Game& game);
+
+/// The colours of islands and bridges that go with "default.col" on a board of this background.
+struct BoardDefaults {
+    Colour node;
+    Colour chain;
+};
+BoardDefaults BoardDefaultsOn(Colour background);
+
+/// The brightness buttons: index 2 makes the entry `AdjustIndex` lighter, 1 darker, within 10..255 a channel. Entry 13
+/// keeps the result.
+void AdjustBrightness(Options& options, int index);
+
+}  // namespace tidewalk

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+// The options window without the window: what its controls show, and what its buttons do.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/game.h"
+#include "options/window_colours.h"
+
+namespace tidewalk {
+
+/// What `Form2` shows. The program's options stay as they are until the window's settings are applied.
+struct OptionsForm {
+    Options draft;                     ///< the options as they would be, with the scheme that is chosen
+    std::vector<std::string> schemes;  ///< the lines of `Combo1`
+    std::string Combo1;                ///< the chosen one
+    Colour Line1 = 0;                  ///< swatch of `ChainColour`
+    Colour Line2 = 0;                  ///< swatch of `GridColour`
+    Colour Label1 = 0;                 ///< swatch of `GivenColour`
+    Colour Label2 = 0;                 ///< swatch of `NodeColour`
+    std::string Text3;                 ///< the line width of printed bridges
+    bool Option2 = false;              ///< "Circle"; otherwise "Square"
+    bool Check1 = true;                ///< show the lines between cells
+
+    /// What the board's background would be.
+    Colour BoardBackground() const { return draft.SchemeColours[2]; }
+    /// The back colour of `Combo1`: the entry that the brightness buttons change.
+    Colour AdjustedColour() const { return draft.SchemeColours[static_cast<std::size_t>(draft.AdjustIndex)]; }
+};
+
+/// The colours that the options window itself wears: those of the chosen scheme.
+WindowColours FormColours(const Game& game, const OptionsForm& form);
+
+/// The widest pen for printed bridges, in pixels at 300 dpi.
+inline constexpr int kWidestPrintLine = 50;
+
+/// Fills the controls from the current options.
+OptionsForm OpenOptions(const Game& game);
+
+/// Another scheme was chosen: the window shows it, and the board colours that it suggests if they can be read.
+void Combo1_Click(Game& game, OptionsForm& form, const std::string& name);
+
+/// The brightness buttons: index 2 lighter, 1 darker.
+void cmdadjust4_Click(OptionsForm& form, int index);
+
+/// The four colour buttons: each copies the picker's colour into its swatch. False, with nothing changed, when no
+/// colour was picked yet.
+bool cmdgridcol_Click(OptionsForm& form, std::optional<Colour> picked);
+bool cmdchaincol_Click(OptionsForm& form, std::optional<Colour> picked);
+bool cmdgivenfg_Click(OptionsForm& form, std::optional<Colour> picked);
+bool cmdnodecol_Click(OptionsForm& form, std::optional<Colour> picked);
+
+/// The apply button: makes what the window shows the program's options and redraws the board. The window closes then.
+/// A line width that is no number of at least 1 leaves the old one.
+void command1_Click(Game& game, const OptionsForm& form);
+
+/// "Apply default options and exit". The window closes then.
+void reset_Click(Game& game, OptionsForm& form);
+
+}  // namespace tidewalk

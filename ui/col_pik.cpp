@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "ui/col_pik.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QScrollBar>
+#include <QSignalBlocker>
+
+#include "model/contrast.h"
+#include "ui/qt_surface.h"
+
+namespace tidewalk {
+
+namespace {
+
+constexpr int kBrightest = 255;
+constexpr int kPage = 16;
+constexpr int kBarWidth = 160;  ///< in pixels
+
+}  // namespace
+
+ColPik::ColPik(QWidget* parent) : QWidget(parent), swatch_(new QLabel) {
+    setAccessibleName(tr("Colour picker"));
+    auto* const layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    AddChannel(layout, 0, tr("&Red"), "red");
+    AddChannel(layout, 1, tr("&Green"), "green");
+    AddChannel(layout, 2, tr("&Blue"), "blue");
+    swatch_->setObjectName("swatch");
+    swatch_->setAlignment(Qt::AlignCenter);
+    swatch_->setFrameShape(QFrame::Box);
+    swatch_->setMinimumHeight(44);
+    swatch_->setAutoFillBackground(true);
+    layout->addWidget(swatch_, 3, 0, 1, 3);
+    layout->setRowStretch(3, 1);
+    Clear();
+}
+
+void ColPik::AddChannel(QGridLayout* layout, int channel, const QString& text, const char* name) {
+    const auto at = static_cast<std::size_t>(channel);
+    auto* const bar = bars_[at] = new QScrollBar(Qt::Horizontal);
+    bar->setObjectName(name);
+    bar->setRange(0, kBrightest);
+    bar->setPageStep(kPage);
+    bar->setMinimumWidth(kBarWidth);
+    bar->setFocusPolicy(Qt::StrongFocus);
+    auto* const label = new QLabel(text);
+    label->setBuddy(bar);
+    auto* const value = values_[at] = new QLabel;
+    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    value->setFixedWidth(value->fontMetrics().horizontalAdvance("0000"));
+    bar->setAccessibleName(QString(text).remove('&'));
+    layout->addWidget(label, channel, 0);
+    layout->addWidget(bar, channel, 1);
+    layout->addWidget(value, channel, 2);
+    connect(bar, &QScrollBar::valueChanged, this, [this] {
+        selected_ = Rgb(bars_[0]->value(), bars_[1]->value(), bars_[2]->value());
+        ShowColour();
+    });
+}
+
+void ColPik::Select(Colour colour) {
+    const std::array<int, 3> channels{RedOf(colour), GreenOf(colour), BlueOf(colour)};
+    for (std::size_t i = 0; i < channels.size(); ++i) {
+        const QSignalBlocker quiet(bars_[i]);
+        bars_[i]->setValue(channels[i]);
+    }
+    selected_ = colour;
+    ShowColour();
+}
+
+void ColPik::Clear() {
+    Select(Rgb(128, 128, 128));
+    selected_.reset();
+    ShowColour();
+}
+
+void ColPik::ShowColour() {
+    for (std::size_t i = 0; i < bars_.size(); ++i)
+        values_[i]->setText(QString::number(bars_[i]->value()));
+    swatch_->setText(selected_ ? ToQColor(*selected_).name() : tr("Move a bar to choose a colour"));
+    QPalette colours;
+    if (selected_) {
+        colours.setColor(QPalette::Window, ToQColor(*selected_));
+        colours.setColor(QPalette::WindowText, ToQColor(LegibleOn(*selected_, kBlack)));
+    }
+    swatch_->setPalette(colours);
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// The samples of the board's colours in the options window.
+#pragma once
+
+#include <QAbstractButton>
+
+#include "model/surface.h"
+
+namespace tidewalk {
+
+/// A piece of the board that shows one of its colours. It can be clicked.
+class Swatch final : public QAbstractButton {
+    Q_OBJECT
+
+ public:
+    enum class Shape { ThinLine, Bridge, Island, Number };
+
+    Swatch(Shape shape, const QString& name, QWidget* parent = nullptr);
+
+    /// The colour that the swatch stands for.
+    Colour Value() const { return value_; }
+
+    /// Shows `value` on a board of the colour `background`; `node` is the islands' colour.
+    void Show(Colour value, Colour background, Colour node, bool circle);
+
+    QSize sizeHint() const override;
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+
+ private:
+    void PaintIsland(QPainter& painter, Colour colour) const;
+
+    Shape shape_;
+    Colour value_ = 0;
+    Colour background_ = 0;
+    Colour node_ = 0;
+    bool circle_ = false;
+};
+
+}  // namespace tidewalk
