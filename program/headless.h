@@ -43,8 +43,6 @@ class HeadlessWorld final : public Prompts,
     bool Ask(BatchRequest& /*request*/) override { return false; }
     void DoEvents() override {}
 
-    std::string Text() override { return ""; }
-
     std::string Text(Control control) const override {
         const auto found = texts_.find(control);
         return found == texts_.end() ? "" : found->second;
