@@ -211,6 +211,12 @@ Surface::Extent QtBoardPictures::Picture5Extent() const {
     return {container_.width() * kTwipsPerPixel, container_.height() * kTwipsPerPixel};
 }
 
+void QtBoardPictures::Freeze(bool frozen) {
+    // What was drawn before still has to reach the screen.
+    if (frozen) container_.Board().repaint();
+    container_.Board().setUpdatesEnabled(!frozen);
+}
+
 void QtBoardPictures::EnableTimer1(bool enabled) {
     if (!enabled) timer1_.stop();
     // A timer that runs already goes on as it is.

@@ -80,7 +80,7 @@ class QtBoardPictures final : public BoardPictures {
     void SetEnabled(bool enabled) override { container_.Board().SetTakesMouse(enabled); }
     void SetVisible(bool visible) override { container_.Board().setVisible(visible); }
     bool IsVisible() const override { return !container_.Board().isHidden(); }
-    void Freeze(bool frozen) override { container_.Board().setUpdatesEnabled(!frozen); }
+    void Freeze(bool frozen) override;
     void EnableTimer1(bool enabled) override;
 
  private:

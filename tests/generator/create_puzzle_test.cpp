@@ -3,7 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
+#include <vector>
 
 #include "generator/grow.h"
 #include "model/job.h"
@@ -60,6 +62,61 @@ TEST(CreatePuzzle, EverySizeGivesPuzzlesThatCanBePlayed) {
         }
     }
     EXPECT_GT(created, 19 * 5 * 9 / 10);
+}
+
+using NumberRows = std::vector<std::vector<int>>;
+
+NumberRows Turned(const NumberRows& rows) {
+    NumberRows turned(rows[0].size(), std::vector<int>(rows.size()));
+    for (std::size_t r = 0; r < rows.size(); ++r) {
+        for (std::size_t c = 0; c < rows[r].size(); ++c)
+            turned[c][r] = rows[r][c];
+    }
+    return turned;
+}
+
+bool IsEmpty(const std::vector<int>& line) {
+    return line == std::vector<int>(line.size());
+}
+
+/// Exchanges an empty first line with the second, then an empty last one with the one before. Returns how many lines
+/// moved.
+int PullLinesIn(NumberRows& rows) {
+    int moved = 0;
+    if (IsEmpty(rows.front())) {
+        rows[0].swap(rows[1]);
+        moved += !IsEmpty(rows[0]);
+    }
+    if (IsEmpty(rows.back())) {
+        rows.back().swap(rows[rows.size() - 2]);
+        moved += !IsEmpty(rows.back());
+    }
+    return moved;
+}
+
+TEST(CreatePuzzle, EmptyBordersArePulledInByOneLine) {
+    CreateGame game;
+    const Job job(game);
+    int moved = 0;
+    for (int round = 0; round < 400; ++round) {
+        if (game.Create(7 + round % 3, 8) != 0) continue;
+        NumberRows grown;
+        NumberRows made;
+        for (int row = 1; row <= game.Rows; ++row) {
+            grown.emplace_back();
+            made.emplace_back();
+            for (int col = 1; col <= game.Cols; ++col) {
+                grown.back().push_back(game.BridgeTotals(row, col));
+                made.back().push_back(std::max(game.IslandGrid(row, col), 0));
+            }
+        }
+        NumberRows byColumns = Turned(grown);
+        moved += PullLinesIn(byColumns);
+        NumberRows expected = Turned(byColumns);
+        moved += PullLinesIn(expected);
+        ASSERT_EQ(made, expected) << PuzzleRecord(game);
+    }
+    EXPECT_GT(moved, 20);
 }
 
 TEST(CreatePuzzle, SameSeedSamePuzzle) {
