@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/stat.h>
+
 #include <cstdlib>
 
 #include "model/convert_layout.h"
@@ -90,6 +92,25 @@ TEST(AppendPuzzle, AFailedWriteEndsWithoutAMessageBox) {
     EXPECT_NE(game.window.texts[Control::pb].find("folder.tdw"), std::string::npos);
     EXPECT_EQ(game.window.pointer, Pointer::Default);
     EXPECT_EQ(game.Load(1), 0) << "no file is left open";
+}
+
+TEST(AppendPuzzle, PipesAreRefusedAndFullDisksTold) {
+    TestGame game({kSmallPuzzle});
+    ASSERT_EQ(game.Load(1), 0);
+    ASSERT_EQ(::mkfifo("pipe.txt", 0600), 0);
+    std::filesystem::create_symlink("/dev/full", "full.txt");
+    for (const auto& [name, reason] : {std::pair{"pipe.txt", "Invalid argument"}, {"full.txt", "No space left"}}) {
+        for (const auto command : {mnuappend_Click, mnuexport_Click}) {
+            game.window.texts[Control::pb].clear();
+            game.filePicker.Answer(game.folder.Path(name));
+            command(game);
+            EXPECT_NE(game.window.texts[Control::pb].find(reason), std::string::npos) << name;
+            EXPECT_FALSE(game.files.IsOpen(1));
+        }
+    }
+    EXPECT_THROW(WritePuzzleRecord(game, "/dev/full", 0), FileError);
+    EXPECT_FALSE(game.files.IsOpen(1));
+    EXPECT_EQ(game.CollectionPath, game.folder.Path("collection.tdw"));
 }
 
 TEST(DeletePuzzle, ShowsThePuzzleBefore) {
