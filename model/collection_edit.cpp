@@ -16,7 +16,6 @@ namespace tidewalk {
 
 namespace {
 
-constexpr int kYes = 6;
 constexpr const char* kDeleteWorkFile = "tidetemp.tmp";
 
 FileRequest SaveRequest(const Game& game, std::string title, std::string patternName) {
