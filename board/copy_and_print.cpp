@@ -4,11 +4,11 @@
 #include <algorithm>
 
 #include "board/render_puzzle.h"
+#include "model/collection_edit.h"
 #include "model/job.h"
 #include "model/load_puzzle.h"
 #include "model/navigation.h"
 #include "model/numbers.h"
-#include "model/paths.h"
 
 namespace tidewalk {
 
@@ -44,7 +44,7 @@ std::string CurrentPrinter(Game& game) {
 }
 
 void ShowPrintError(Game& game, const std::string& reason) {
-    game.prompts.SystemBox("Printing failed:\n" + reason, SystemButtons::Ok);
+    game.prompts.SystemBox("Printing failed:\r\n" + reason, SystemButtons::Ok);
 }
 
 /// Asks for the name of a PDF file; "" when the player thinks better of it, or of overwriting a file.
@@ -57,10 +57,7 @@ std::string AskPdfName(Game& game) {
         LowerCase(path).compare(path.size() - ending.size(), ending.size(), ending) != 0) {
         path += ending;
     }
-    constexpr int kYes = 6;
-    const bool overwrites = FileLength(path) != 0;
-    if (overwrites && game.prompts.SystemBox("OverWrite file: " + path + " ?", SystemButtons::YesNo) != kYes) return "";
-    return path;
+    return ConfirmOverwrite(game, path) ? path : "";
 }
 
 /// Begins a document on the current printer. Nothing comes back when there is none to be: the player has said so, or
@@ -121,7 +118,8 @@ RangeEnd PrintPages(Game& game, const PrintRange& range, PrintDocument& document
 
 void ShowRangeEnd(Game& game, const PrintRange& range, RangeEnd end, const std::string& error) {
     if (end == RangeEnd::Printed) {
-        game.prompts.Show("Printed" + Str(range.Count()) + " puzzles from file:\n" + range.path, "vbinformation+vbok");
+        game.prompts.Show("Printed" + Str(range.Count()) + " puzzles from file:\r\n" + range.path,
+                          "vbinformation+vbok");
     } else if (end == RangeEnd::Failed) {
         ShowPrintError(game, error);
     } else {
@@ -170,7 +168,6 @@ void mnucopyclipsol_Click(Game& game) {
 
 void mnuprintcurrent_Click(Game& game) {
     if (!CanPrintCurrent(game)) return;
-    constexpr int kYes = 6;
     if (game.prompts.Show("Print Current Puzzle and its Solution?", "vbquestion+vbyesno") != kYes) return;
     auto document = BeginDocument(game);
     if (!document) return;

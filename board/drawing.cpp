@@ -79,7 +79,6 @@ void ShowSolution(Game& game) {
 void DrawCellOutlines(Game& game) {
     Surface& picture = game.pictures.Picture1();
     picture.SetDrawWidth(1);
-    constexpr std::size_t kOutlineEntry = 3;
     for (CellNumber id = 1; id <= game.CellCount; ++id) {
         const int x = game.IslandX[id];
         const int y = game.IslandY[id];

@@ -6,9 +6,6 @@
 
 namespace tidewalk {
 
-inline constexpr int kSmallestCell = 200;  ///< in twips
-inline constexpr int kLargestCell = 700;   ///< in twips
-
 /// Prepares an empty board of the current `Rows` by `Cols`, fits the cell size to the container and lays it out. The
 /// size that "Reset zoom" goes back to stays that of the last loaded puzzle.
 void LayoutNewBoard(Game& game);

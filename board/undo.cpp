@@ -26,7 +26,6 @@ void cmdviewcol_Release(Game& game) {
 
 void mnupuzreset_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
-    constexpr int kYes = 6;
     const int answer = game.prompts.Show("Reset?", "vbYesNo");
     game.events.DoEvents();
     if (answer == kYes) LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber);

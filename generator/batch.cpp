@@ -15,8 +15,6 @@ namespace tidewalk {
 
 namespace {
 
-constexpr int kYes = 6;
-
 struct Size {
     int rows;
     int cols;

@@ -33,7 +33,7 @@ class BoundedTrials {
 
 /// True when the grids are no longer the job's, or nobody will ask for them again.
 bool MustLeaveAtOnce(const Game& game) {
-    return game.ending || game.loadCount != game.jobLoadCount;
+    return game.ending || JobIsSuperseded(game);
 }
 
 void PlaceSeed(Game& game) {

@@ -59,6 +59,9 @@ struct Frame {
     double height = 0;
 };
 
+inline constexpr int kSmallestCell = 200;  ///< in twips
+inline constexpr int kLargestCell = 700;   ///< in twips
+
 struct BoardState {
     int CellSize = 250;      ///< the side of a cell in twips, 200..700 after every layout
     int FittedCellSize = 0;  ///< the cell size with which the last loaded puzzle fitted its container, 0 before that

@@ -16,7 +16,6 @@ namespace tidewalk {
 
 namespace {
 
-constexpr int kYes = 6;
 constexpr const char* kDeleteWorkFile = "tidetemp.tmp";
 
 FileRequest SaveRequest(const Game& game, std::string title, std::string patternName) {
@@ -30,10 +29,10 @@ void SayNotWritten(Game& game, const FileError& error) {
 
 void WriteGrid(Game& game, const std::string& path) {
     game.files.Close(1);
-    game.files.Open(1, path, FileMode::Output);
-    for (const std::string& row : PlainGrid(game))
-        game.files.Print(1, row);
-    game.files.Close(1);
+    ReplaceFile(path, [&](std::ostream& out) {
+        for (const std::string& row : PlainGrid(game))
+            out << row << "\r\n";
+    });
 }
 
 /// Asks whether to delete the current puzzle, and looks whether it may be deleted, before and after.

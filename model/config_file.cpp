@@ -20,10 +20,6 @@ constexpr std::uint64_t kLargestFile = 64 * 1024;
 constexpr std::size_t kNumbers = 10;
 using Numbers = std::array<int, kNumbers>;
 
-constexpr int kSmallestCellSize = 200;
-constexpr int kLargestCellSize = 700;
-constexpr std::size_t kAdjustedEntry = 13;
-
 struct Configuration {
     std::string schemeName;
     Numbers numbers{};
@@ -88,7 +84,7 @@ void Take(Game& game, const Configuration& from) {
     game.ColourSchemeName = from.schemeName;
     game.PuzzleNumber = std::max(n[0], 1);
     game.NodeShape = n[1] == 1 ? 1 : 0;
-    game.CellSize = std::clamp(n[2], kSmallestCellSize, kLargestCellSize);
+    game.CellSize = std::clamp(n[2], kSmallestCell, kLargestCell);
     game.reservedNumber = n[3];
     game.NodeColour = ColourOr(n[4], kDefaultNodeColour);
     game.GivenColour = ColourOr(n[5], kDefaultGivenColour);

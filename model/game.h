@@ -20,34 +20,10 @@ namespace tidewalk {
 /// seam. Each subject is a struct of its own, inherited so that every field is reached under its own name.
 ///
 /// A game is large; make it on the heap. Several games do not share anything.
-struct Game : Puzzle, SolverTables, GrowthTables, BoardState, Options {
-    explicit Game(const Seams& seams)
-        : prompts(seams.prompts),
-          filePicker(seams.filePicker),
-          window(seams.window),
-          pictures(seams.pictures),
-          board(seams.board),
-          events(seams.events),
-          clock(seams.clock),
-          batchWindow(seams.batchWindow),
-          clipboard(seams.clipboard),
-          printers(seams.printers),
-          form5(seams.form5),
-          random(seams.clock) {}
+struct Game : Puzzle, SolverTables, GrowthTables, BoardState, Options, Seams {
+    explicit Game(const Seams& seams) : Seams(seams), random(seams.clock) {}
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
-
-    Prompts& prompts;
-    FilePicker& filePicker;
-    MainWindow& window;
-    BoardPictures& pictures;
-    BoardRoutines& board;
-    PendingEvents& events;
-    Clock& clock;
-    BatchWindow& batchWindow;
-    Clipboard& clipboard;
-    Printers& printers;
-    Form5Window& form5;
 
     std::string AppFolder;         ///< the program's folder, with a separator at its end
     std::string ColourListPath;    ///< "all.col" in it

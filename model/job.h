@@ -25,6 +25,11 @@ inline void PollEvents(Game& game) {
     if (PollIsDue(game)) LetEventsThrough(game);
 }
 
+/// True when another puzzle was loaded in the middle of the running job: the grids are no longer its own.
+inline bool JobIsSuperseded(const Game& game) {
+    return game.jobRunning && game.loadCount != game.jobLoadCount;
+}
+
 /// A long job, from its start to its end. No second one can begin while it lives.
 ///
 /// Some commands may replace the puzzle in the middle of a job (typing a puzzle number is one). The job is then
@@ -38,7 +43,7 @@ class Job {
     Job(const Job&) = delete;
     Job& operator=(const Job&) = delete;
 
-    bool Superseded() const { return game_.loadCount != game_.jobLoadCount; }
+    bool Superseded() const { return JobIsSuperseded(game_); }
 
     /// Takes the puzzle that is loaded now for the job's own, and holds `BusyFlag` again, which every load resets.
     void Adopt();
@@ -49,7 +54,7 @@ class Job {
 
 /// True when the running job is to stop.
 inline bool CancelRequested(const Game& game) {
-    return game.CancelFlag == YesValue || game.ending || (game.jobRunning && game.loadCount != game.jobLoadCount);
+    return game.CancelFlag == YesValue || game.ending || JobIsSuperseded(game);
 }
 
 /// Shows the busy pointer for as long as it lives.

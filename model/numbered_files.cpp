@@ -28,6 +28,14 @@ const char* SystemMode(FileMode mode) {
     return "rb";
 }
 
+/// Fails for what only looks like a file. The system opens a folder for reading without complaint and refuses only the
+/// read. A pipe blocks for ever when nobody is at its other end, and a device may be read without end.
+void DemandUsable(const std::string& path, std::filesystem::file_status status, FileMode mode) {
+    if (!std::filesystem::exists(status) || std::filesystem::is_regular_file(status)) return;
+    if (std::filesystem::is_directory(status)) Fail(path, EISDIR);
+    if (mode == FileMode::Input || !std::filesystem::is_character_file(status)) Fail(path, EINVAL);
+}
+
 /// True when the file holds something and that does not end with a line's end.
 bool LacksLineEnd(const std::string& path) {
     std::FILE* const stream = std::fopen(path.c_str(), "rb");
@@ -77,14 +85,9 @@ bool NumberedFiles::IsOpen(int number) const {
 void NumberedFiles::Open(int number, const std::string& path, FileMode mode) {
     if (number < 1 || number > kCount) throw FileError("there is no file number " + std::to_string(number));
     if (IsOpen(number)) throw FileError(path + ": file number " + std::to_string(number) + " is in use");
-    // The system opens a folder for reading without complaint and refuses only the read. What is neither a file nor a
-    // folder (a pipe, a device) may block for ever or never end.
     std::error_code ignored;
     const auto status = std::filesystem::status(path, ignored);
-    if (std::filesystem::is_directory(status)) Fail(path, EISDIR);
-    if (mode == FileMode::Input && std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-        Fail(path, EINVAL);
-    }
+    DemandUsable(path, status, mode);
     // A record that is appended must not become the tail of another one.
     const bool endLine = mode == FileMode::Append && std::filesystem::is_regular_file(status) && LacksLineEnd(path);
     auto file = std::make_unique<File>();

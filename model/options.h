@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -16,15 +17,28 @@ inline constexpr Colour kDefaultGivenColour = kWhite;
 inline constexpr Colour kDefaultChainColour = Rgb(200, 9, 9);
 inline constexpr Colour kDefaultGridColour = Rgb(200, 200, 10);
 
-struct Options {
-    static constexpr int kSchemeEntries = 14;
+// What the entries of a scheme are for; 11 and 12 are spare.
+inline constexpr std::size_t kFaceTextEntry = 0;        ///< text on buttons, frames and labels
+inline constexpr std::size_t kBoxTextEntry = 1;         ///< text in text boxes and lists
+inline constexpr std::size_t kBackgroundEntry = 2;      ///< background of the board and of text boxes
+inline constexpr std::size_t kOutlineEntry = 3;         ///< outlines of the cells, lines around frames
+inline constexpr std::size_t kFaceEntry = 4;            ///< buttons, frames and labels
+inline constexpr std::size_t kGridEntry = 5;            ///< suggested `GridColour`
+inline constexpr std::size_t kChainEntry = 6;           ///< suggested `ChainColour`
+inline constexpr std::size_t kGivenEntry = 7;           ///< suggested `GivenColour`
+inline constexpr std::size_t kNodeEntry = 8;            ///< suggested `NodeColour`
+inline constexpr std::size_t kHighlightEntry = 9;       ///< what is selected or has the focus
+inline constexpr std::size_t kHighlightTextEntry = 10;  ///< text on it
+inline constexpr std::size_t kReadEntries = 13;         ///< entries 0..12 come from the file
+inline constexpr std::size_t kAdjustedEntry = 13;       ///< the player's own version of the entry `AdjustIndex`
+inline constexpr std::size_t kSchemeEntries = 14;
 
+struct Options {
     std::string ColourSchemeName = "xp.col";
     std::vector<std::string> schemeNames;  ///< what "all.col" offers, without the ending
-    /// The active scheme: 2 is the background of the board and the text boxes, 3 the outline of the cells, 4 the face
-    /// of buttons and frames, 13 the player's own version of the entry `AdjustIndex`, 0 for none.
+    /// The active scheme. The player's own version of an entry is 0 for none.
     std::array<Colour, kSchemeEntries> SchemeColours{};
-    int AdjustIndex = 4;  ///< the entry that the brightness buttons change
+    int AdjustIndex = static_cast<int>(kFaceEntry);  ///< the entry that the brightness buttons change
 
     Colour NodeColour = kDefaultNodeColour;    ///< the islands
     Colour GivenColour = kDefaultGivenColour;  ///< their numbers

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "model/numbers.h"
+#include "model/replace_file.h"
 
 namespace tidewalk {
 
@@ -62,7 +63,10 @@ std::string PuzzleRecord(const Game& game) {
 
 void WritePuzzleRecord(Game& game, const std::string& path, int append) {
     game.files.Close(1);
-    game.files.Open(1, path, append == 0 ? FileMode::Output : FileMode::Append);
+    if (append == 0) {
+        return ReplaceFile(path, [&](std::ostream& out) { out << PuzzleRecord(game) << "\r\n"; });
+    }
+    game.files.Open(1, path, FileMode::Append);
     game.files.Print(1, PuzzleRecord(game));
     game.files.Close(1);
 }

@@ -9,21 +9,6 @@
 
 namespace tidewalk {
 
-// What the entries of a scheme are for; 11 and 12 are spare.
-inline constexpr std::size_t kFaceTextEntry = 0;        ///< text on buttons, frames and labels
-inline constexpr std::size_t kBoxTextEntry = 1;         ///< text in text boxes and lists
-inline constexpr std::size_t kBackgroundEntry = 2;      ///< background of the board and of text boxes
-inline constexpr std::size_t kOutlineEntry = 3;         ///< outlines of the cells, lines around frames
-inline constexpr std::size_t kFaceEntry = 4;            ///< buttons, frames and labels
-inline constexpr std::size_t kGridEntry = 5;            ///< suggested `GridColour`
-inline constexpr std::size_t kChainEntry = 6;           ///< suggested `ChainColour`
-inline constexpr std::size_t kGivenEntry = 7;           ///< suggested `GivenColour`
-inline constexpr std::size_t kNodeEntry = 8;            ///< suggested `NodeColour`
-inline constexpr std::size_t kHighlightEntry = 9;       ///< what is selected or has the focus
-inline constexpr std::size_t kHighlightTextEntry = 10;  ///< text on it
-inline constexpr std::size_t kReadEntries = 13;         ///< entries 0..12 come from the file
-inline constexpr std::size_t kAdjustedEntry = 13;       ///< the player's own version of the entry `AdjustIndex`
-
 /// True for "default.col" in any letter case, the scheme that follows the desktop and is in no file.
 bool IsDefaultScheme(std::string_view name);
 

@@ -25,7 +25,7 @@ struct OptionsForm {
     bool Check1 = true;                ///< show the lines between cells
 
     /// What the board's background would be.
-    Colour BoardBackground() const { return draft.SchemeColours[2]; }
+    Colour BoardBackground() const { return draft.SchemeColours[kBackgroundEntry]; }
     /// The back colour of `Combo1`: the entry that the brightness buttons change.
     Colour AdjustedColour() const { return draft.SchemeColours[static_cast<std::size_t>(draft.AdjustIndex)]; }
 };

@@ -6,7 +6,6 @@
 namespace tidewalk {
 
 void cmdexit_Click(Game& game) {
-    constexpr int kYes = 6;
     if (game.prompts.Show("Exit?", "vbYesNo+vbexit") != kYes || game.ending) return;
     game.files.CloseAll();
     SavecfgFile(game);

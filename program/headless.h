@@ -82,7 +82,6 @@ class HeadlessWorld final : public Prompts,
     static constexpr double kSide = 9600;  // twips, about the size of a window's board
 
     int Keep(const std::string& text) {
-        constexpr int kOk = 1;
         lastMessage = text;
         return kOk;
     }

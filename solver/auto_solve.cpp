@@ -36,8 +36,20 @@ Outcome Solve(Game& game) {
     return failed == YesValue || CheckLinkTotals(game) == YesValue ? Outcome::Failed : Outcome::Solved;
 }
 
+/// Takes everything that the solver left off the board and leaves the numbers.
+void ShowNumbersAlone(Game& game) {
+    RestoreIslands(game);
+    game.LinkList.Clear(game.Cols);
+    game.OpenNeighbours.Fill({});
+    game.CrossGrid.Fill(Cross::Free);
+    game.ConnectedList.Fill({});
+    game.board.RedrawBoard(game, false);
+}
+
 void GiveUp(Game& game) {
-    LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber);
+    // An earlier load that failed may have left its file open, and this one must not fail for that.
+    game.files.CloseAll();
+    if (LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber) == YesValue) ShowNumbersAlone(game);
     game.window.SetText(Control::pb, "");
     game.window.SetPointer(Pointer::Default);
     game.prompts.Show("Unable to solve\r\nPlease check puzzle layout", "vbcritical+vbok");
@@ -49,6 +61,7 @@ void ShowAndWriteSolution(Game& game) {
     try {
         WritePuzzleRecord(game, SolutionPath(game.CollectionPath), 0);
     } catch (const FileError& error) {
+        game.files.CloseAll();
         game.window.SetText(Control::pb, std::string("Solved, but not written: ") + error.what());
     }
 }

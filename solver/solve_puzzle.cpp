@@ -23,6 +23,7 @@ void Prepare(Game& game) {
     game.BranchCount = 0;
     game.overdrawnLinks = 0;
     game.laid.clear();
+    game.List2.Clear();
     BuildNeighbourLists(game);
     RefreshNeighbours(game);
 }
@@ -67,6 +68,7 @@ int SolvePuzzle(Game& game, int limit, int& trials) {
     trials = 0;
     Prepare(game);
     if (!Solve(game, limit, trials)) {
+        if (!JobIsSuperseded(game)) ShowStatusList(game);
         game.window.SetPointer(Pointer::Default);
         return 1;
     }

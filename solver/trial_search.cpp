@@ -41,12 +41,21 @@ class Search {
         return true;
     }
 
+    /// Fills `List2` with a line for each choice point that is open, the newest first.
+    void ShowChoicePoints() {
+        game_.List2.Clear();
+        for (std::size_t i = choicePoints_.size(); i > 0; --i) {
+            game_.List2.Add(Format(static_cast<int>(i), "000") + " " + Text(choicePoints_[i - 1].line));
+        }
+    }
+
  private:
     /// Counts a trial; false when the search may not go on.
     bool StartTrial(const StatusLine& line) {
         ++trials_;
         if (PollIsDue(game_)) {
-            ShowWorkLists();
+            ShowStatusList(game_);
+            ShowChoicePoints();
             LetEventsThrough(game_);
         }
         if (game_.TrialLimit > 0 && trials_ >= game_.TrialLimit) return false;
@@ -80,14 +89,6 @@ class Search {
         return point.line;
     }
 
-    void ShowWorkLists() {
-        ShowStatusList(game_);
-        game_.List2.Clear();
-        for (std::size_t i = choicePoints_.size(); i > 0; --i) {
-            game_.List2.Add(Format(static_cast<int>(i), "000") + " " + Text(choicePoints_[i - 1].line));
-        }
-    }
-
     Game& game_;
     int& trials_;
     std::vector<ChoicePoint> choicePoints_;
@@ -96,7 +97,10 @@ class Search {
 }  // namespace
 
 int TrialSearch(Game& game, int& trials) {
-    return Search(game, trials).Run() ? 0 : 1;
+    Search search(game, trials);
+    const int failed = search.Run() ? 0 : 1;
+    search.ShowChoicePoints();
+    return failed;
 }
 
 }  // namespace tidewalk

@@ -12,6 +12,7 @@
 #include "ui/command_line.h"
 #include "ui/icons.h"
 #include "ui/program.h"
+#include "ui/save_file.h"
 
 namespace tidewalk {
 
@@ -64,7 +65,7 @@ int Fail(const QString& text, bool unattended) {
 int TakeScreenshot(Program& program, const QString& file) {
     // What the first puzzle changed is laid out and painted by the events that wait.
     QCoreApplication::processEvents();
-    if (program.form1().grab().save(file, "PNG")) return 0;
+    if (WhyNotReplaceable(file).isEmpty() && program.form1().grab().save(file, "PNG")) return 0;
     Say(stderr, "The picture could not be written: " + file);
     return kFailed;
 }

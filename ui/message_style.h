@@ -6,16 +6,9 @@
 #include <string_view>
 #include <vector>
 
-namespace tidewalk {
+#include "model/seams.h"
 
-// The codes that buttons answer with.
-inline constexpr int kOk = 1;
-inline constexpr int kCancel = 2;
-inline constexpr int kAbort = 3;
-inline constexpr int kRetry = 4;
-inline constexpr int kIgnore = 5;
-inline constexpr int kYes = 6;
-inline constexpr int kNo = 7;
+namespace tidewalk {
 
 struct MessageButton {
     std::string_view caption;

@@ -10,6 +10,7 @@
 #include "model/load_puzzle.h"
 #include "ui/paper.h"
 #include "ui/picture.h"
+#include "ui/save_file.h"
 
 namespace tidewalk {
 
@@ -31,9 +32,11 @@ QString WritePictureFile(const OutputOrder& order) {
     const RenderRequest request = PictureRequest(mode, title, Options().PrintLineWidth);
     const auto draw = [&](Surface& surface) { return RenderPuzzle(*puzzle, surface, request); };
     const QImage picture = MakePicture(draw, qGuiApp->devicePixelRatio());
+    const QString failure = QString("%1 could not be written: %2");
+    if (const QString reason = WhyNotReplaceable(order.file); !reason.isEmpty()) return failure.arg(order.file, reason);
     QSaveFile file(order.file);
     if (!picture.isNull() && file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) return "";
-    return QString("%1 could not be written: %2").arg(order.file, file.errorString());
+    return failure.arg(order.file, file.errorString());
 }
 
 QString WritePages(const OutputOrder& order) {

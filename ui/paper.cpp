@@ -10,6 +10,7 @@
 
 #include "board/render_puzzle.h"
 #include "ui/qt_surface.h"
+#include "ui/save_file.h"
 
 namespace tidewalk {
 
@@ -80,7 +81,12 @@ Surface::Area PrintableArea(const QPagedPaintDevice& device) {
 }
 
 std::unique_ptr<PrintDocument> BeginPdf(const std::string& path, std::string& error) {
-    auto document = std::make_unique<PdfDocument>(QFile::decodeName(path.c_str()));
+    const QString name = QFile::decodeName(path.c_str());
+    if (const QString reason = WhyNotReplaceable(name); !reason.isEmpty()) {
+        error = (name + "\n" + reason).toStdString();
+        return nullptr;
+    }
+    auto document = std::make_unique<PdfDocument>(name);
     if (document->Open()) return document;
     error = document->Error();
     return nullptr;

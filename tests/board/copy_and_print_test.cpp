@@ -125,20 +125,20 @@ TEST_F(Printing, RefusedDuringAJobAndWithoutAPuzzle) {
 TEST_F(Printing, FailingPrinterSaysWhyAndChangesNothing) {
     game.BridgeState.Set(3, 7, 2);
     game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 6);
-    game.prompts.ExpectSystemBox("Printing failed:\nno such folder", SystemButtons::Ok, 1);
+    game.prompts.ExpectSystemBox("Printing failed:\r\nno such folder", SystemButtons::Ok, 1);
     game.printers.beginError = "no such folder";
     mnuprintcurrent_Click(game);
-    game.prompts.ExpectSystemBox("Printing failed:\nno such folder", SystemButtons::Ok, 1);
+    game.prompts.ExpectSystemBox("Printing failed:\r\nno such folder", SystemButtons::Ok, 1);
     Print({kOtherPuzzle}, "1", "1");
     EXPECT_EQ(game.BridgeState(3, 7), 2);
     ExpectUnchanged();
 
     game.printers.beginError.clear();
     game.printers.failAtEnd = true;
-    game.prompts.ExpectSystemBox("Printing failed:\nout of paper", SystemButtons::Ok, 1);
+    game.prompts.ExpectSystemBox("Printing failed:\r\nout of paper", SystemButtons::Ok, 1);
     Print({kOtherPuzzle}, "1", "1");
     game.printers.failAtPage = 2;
-    game.prompts.ExpectSystemBox("Printing failed:\nout of paper", SystemButtons::Ok, 1);
+    game.prompts.ExpectSystemBox("Printing failed:\r\nout of paper", SystemButtons::Ok, 1);
     Print({kOtherPuzzle, kOtherPuzzle}, "1", "2");
     EXPECT_FALSE(game.printers.printed);
     ExpectUnchanged();
@@ -150,7 +150,7 @@ TEST_F(Printing, BrokenLinesOfARangeLeaveTheirPagesEmpty) {
     lines[2] = " 7, 7, 1;D;2=2....,";
     lines[150].clear();
     path = game.folder.Path("other.tdw");
-    game.prompts.Expect("Printed 199 puzzles from file:\n" + path, "vbinformation+vbok", 1);
+    game.prompts.Expect("Printed 199 puzzles from file:\r\n" + path, "vbinformation+vbok", 1);
     Print(lines, "2", "200");
     ASSERT_EQ(game.printers.pages.size(), 199U);
     for (std::size_t i = 0; i < game.printers.pages.size(); ++i) {

@@ -13,9 +13,6 @@
 namespace tidewalk::test {
 namespace {
 
-constexpr int kYes = 6;
-constexpr int kNo = 7;
-
 std::vector<std::string> LinesOf(const std::string& bytes) {
     std::vector<std::string> lines;
     std::size_t at = 0;

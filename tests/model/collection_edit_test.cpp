@@ -3,6 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
 #include <cstdlib>
 
 #include "model/convert_layout.h"
@@ -90,6 +94,63 @@ TEST(AppendPuzzle, AFailedWriteEndsWithoutAMessageBox) {
     EXPECT_NE(game.window.texts[Control::pb].find("folder.tdw"), std::string::npos);
     EXPECT_EQ(game.window.pointer, Pointer::Default);
     EXPECT_EQ(game.Load(1), 0) << "no file is left open";
+}
+
+TEST(AppendPuzzle, PipesAreRefusedAndFullDisksTold) {
+    TestGame game({kSmallPuzzle});
+    ASSERT_EQ(game.Load(1), 0);
+    ASSERT_EQ(::mkfifo("pipe.txt", 0600), 0);
+    std::filesystem::create_symlink("/dev/full", "full.txt");
+    const auto refusal = [&](void (*command)(Game&), const char* name) {
+        game.window.texts[Control::pb].clear();
+        game.filePicker.Answer(game.folder.Path(name));
+        command(game);
+        EXPECT_FALSE(game.files.IsOpen(1));
+        const std::string& said = game.window.texts[Control::pb];
+        return said.substr(said.rfind(':') + 1);
+    };
+    EXPECT_EQ(refusal(mnuappend_Click, "pipe.txt"), " Invalid argument");
+    EXPECT_EQ(refusal(mnuexport_Click, "pipe.txt"), " Invalid argument");
+    EXPECT_EQ(refusal(mnuappend_Click, "full.txt"), " No space left on device");
+    EXPECT_EQ(refusal(mnuexport_Click, "full.txt"), " Invalid argument") << "a device is not replaced";
+    EXPECT_THROW(WritePuzzleRecord(game, "/dev/full", 0), FileError);
+    EXPECT_FALSE(game.files.IsOpen(1));
+    EXPECT_EQ(game.CollectionPath, game.folder.Path("collection.tdw"));
+}
+
+/// Files cannot grow beyond some bytes for as long as it lives, as on a disk that is full.
+class NoSpace {
+ public:
+    NoSpace() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit few{5, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &few);
+    }
+    ~NoSpace() {
+        ::setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    NoSpace(const NoSpace&) = delete;
+    NoSpace& operator=(const NoSpace&) = delete;
+
+ private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
+
+TEST(WritePuzzleRecord, WithoutSpaceTheOldFileStaysWhole) {
+    TestGame game({kSmallPuzzle});
+    ASSERT_EQ(game.Load(1), 0);
+    const std::string path = game.folder.Write("temp.txt", "the puzzle before");
+    {
+        const NoSpace full;
+        EXPECT_THROW(WritePuzzleRecord(game, path, 0), FileError);
+        game.prompts.ExpectSystemBox("OverWrite file: " + path + " ?", SystemButtons::YesNo, kYes);
+        game.filePicker.Answer(path);
+        mnuexport_Click(game);
+    }
+    EXPECT_EQ(game.folder.Read("temp.txt"), "the puzzle before");
+    EXPECT_EQ(game.window.texts[Control::pb].find("Not written: "), 0U);
 }
 
 TEST(DeletePuzzle, ShowsThePuzzleBefore) {

@@ -11,9 +11,6 @@
 namespace tidewalk::test {
 namespace {
 
-constexpr int kYes = 6;
-constexpr int kNo = 7;
-
 /// A program folder with the schemes that ship and a collection of `puzzles` puzzles.
 void FillFolder(TestGame& game, int puzzles) {
     std::filesystem::copy_file(std::string(TIDEWALK_DATA_DIR) + "/all.col", "all.col");

@@ -42,6 +42,39 @@ TEST(AutoSolve, WhatCannotBeSolvedComesBack) {
     EXPECT_FALSE(std::filesystem::exists("collection-solution.tdw"));
 }
 
+TEST(AutoSolve, AFailureLeavesNothingOfItselfOnTheBoard) {
+    // The rules finish two of the islands before nothing fits any more.
+    TestGame game({Record({"1.2.2", ".....", "..1.3"})});
+    ASSERT_EQ(game.Load(1), 0);
+    game.prompts.Expect("puzzle 9 not found", "vbinformation+vbok", 1);
+    ASSERT_EQ(game.Load(9), 1) << "its file stays open";
+    game.prompts.Expect(kUnable, "vbcritical+vbok", 1);
+    mnuautosol_Click(game);
+    EXPECT_EQ(game.IslandGrid(1, 1), 1);
+    EXPECT_EQ(game.PuzzleNumber, 1);
+
+    std::filesystem::remove("collection.tdw");
+    game.BridgeState.Set(1, 3, 1);
+    game.prompts.Expect("puzzle 1 not found", "vbinformation+vbok", 1);
+    game.prompts.Expect(kUnable, "vbcritical+vbok", 1);
+    game.pictures.surface.calls.clear();
+    mnuautosol_Click(game);
+    EXPECT_EQ(game.IslandGrid(1, 1), 1) << "the numbers are back even without their file";
+    EXPECT_EQ(game.LinkCount(), 0);
+    EXPECT_EQ(game.BridgeState(1, 3), 1);
+    EXPECT_GE(game.pictures.surface.Count("print"), 5);
+}
+
+TEST(AutoSolve, ASolutionThatCannotBeWrittenIsStillShown) {
+    TestGame game({Record(kTwoSolutions)});
+    ASSERT_EQ(game.Load(1), 0);
+    std::filesystem::create_symlink("/dev/full", "collection-solution.tdw");
+    mnuautosol_Click(game);
+    EXPECT_EQ(game.window.texts[Control::pb].find("Solved, but not written: "), 0U);
+    EXPECT_FALSE(game.files.IsOpen(1));
+    EXPECT_EQ(CheckLinkTotals(game), 0);
+}
+
 TEST(AutoSolve, RefusesWithoutIslandsOrDuringAJob) {
     TestGame game({Record({"...", "..."})});
     game.prompts.Expect("There is no puzzle to solve", "vbinformation+vbok", 1);

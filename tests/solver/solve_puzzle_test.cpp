@@ -6,7 +6,9 @@
 #include <random>
 
 #include "model/load_puzzle.h"
+#include "model/numbers.h"
 #include "solver/connect_islands.h"
+#include "solver/count_solutions.h"
 #include "solver/neighbours.h"
 #include "solver/valid_solution.h"
 #include "support/plain_solver.h"
@@ -46,6 +48,73 @@ TEST(SolvePuzzle, DoesTheSameAsThePlainSolver) {
     }
     EXPECT_GT(solvedBoards, 25);
     EXPECT_GT(searchedBoards, 25);
+}
+
+/// What the tables say about every island agrees with the bridges that the links carry.
+void ExpectTablesOfASolution(const TestGame& game) {
+    PerCell<int> joined;
+    for (int i = 1; i <= game.LinkCount(); ++i) {
+        const Link& link = game.LinkList[i];
+        if (link.state == 2) continue;
+        ++joined[link.first];
+        ++joined[link.second];
+        ASSERT_TRUE(game.ConnectedList[link.first].Contains(link.second));
+        const bool sameRow = game.CellRow[link.first] == game.CellRow[link.second];
+        const int step = sameRow ? 1 : game.Cols;
+        for (CellNumber id = link.first + step; id < link.second; id += step)
+            ASSERT_EQ(game.CrossGrid(game.CellRow[id], game.CellCol[id]), sameRow ? Cross::H : Cross::V);
+    }
+    for (CellNumber id = 1; id <= game.CellCount; ++id) {
+        const auto [row, col] = game.PlaceOf(id);
+        ASSERT_EQ(game.IslandGrid(row, col), game.GivenGrid(row, col)) << "water is -1 in both";
+        ASSERT_EQ(game.ConnectedList[id].Count(), joined[id]);
+        ASSERT_TRUE(game.OpenNeighbours(row, col).Empty());
+    }
+    ASSERT_TRUE(game.List1.Lines().empty());
+}
+
+TEST(SolvePuzzle, SolvesExactlyWhatHasASolution) {
+    TestGame game;
+    std::mt19937 random(77);
+    int solvable = 0;
+    int unsolvable = 0;
+    // To refuse a board takes a search through all choices: the few boards that need very many are passed over.
+    constexpr int kMostTrials = 1000;
+    game.TrialLimit = kMostTrials;
+    for (int round = 0; round < 2000; ++round) {
+        const int rows = 2 + static_cast<int>(random() % 8);
+        const int cols = 2 + static_cast<int>(random() % 8);
+        MakeRandomBoard(game, random, rows, cols, 2 + static_cast<int>(random() % 4), round % 3 == 0);
+        const auto solutions = CountSolutions(game.GivenGrid, rows, cols, 1);
+        if (!solutions) continue;
+        int trials = 0;
+        const bool solved = SolvePuzzle(game, 1, trials) == 0;
+        if (game.sights.islandCount == 0 || trials == kMostTrials) continue;
+        ASSERT_EQ(solved, *solutions == 1) << "board " << round;
+        if (solved) {
+            ASSERT_TRUE(IsValidSolution(game)) << "board " << round;
+            ExpectTablesOfASolution(game);
+            if (HasFatalFailure()) return;
+        }
+        solvable += solved;
+        unsolvable += !solved;
+    }
+    EXPECT_GT(solvable, 300);
+    EXPECT_GT(unsolvable, 300);
+}
+
+TEST(SolvePuzzle, AfterAFailureTheWorkListTellsWhatIsMissing) {
+    TestGame game({Record({"1.2.2", ".....", "..1.3"})});
+    ASSERT_EQ(game.Load(1), 0);
+    game.List2.Add("a choice point of an earlier puzzle");
+    int trials = 0;
+    ASSERT_EQ(SolvePuzzle(game, 0, trials), 1);
+    ASSERT_FALSE(game.List1.Lines().empty());
+    for (const std::string& line : game.List1.Lines()) {
+        const int island = RoundedVal(std::string_view(line).substr(13, 3));
+        EXPECT_EQ(line.front() - '0', game.IslandAt(island)) << line;
+    }
+    EXPECT_TRUE(game.List2.Lines().empty());
 }
 
 TEST(RefreshNeighbours, AfterEachBridgeGivesWhatAFullRebuildGives) {

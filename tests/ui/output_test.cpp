@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QClipboard>
 #include <QComboBox>
@@ -11,6 +12,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextBrowser>
+#include <filesystem>
 
 #include "board/copy_and_print.h"
 #include "board/render_puzzle.h"
@@ -200,6 +202,17 @@ TEST(Output, CommandLineTellsFailuresFromWrongUsage) {
     EXPECT_EQ(RunTidewalk({"--pdf", "a.pdf", broken, "1-2"}, &said), 1);
     EXPECT_TRUE(said.contains("empty: 2")) << said.toStdString();
     EXPECT_EQ(PagesOf(folder.Read("a.pdf")), 2);
+}
+
+TEST(Output, NothingButAFileIsReplaced) {
+    const TempFolder folder;
+    ASSERT_EQ(::mkfifo("pipe", 0600), 0);
+    QString said;
+    for (const char* const option : {"--pdf", "--picture"}) {
+        EXPECT_EQ(RunTidewalk({option, "pipe", Data("puzzles.txt"), "1"}, &said), 1) << option;
+        EXPECT_TRUE(said.contains("no ordinary file")) << said.toStdString();
+        EXPECT_TRUE(std::filesystem::is_fifo("pipe")) << option;
+    }
 }
 
 /// The help page and its window.
