@@ -12,7 +12,7 @@ namespace tidewalk {
 namespace {
 
 /// Some devices never end a line.
-constexpr long long kLongestLine = 256LL * 1024 * 1024;
+constexpr long long kLongestLine = 64LL * 1024 * 1024;
 
 }  // namespace
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/record_output.h"
 
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
 #include <utility>
 
 #include "model/replace_file.h"
@@ -15,7 +18,13 @@ constexpr std::string_view kLineEnd = "\r\n";
 }  // namespace
 
 RecordOutput::RecordOutput(Console& console, std::optional<std::string> path)
-    : console_(console), path_(std::move(path)) {}
+    : console_(console), path_(std::move(path)) {
+    if (!path_ || *path_ == kStandard) return;
+    std::error_code error;
+    if (std::filesystem::is_directory(*path_, error)) throw FileError(*path_ + ": " + std::strerror(EISDIR));
+    const std::filesystem::path folder = std::filesystem::absolute(*path_, error).parent_path();
+    if (!std::filesystem::is_directory(folder, error)) throw FileError(*path_ + ": " + std::strerror(ENOENT));
+}
 
 void RecordOutput::Add(std::string_view record) {
     if (!path_) return;

@@ -14,7 +14,8 @@ namespace tidewalk {
 /// Collects records and makes them the new content of a file at the end. For "-" each goes out at once.
 class RecordOutput {
  public:
-    /// Without a path the records are dropped.
+    /// Without a path the records are dropped. Throws FileError for a path that no file can have, to say so before
+    /// hours of work are spent.
     RecordOutput(Console& console, std::optional<std::string> path);
 
     void Add(std::string_view record);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <utility>
@@ -116,9 +117,19 @@ Json JsonOf(const Solved& solved, bool links) {
     return object;
 }
 
+/// True when the solved records would replace the collection that they come from, and with it what is not solved.
+bool WouldReplaceItself(const SolveOptions& options) {
+    std::error_code error;
+    return options.out && *options.out != kStandard && std::filesystem::equivalent(options.file, *options.out, error);
+}
+
 }  // namespace
 
 int SolvePuzzles(Console& console, const SolveOptions& options) {
+    if (WouldReplaceItself(options)) {
+        Say(console, options.file + ": the solved records must not replace the collection itself");
+        return kFailed;
+    }
     LineReader lines(console, options.file);
     RecordOutput output(console, options.out);
     Progress progress(console, true);
