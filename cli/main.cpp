@@ -27,8 +27,12 @@ void WatchSignals() {
     action.sa_handler = NoteSignal;
     // A second signal ends a run that the first one could not.
     action.sa_flags = static_cast<int>(SA_RESETHAND);
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP})
+    for (const int signal : {SIGINT, SIGTERM})
         sigaction(signal, &action, nullptr);
+    // Who started the program with nohup wants it to outlive the terminal.
+    struct sigaction before {};
+    sigaction(SIGHUP, nullptr, &before);
+    if (before.sa_handler != SIG_IGN) sigaction(SIGHUP, &action, nullptr);
     // A reader that goes away shows when its pipe is written to.
     std::signal(SIGPIPE, SIG_IGN);
 }
