@@ -16,8 +16,6 @@ namespace tidewalk {
 
 namespace {
 
-constexpr const char* kDeleteWorkFile = "tidetemp.tmp";
-
 FileRequest SaveRequest(const Game& game, std::string title, std::string patternName) {
     return {std::move(title), "*.txt", std::move(patternName), game.AppFolder, FileRequest::Mode::Save};
 }
@@ -78,11 +76,11 @@ void mnuappend_Click(Game& game) {
     game.prompts.Show("Puzzle#" + NumText(number) + " appended to file " + path, "vbinformation+vbok");
 }
 
-int DeleteLine(Game& game, const std::string& path, int number) {
+int DeleteLine(Game& game, const std::string& path, int number, const std::string& workFile) {
     game.files.Close(1);
     game.files.Close(2);
     game.files.Open(1, path, FileMode::Input);
-    game.files.Open(2, kDeleteWorkFile, FileMode::Output);
+    game.files.Open(2, workFile, FileMode::Output);
     int kept = 0;
     std::string line;
     for (int at = 1; game.files.ReadLine(1, line); ++at) {
@@ -92,8 +90,8 @@ int DeleteLine(Game& game, const std::string& path, int number) {
     }
     game.files.Close(1);
     game.files.Close(2);
-    ReplaceFile(path, [](std::ostream& out) {
-        if (FileLength(kDeleteWorkFile) > 0) out << std::ifstream(kDeleteWorkFile, std::ios::binary).rdbuf();
+    ReplaceFile(path, [&](std::ostream& out) {
+        if (FileLength(workFile) > 0) out << std::ifstream(workFile, std::ios::binary).rdbuf();
     });
     return kept;
 }
@@ -130,12 +128,12 @@ void mnuexport_Click(Game& game) {
     game.prompts.Show("Puzzle exported to file:\r\n" + path, "vbinformation+vbok");
 }
 
-std::vector<std::string> PlainGrid(const Game& game) {
+std::vector<std::string> PlainGrid(const Puzzle& puzzle) {
     std::vector<std::string> rows;
-    for (int row = 1; row <= game.Rows; ++row) {
+    for (int row = 1; row <= puzzle.Rows; ++row) {
         std::string text;
-        for (int col = 1; col <= game.Cols; ++col) {
-            const int number = game.IslandGrid(row, col);
+        for (int col = 1; col <= puzzle.Cols; ++col) {
+            const int number = puzzle.IslandGrid(row, col);
             text += number >= 1 ? NumText(number) : ".";
         }
         rows.push_back(std::move(text));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "model/game.h"
 
@@ -20,12 +21,12 @@ void mnudelete_Click(Game& game);
 /// "Export Puzzle": asks for a file and writes the numbers alone, one line a row, "." for everything else.
 void mnuexport_Click(Game& game);
 
-/// Copies the collection at `path` without line `number`: first to "tidetemp.tmp" in the current directory, and from
-/// there over the collection, which is replaced as a whole. Returns how many lines are left. Throws FileError when that
-/// fails; the collection is then as it was.
-int DeleteLine(Game& game, const std::string& path, int number);
+/// Copies the collection at `path` without line `number`: first to `workFile`, and from there over the
+/// collection, which is replaced as a whole. Returns how many lines are left. Throws FileError when that fails; the
+/// collection is then as it was.
+int DeleteLine(Game& game, const std::string& path, int number, const std::string& workFile = "tidetemp.tmp");
 
-/// The numbers of the current puzzle, one text a row.
-std::vector<std::string> PlainGrid(const Game& game);
+/// The numbers of the puzzle, one text a row.
+std::vector<std::string> PlainGrid(const Puzzle& puzzle);
 
 }  // namespace tidewalk

@@ -12,9 +12,6 @@ namespace tidewalk {
 
 namespace {
 
-/// Far above the 700 characters of the largest record; a longer line is no record.
-constexpr std::size_t kLongestRecord = 64 * 1024;
-
 /// The characters of the board as the record gives them; '.' where it gives none.
 using BoardText = Grid<char>;
 
@@ -28,10 +25,11 @@ std::vector<std::string_view> Split(std::string_view text, char separator) {
     }
 }
 
-/// False for a line that holds bytes no text file holds.
-bool IsText(std::string_view line) {
-    return std::none_of(line.begin(), line.end(),
-                        [](char c) { return (c >= 0 && c < ' ' && c != '\t') || c == '\x7F'; });
+/// False for a line that is too long or holds bytes no text file holds.
+bool MayBeRecord(std::string_view line) {
+    return line.size() <= kLongestRecord && std::none_of(line.begin(), line.end(), [](char c) {
+               return (c >= 0 && c < ' ' && c != '\t') || c == '\x7F';
+           });
 }
 
 /// Reads line `number` of the file into `record`; false when there is none or it can be no record. File 1 stays open.
@@ -40,7 +38,7 @@ bool ReadRecord(NumberedFiles& files, const std::string& path, int number, std::
     for (int line = 1; line < number; ++line) {
         if (!files.SkipLine(1)) return false;
     }
-    return number >= 1 && files.ReadLine(1, record) && record.size() <= kLongestRecord && IsText(record);
+    return number >= 1 && files.ReadLine(1, record) && MayBeRecord(record);
 }
 
 bool ReadHeader(Puzzle& puzzle, std::string_view header) {
@@ -156,19 +154,23 @@ int CountLines(Game& game, const std::string& path) {
     return count;
 }
 
-bool ReadPuzzle(NumberedFiles& files, const std::string& path, int number, Puzzle& puzzle) {
-    files.CloseAll();
+bool ReadPuzzleRecord(std::string_view record, Puzzle& puzzle) {
     puzzle = Puzzle();
     puzzle.IslandGrid.FillBoard(-1);
     puzzle.GivenGrid.FillBoard(-1);
+    const auto numberCells = [&puzzle] {
+        NumberCells(puzzle);
+        puzzle.LinkList.Clear(puzzle.Cols);
+    };
+    return MayBeRecord(record) && ParseRecord(puzzle, record, numberCells);
+}
+
+bool ReadPuzzle(NumberedFiles& files, const std::string& path, int number, Puzzle& puzzle) {
+    files.CloseAll();
     bool read = false;
     try {
         std::string record;
-        const auto numberCells = [&puzzle] {
-            NumberCells(puzzle);
-            puzzle.LinkList.Clear(puzzle.Cols);
-        };
-        read = ReadRecord(files, path, number, record) && ParseRecord(puzzle, record, numberCells);
+        read = ReadRecord(files, path, number, record) && ReadPuzzleRecord(record, puzzle);
     } catch (const FileError&) {
         read = false;
     }

@@ -24,10 +24,10 @@ void DrawStroke(BoardText& cells, CellPlace from, CellPlace to, std::string_view
     }
 }
 
-void DrawLink(const Game& game, BoardText& cells, const Link& link) {
+void DrawLink(const Puzzle& puzzle, BoardText& cells, const Link& link) {
     if (link.state == 2) return;
-    const CellPlace from = game.PlaceOf(link.first);
-    const CellPlace to = game.PlaceOf(link.second);
+    const CellPlace from = puzzle.PlaceOf(link.first);
+    const CellPlace to = puzzle.PlaceOf(link.second);
     const bool isDouble = link.state == 0;
     if (from.row == to.row && from.col != to.col) {
         // A single bridge that is listed from right to left has two characters a cell. Nothing in the program lists one
@@ -41,15 +41,15 @@ void DrawLink(const Game& game, BoardText& cells, const Link& link) {
 
 }  // namespace
 
-std::string PuzzleRecord(const Game& game) {
+std::string PuzzleRecord(const Puzzle& puzzle) {
     BoardText cells;
     cells.Fill(kWater);
-    for (int i = 1; i <= game.LinkCount(); ++i)
-        DrawLink(game, cells, game.LinkList[i]);
-    std::string record = Str(game.Rows) + "," + Str(game.Cols) + "," + Str(game.LinkCount()) + ";D;";
-    for (int row = 1; row <= game.Rows; ++row) {
-        for (int col = 1; col <= game.Cols; ++col) {
-            const int number = game.IslandGrid(row, col);
+    for (int i = 1; i <= puzzle.LinkCount(); ++i)
+        DrawLink(puzzle, cells, puzzle.LinkList[i]);
+    std::string record = Str(puzzle.Rows) + "," + Str(puzzle.Cols) + "," + Str(puzzle.LinkCount()) + ";D;";
+    for (int row = 1; row <= puzzle.Rows; ++row) {
+        for (int col = 1; col <= puzzle.Cols; ++col) {
+            const int number = puzzle.IslandGrid(row, col);
             if (number > 0) {
                 record += NumText(number);
             } else {

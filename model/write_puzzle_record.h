@@ -8,8 +8,8 @@
 
 namespace tidewalk {
 
-/// The current puzzle and its bridges as a record, without a line's end.
-std::string PuzzleRecord(const Game& game);
+/// The puzzle and its bridges as a record, without a line's end.
+std::string PuzzleRecord(const Puzzle& puzzle);
 
 /// Writes the current puzzle's record: with `append` 0 it becomes all that the file holds, otherwise it goes to the
 /// end. Closes file 1 first and leaves it closed. Throws FileError when the record could not be written; a file that

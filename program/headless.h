@@ -2,6 +2,7 @@
 // A game without windows: for the console, the benchmarks and whatever else only computes.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 
@@ -24,7 +25,8 @@ class HeadlessSurface final : public Surface {
     void Print(double /*x*/, double /*y*/, const std::string& /*text*/, Colour /*colour*/) override {}
 };
 
-/// Shows nothing, chooses nothing and lets no events happen. It keeps the last message for whoever wants to pass it on.
+/// Shows nothing and chooses nothing; no events happen but the one that its owner may name. It keeps the last message
+/// for whoever wants to pass it on.
 class HeadlessWorld final : public Prompts,
                             public FilePicker,
                             public MainWindow,
@@ -36,6 +38,7 @@ class HeadlessWorld final : public Prompts,
                             public Form5Window {
  public:
     std::string lastMessage;
+    std::function<void()> onEvents;  ///< what happens when a job lets events through
 
     /// Answers Ok, which no question takes for Yes.
     int Show(const std::string& text, std::string_view /*style*/) override { return Keep(text); }
@@ -43,7 +46,9 @@ class HeadlessWorld final : public Prompts,
 
     std::string Pick(const FileRequest& /*request*/) override { return ""; }
     bool Ask(BatchRequest& /*request*/) override { return false; }
-    void DoEvents() override {}
+    void DoEvents() override {
+        if (onEvents) onEvents();
+    }
 
     std::string Text() override { return ""; }
     bool SetPicture(const DrawFunction& /*draw*/) override { return false; }
@@ -114,6 +119,11 @@ class HeadlessGame : private HeadlessSeams, public Game {
 
     /// The last message that a player would have seen.
     const std::string& LastMessage() const { return HeadlessSeams::world.lastMessage; }
+
+    /// Calls `stopped` every now and then while a job runs. Once it says true all jobs of this game end.
+    void StopWhen(std::function<bool()> stopped) {
+        HeadlessSeams::world.onEvents = [this, stopped = std::move(stopped)] { ending = ending || stopped(); };
+    }
 };
 
 }  // namespace tidewalk

@@ -108,8 +108,8 @@ class BoardReader {
 /// leads back.
 class Counter {
  public:
-    Counter(Archipelago board, int limit, std::int64_t steps)
-        : isles_(std::move(board.isles)), spans_(std::move(board.spans)), limit_(limit), steps_(steps) {
+    Counter(Archipelago board, int limit, const std::function<bool()>& mayGoOn)
+        : isles_(std::move(board.isles)), spans_(std::move(board.spans)), limit_(limit), mayGoOn_(mayGoOn) {
         queued_.assign(isles_.size(), false);
         order_.resize(isles_.size());
         lowest_.resize(isles_.size());
@@ -119,7 +119,7 @@ class Counter {
         for (std::size_t isle = 0; isle < isles_.size(); ++isle)
             Enqueue(static_cast<int>(isle));
         Search();
-        if (outOfSteps_) return std::nullopt;
+        if (stopped_) return std::nullopt;
         return count_;
     }
 
@@ -256,7 +256,7 @@ class Counter {
         }
     }
 
-    bool Done() const { return count_ >= limit_ || outOfSteps_; }
+    bool Done() const { return count_ >= limit_ || stopped_; }
 
     /// Counts the solutions within the present bounds and leaves them as they were.
     void Search() {
@@ -265,8 +265,8 @@ class Counter {
             const int span = PickSpan();
             if (span < 0) {
                 ++count_;
-            } else if (steps_-- <= 0) {
-                outOfSteps_ = true;
+            } else if (!mayGoOn_()) {
+                stopped_ = true;
             } else {
                 const std::size_t here = trail_.size();
                 const int low = At(span).low;
@@ -290,9 +290,9 @@ class Counter {
     std::vector<Isle> isles_;
     std::vector<Span> spans_;
     int limit_;
-    std::int64_t steps_;
+    const std::function<bool()>& mayGoOn_;
     int count_ = 0;
-    bool outOfSteps_ = false;
+    bool stopped_ = false;
 
     std::vector<OldBounds> trail_;
     std::vector<int> queue_;  ///< islands whose spans changed
@@ -307,9 +307,14 @@ class Counter {
 }  // namespace
 
 std::optional<int> CountSolutions(const Grid<int>& numbers, int rows, int cols, int limit, std::int64_t steps) {
+    return CountSolutionsWhile(numbers, rows, cols, limit, [steps]() mutable { return steps-- > 0; });
+}
+
+std::optional<int> CountSolutionsWhile(const Grid<int>& numbers, int rows, int cols, int limit,
+                                       const std::function<bool()>& mayGoOn) {
     Archipelago board = BoardReader(numbers, rows, cols).Read();
     if (board.isles.empty()) return 0;
-    return Counter(std::move(board), limit, steps).Run();
+    return Counter(std::move(board), limit, mayGoOn).Run();
 }
 
 }  // namespace tidewalk

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
 #include "model/grid.h"
@@ -14,5 +15,10 @@ namespace tidewalk {
 ///
 /// Nothing when that could not be told within `steps` choices.
 std::optional<int> CountSolutions(const Grid<int>& numbers, int rows, int cols, int limit, std::int64_t steps = 100000);
+
+/// The same without a fixed bound: `mayGoOn` is asked before every choice. Nothing when it said no before the count was
+/// known.
+std::optional<int> CountSolutionsWhile(const Grid<int>& numbers, int rows, int cols, int limit,
+                                       const std::function<bool()>& mayGoOn);
 
 }  // namespace tidewalk

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "model/cell_set.h"
+
 namespace tidewalk {
 
 namespace {
@@ -15,7 +17,7 @@ int BridgesOf(const Link& link) {
 /// Which cells are taken by bridges, and which islands hang together.
 class LaidBoard {
  public:
-    explicit LaidBoard(const Game& game) : game_(game) {
+    explicit LaidBoard(const Puzzle& puzzle) : puzzle_(puzzle) {
         for (CellNumber id = 0; id <= kMaxCells; ++id)
             group_[id] = id;
     }
@@ -25,12 +27,12 @@ class LaidBoard {
     bool Lay(const Link& link) {
         const CellNumber from = std::min(link.first, link.second);
         const CellNumber to = std::max(link.first, link.second);
-        if (from < 1 || to > game_.CellCount || from == to) return false;
-        const bool sameRow = game_.CellRow[from] == game_.CellRow[to];
-        if (!sameRow && game_.CellCol[from] != game_.CellCol[to]) return false;
-        if (game_.IslandAt(from) < 1 || game_.IslandAt(to) < 1) return false;
+        if (from < 1 || to > puzzle_.CellCount || from == to) return false;
+        const bool sameRow = puzzle_.CellRow[from] == puzzle_.CellRow[to];
+        if (!sameRow && puzzle_.CellCol[from] != puzzle_.CellCol[to]) return false;
+        if (puzzle_.IslandAt(from) < 1 || puzzle_.IslandAt(to) < 1) return false;
         for (CellNumber id = from + Step(sameRow); id < to; id += Step(sameRow)) {
-            if (game_.IslandAt(id) > 0 || taken_.Contains(id)) return false;
+            if (puzzle_.IslandAt(id) > 0 || taken_.Contains(id)) return false;
             taken_.Insert(id);
         }
         group_[GroupOf(from)] = GroupOf(to);
@@ -39,8 +41,8 @@ class LaidBoard {
 
     bool IsOneGroup() {
         CellNumber first = 0;
-        for (CellNumber id = 1; id <= game_.CellCount; ++id) {
-            if (game_.IslandAt(id) < 1) continue;
+        for (CellNumber id = 1; id <= puzzle_.CellCount; ++id) {
+            if (puzzle_.IslandAt(id) < 1) continue;
             if (first == 0) first = id;
             if (GroupOf(id) != GroupOf(first)) return false;
         }
@@ -48,7 +50,7 @@ class LaidBoard {
     }
 
  private:
-    int Step(bool sameRow) const { return sameRow ? 1 : game_.Cols; }
+    int Step(bool sameRow) const { return sameRow ? 1 : puzzle_.Cols; }
 
     CellNumber GroupOf(CellNumber id) {
         while (group_[id] != id)
@@ -56,32 +58,32 @@ class LaidBoard {
         return id;
     }
 
-    const Game& game_;
+    const Puzzle& puzzle_;
     CellSet taken_;
     PerCell<CellNumber> group_;
 };
 
 }  // namespace
 
-int CheckLinkTotals(const Game& game) {
+int CheckLinkTotals(const Puzzle& puzzle) {
     PerCell<int> totals;
-    for (int i = 1; i <= game.LinkCount(); ++i) {
-        const Link& link = game.LinkList[i];
+    for (int i = 1; i <= puzzle.LinkCount(); ++i) {
+        const Link& link = puzzle.LinkList[i];
         totals[link.first] += BridgesOf(link);
         totals[link.second] += BridgesOf(link);
     }
-    for (CellNumber id = 1; id <= game.CellCount; ++id) {
-        const int number = game.IslandAt(id);
+    for (CellNumber id = 1; id <= puzzle.CellCount; ++id) {
+        const int number = puzzle.IslandAt(id);
         if (number > 0 && number != totals[id]) return YesValue;
     }
     return NoValue;
 }
 
-bool IsValidSolution(const Game& game) {
-    if (CheckLinkTotals(game) == YesValue) return false;
-    LaidBoard board(game);
-    for (int i = 1; i <= game.LinkCount(); ++i) {
-        const Link& link = game.LinkList[i];
+bool IsValidSolution(const Puzzle& puzzle) {
+    if (CheckLinkTotals(puzzle) == YesValue) return false;
+    LaidBoard board(puzzle);
+    for (int i = 1; i <= puzzle.LinkCount(); ++i) {
+        const Link& link = puzzle.LinkList[i];
         if (BridgesOf(link) > 0 && !board.Lay(link)) return false;
     }
     return board.IsOneGroup();

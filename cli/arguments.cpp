@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: MIT
+#include "cli/arguments.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <exception>
+#include <functional>
+#include <limits>
+#include <utility>
+
+#include "cli/commands.h"
+
+namespace tidewalk {
+
+namespace {
+
+constexpr int kMostJobs = 256;
+constexpr int kMostNumber = std::numeric_limits<int>::max() - 1;
+
+/// What the arguments ask for. The parser writes into these.
+struct Wishes {
+    ListOptions list;
+    SolveOptions solve;
+    CheckOptions check;
+    CreateOptions create;
+    ShowOptions show;
+    ShuffleOptions shuffle;
+    ConvertOptions convert;
+    AppendOptions append;
+    DeleteOptions remove;
+    ExportOptions exported;
+    ImportOptions import;
+    std::string range = "all";
+    std::function<int(Console&)> command;  ///< the one that was chosen
+};
+
+/// Declares the commands. `Wishes` has to outlive the parser.
+class Parser {
+ public:
+    explicit Parser(Wishes& wishes)
+        : wishes_(wishes),
+          app_("Lists, solves, checks and makes bridges puzzles in collection files.", "tidewalk-cli") {
+        app_.set_version_flag("-v,--version", "tidewalk-cli " TIDEWALK_VERSION);
+        app_.require_subcommand(1);
+        app_.footer(
+            "A file name of \"-\" is the standard input or output.\n"
+            "Exit code: 0 done, 1 something failed or was refused, 2 wrong usage, 130 stopped with Ctrl-C.");
+        AddReaders();
+        AddCreate();
+        AddShow();
+        AddRewriters();
+        AddMovers();
+    }
+
+    CLI::App& App() { return app_; }
+
+ private:
+    template <class Options>
+    CLI::App* Command(const char* name, const char* text, Options& options, int (*run)(Console&, const Options&)) {
+        CLI::App* const command = app_.add_subcommand(name, text);
+        command->add_flag("--json", options.json, "Report in JSON");
+        command->callback([this, &options, run] {
+            wishes_.command = [&options, run](Console& console) { return run(console, options); };
+        });
+        return command;
+    }
+
+    static void AddFile(CLI::App* command, std::string& file, const char* text = "The collection") {
+        command->add_option("FILE", file, text)->required();
+    }
+
+    static void AddNumber(CLI::App* command, int& number) {
+        command->add_option("N", number, "The number of the puzzle in it")
+            ->required()
+            ->check(CLI::Range(1, kMostNumber));
+    }
+
+    static void AddJobs(CLI::App* command, int& jobs) {
+        command->add_option("--jobs", jobs, "How many puzzles to work on at the same time")
+            ->type_name("N")
+            ->check(CLI::Range(1, kMostJobs));
+    }
+
+    void AddReaders() {
+        AddFile(Command("list", "Print a line for every puzzle", wishes_.list, ListPuzzles), wishes_.list.file);
+
+        CLI::App* const solve = Command("solve", "Solve puzzles", wishes_.solve, SolvePuzzles);
+        AddFile(solve, wishes_.solve.file);
+        solve->add_option("RANGE", wishes_.range, "Which puzzles: N, A-B or all")->check([](const std::string& text) {
+            return ParsePuzzleRange(text) ? "" : "\"" + text + "\" is no number, no range A-B and not \"all\"";
+        });
+        solve->add_option("--out", wishes_.solve.out, "Write the solved records to this file")->type_name("FILE");
+        wishes_.solve.maxTrials = kDefaultTrials;
+        solve
+            ->add_option("--max-trials", wishes_.solve.maxTrials,
+                         "Give a puzzle up after so many trials; 0 is rules alone")
+            ->type_name("N")
+            ->capture_default_str()
+            ->check(CLI::Range(0, kMostNumber));
+        solve->add_flag("--links", wishes_.solve.links, "Print the bridges as id-id:count");
+        AddJobs(solve, wishes_.solve.jobs);
+
+        CLI::App* const check = Command("check", "Judge the stored bridges and whether there is exactly one solution",
+                                        wishes_.check, CheckPuzzles);
+        AddFile(check, wishes_.check.file);
+        wishes_.check.seconds = kDefaultSeconds;
+        check->add_option("--seconds", wishes_.check.seconds, "The time for each puzzle; past it, it is undecided")
+            ->type_name("S")
+            ->capture_default_str()
+            ->check(CLI::Range(0.0, kMostSeconds));
+        AddJobs(check, wishes_.check.jobs);
+    }
+
+    void AddCreate() {
+        CreateOptions& options = wishes_.create;
+        CLI::App* const create = Command("create", "Make puzzles and append them to a file", options, CreatePuzzles);
+        create->add_option("SIZE", options.size, "9, 9x12 or random; 7 to 25 rows and columns")->required();
+        create->add_option("--count", options.count, "How many puzzles")
+            ->type_name("N")
+            ->capture_default_str()
+            ->check(CLI::Range(1, kMostNumber));
+        create->add_option("--seed", options.seed, "The same seed makes the same puzzles")->type_name("S");
+        create->add_flag("--unique", options.unique, "Keep only puzzles with exactly one solution");
+        create->add_option("--out", options.out, "The file to append to")->type_name("FILE")->required();
+        AddJobs(create, options.jobs);
+    }
+
+    void AddShow() {
+        CLI::App* const show = Command("show", "Draw a puzzle in the terminal", wishes_.show, ShowPuzzle);
+        AddFile(show, wishes_.show.file);
+        AddNumber(show, wishes_.show.number);
+        show->add_flag("--solution", wishes_.show.solution, "With the stored bridges");
+    }
+
+    void AddRewriters() {
+        CLI::App* const shuffle =
+            Command("shuffle", "Write a collection in random order, without lines that it holds twice", wishes_.shuffle,
+                    ShuffleCollection);
+        AddFile(shuffle, wishes_.shuffle.file);
+        shuffle->add_option("--seed", wishes_.shuffle.seed, "The same seed gives the same order")->type_name("S");
+        AddFile(Command("convert", "Write a collection of the older layout as one of today's", wishes_.convert,
+                        ConvertCollection),
+                wishes_.convert.file);
+    }
+
+    void AddMovers() {
+        CLI::App* const append =
+            Command("append", "Append a puzzle to another collection", wishes_.append, AppendPuzzle);
+        AddFile(append, wishes_.append.file);
+        AddNumber(append, wishes_.append.number);
+        append->add_option("TARGET", wishes_.append.target, "The collection to append to")->required();
+
+        CLI::App* const remove = Command("delete", "Take a puzzle out of its collection", wishes_.remove, DeletePuzzle);
+        AddFile(remove, wishes_.remove.file);
+        AddNumber(remove, wishes_.remove.number);
+
+        CLI::App* const exported =
+            Command("export", "Write the bare numbers of a puzzle", wishes_.exported, ExportGrid);
+        AddFile(exported, wishes_.exported.file);
+        AddNumber(exported, wishes_.exported.number);
+        exported->add_option("GRID", wishes_.exported.grid, "The file to write; the standard output if not given");
+        exported->add_flag("--force", wishes_.exported.force, "Replace a file that is there");
+
+        CLI::App* const import = Command("import", "Append a bare grid to a collection", wishes_.import, ImportGrid);
+        import->add_option("GRID", wishes_.import.grid, "The file with the grid")->required();
+        import->add_option("TARGET", wishes_.import.target, "The collection to append to")->required();
+        import->add_option("--grid", wishes_.import.number, "Which grid of a file that holds several")
+            ->type_name("N")
+            ->check(CLI::Range(1, kMostNumber));
+    }
+
+    static constexpr int kDefaultTrials = 1000000;
+    static constexpr double kDefaultSeconds = 10;
+    static constexpr double kMostSeconds = 1e9;
+
+    Wishes& wishes_;
+    CLI::App app_;
+};
+
+/// What is wrong with options that do not go together; "" when all is well.
+std::string Contradiction(const Wishes& wishes) {
+    const bool solveToOutput = wishes.solve.out == kStandard;
+    if (solveToOutput && (wishes.solve.json || wishes.solve.links)) {
+        return "with --out - the standard output holds records; --json and --links have no place there";
+    }
+    const bool recordsToOutput = wishes.create.out == kStandard || wishes.append.target == kStandard ||
+                                 wishes.import.target == kStandard || wishes.shuffle.file == kStandard ||
+                                 wishes.convert.file == kStandard;
+    const bool json =
+        wishes.create.json || wishes.append.json || wishes.import.json || wishes.shuffle.json || wishes.convert.json;
+    const bool gridToOutput = wishes.exported.grid == kStandard && wishes.exported.json;
+    if ((recordsToOutput && json) || gridToOutput)
+        return "there is nothing to report with --json, the output is the result";
+    if (wishes.remove.file == kStandard) return "a puzzle can be deleted from a file only";
+    return "";
+}
+
+int WrongUsage(Console& console, const std::string& message) {
+    Say(console, message);
+    console.err << "Run with --help for more information.\n" << std::flush;
+    return kWrongUsage;
+}
+
+}  // namespace
+
+int RunCommandLine(Console& console, std::vector<std::string> arguments) {
+    try {
+        Wishes wishes;
+        Parser parser(wishes);
+        try {
+            // The parser takes the last one first.
+            std::reverse(arguments.begin(), arguments.end());
+            parser.App().parse(std::move(arguments));
+        } catch (const CLI::ParseError& error) {
+            if (error.get_exit_code() != 0) return WrongUsage(console, error.what());
+            return parser.App().exit(error, console.out, console.err);
+        }
+        wishes.solve.range = ParsePuzzleRange(wishes.range).value_or(PuzzleRange{});
+        if (const std::string wrong = Contradiction(wishes); !wrong.empty()) return WrongUsage(console, wrong);
+        return wishes.command(console);
+    } catch (const std::exception& error) {
+        // A file that was cut short by the signal is no news.
+        if (console.stopSignal == 0) Say(console, error.what());
+        return ExitCodeOf(console, 1);
+    }
+}
+
+}  // namespace tidewalk

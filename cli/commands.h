@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+// The commands of the console program, one function each.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "cli/console.h"
+#include "cli/puzzle_range.h"
+
+namespace tidewalk {
+
+// A file name of "-" is the standard input or output. Each function returns the program's exit code and throws
+// FileError when a file that it cannot do without cannot be read or written.
+
+struct ListOptions {
+    std::string file;
+    bool json = false;
+};
+/// Prints a line for every puzzle: number, size, islands, bridges and the state of its stored solution.
+int ListPuzzles(Console& console, const ListOptions& options);
+
+struct SolveOptions {
+    std::string file;
+    PuzzleRange range;
+    std::optional<std::string> out;  ///< where the solved records go
+    int maxTrials = 0;
+    int jobs = 1;
+    bool links = false;
+    bool json = false;
+};
+/// Solves puzzles and prints what each took.
+int SolvePuzzles(Console& console, const SolveOptions& options);
+
+struct CheckOptions {
+    std::string file;
+    double seconds = 0;  ///< the time for counting the solutions of one puzzle
+    int jobs = 1;
+    bool json = false;
+};
+/// Judges the stored bridges of every puzzle and tells whether it has exactly one solution.
+int CheckPuzzles(Console& console, const CheckOptions& options);
+
+struct CreateOptions {
+    std::string size;
+    int count = 1;
+    std::optional<std::uint64_t> seed;
+    bool unique = false;
+    std::string out;
+    int jobs = 1;
+    bool json = false;
+};
+/// Makes puzzles and appends them to a file.
+int CreatePuzzles(Console& console, const CreateOptions& options);
+
+struct ShowOptions {
+    std::string file;
+    int number = 1;
+    bool solution = false;
+    bool json = false;
+};
+/// Draws a puzzle with box characters.
+int ShowPuzzle(Console& console, const ShowOptions& options);
+
+struct ShuffleOptions {
+    std::string file;
+    std::optional<std::uint64_t> seed;
+    bool json = false;
+};
+/// Writes the distinct lines of a collection in random order to a file beside it.
+int ShuffleCollection(Console& console, const ShuffleOptions& options);
+
+struct ConvertOptions {
+    std::string file;
+    bool json = false;
+};
+/// Writes a collection of the older layout as one of today's to a file beside it.
+int ConvertCollection(Console& console, const ConvertOptions& options);
+
+struct AppendOptions {
+    std::string file;
+    int number = 1;
+    std::string target;
+    bool json = false;
+};
+/// Appends a puzzle of one collection to another.
+int AppendPuzzle(Console& console, const AppendOptions& options);
+
+struct DeleteOptions {
+    std::string file;
+    int number = 1;
+    bool json = false;
+};
+/// Takes a puzzle out of its collection.
+int DeletePuzzle(Console& console, const DeleteOptions& options);
+
+struct ExportOptions {
+    std::string file;
+    int number = 1;
+    std::string grid = kStandard;
+    bool force = false;
+    bool json = false;
+};
+/// Writes the bare numbers of a puzzle.
+int ExportGrid(Console& console, const ExportOptions& options);
+
+struct ImportOptions {
+    std::string grid;
+    int number = 1;
+    std::string target;
+    bool json = false;
+};
+/// Appends a bare grid to a collection as a puzzle without a stored solution.
+int ImportGrid(Console& console, const ImportOptions& options);
+
+}  // namespace tidewalk

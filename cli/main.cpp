@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+// The console program: its streams, and the signals that end it.
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/arguments.h"
+#include "cli/descriptor_buffers.h"
+
+namespace {
+
+/// A signal handler reaches nothing else.
+std::atomic<int> stopSignal = 0;
+static_assert(std::atomic<int>::is_always_lock_free);
+
+extern "C" void NoteSignal(int signal) {
+    stopSignal = signal;
+}
+
+void WatchSignals() {
+    struct sigaction action {};
+    action.sa_handler = NoteSignal;
+    // A second signal ends a run that the first one could not.
+    action.sa_flags = static_cast<int>(SA_RESETHAND);
+    for (const int signal : {SIGINT, SIGTERM})
+        sigaction(signal, &action, nullptr);
+    // Who started the program with nohup wants it to outlive the terminal.
+    struct sigaction before {};
+    sigaction(SIGHUP, nullptr, &before);
+    if (before.sa_handler != SIG_IGN) sigaction(SIGHUP, &action, nullptr);
+    // A reader that goes away shows when its pipe is written to.
+    std::signal(SIGPIPE, SIG_IGN);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    WatchSignals();
+    tidewalk::InputDescriptor inBuffer(STDIN_FILENO, stopSignal);
+    tidewalk::OutputDescriptor outBuffer(STDOUT_FILENO, stopSignal);
+    std::istream in(&inBuffer);
+    std::ostream out(&outBuffer);
+    tidewalk::Console console{
+        in, out, std::cerr, stopSignal, isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0,
+    };
+    const int code = tidewalk::RunCommandLine(console, {argv + 1, argv + argc});
+    out.flush();
+    if (outBuffer.Failure() == 0 || stopSignal != 0) return code;
+    // Who closes a pipe early has seen enough.
+    if (outBuffer.Failure() == EPIPE) return tidewalk::kStoppedBySignal + SIGPIPE;
+    tidewalk::Say(console, std::string("standard output: ") + std::strerror(outBuffer.Failure()));
+    return tidewalk::kFailed;
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+// Where commands write records: never half a record, never half a file in the place of a whole one.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "cli/console.h"
+#include "model/numbered_files.h"
+
+namespace tidewalk {
+
+/// Collects records and makes them the new content of a file at the end. For "-" each goes out at once.
+class RecordOutput {
+ public:
+    /// Without a path the records are dropped. Throws FileError for a path that no file can have, to say so before
+    /// hours of work are spent.
+    RecordOutput(Console& console, std::optional<std::string> path);
+
+    void Add(std::string_view record);
+
+    /// Replaces the file. Throws FileError when that fails; an older file is then as it was.
+    void Finish();
+
+ private:
+    Console& console_;
+    std::optional<std::string> path_;
+    std::string records_;
+};
+
+/// Appends records to a file, each as a whole before the next is made.
+class AppendedRecords {
+ public:
+    /// `path` "-" is the standard output. Throws FileError when the file cannot be written.
+    AppendedRecords(Console& console, std::string path);
+
+    /// Throws FileError when the record could not be written.
+    void Add(std::string_view record);
+
+ private:
+    Console& console_;
+    std::string path_;
+    NumberedFiles files_;
+};
+
+}  // namespace tidewalk

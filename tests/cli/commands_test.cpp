@@ -1,0 +1,237 @@
+// SPDX-License-Identifier: MIT
+// The commands, driven by their arguments.
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <random>
+#include <sstream>
+
+#include "cli/arguments.h"
+#include "cli/puzzle_range.h"
+#include "support/test_game.h"
+
+namespace tidewalk::test {
+namespace {
+
+using nlohmann::json;
+using Words = std::vector<std::string>;
+
+/// Runs commands in a folder of their own and keeps what the last one printed.
+class Cli : public ::testing::Test {
+ protected:
+    int Run(const Words& arguments, const std::string& input = "") {
+        std::istringstream in(input);
+        std::ostringstream out;
+        std::ostringstream err;
+        std::atomic<int> noSignal = 0;
+        Console console{in, out, err, noSignal};
+        const int code = RunCommandLine(console, arguments);
+        out_ = out.str();
+        err_ = err.str();
+        return code;
+    }
+
+    json RunJson(Words arguments) {
+        arguments.push_back("--json");
+        Run(arguments);
+        return json::parse(out_);
+    }
+
+    std::string File(const std::string& name, const Words& lines) const {
+        std::string bytes;
+        for (const std::string& line : lines)
+            bytes += line + "\r\n";
+        return folder_.Write(name, bytes);
+    }
+
+    TempFolder folder_;
+    std::string out_;
+    std::string err_;
+};
+
+// Four islands in a ring: 4-4/4-4 has one solution, and 2-2/2-2 one (two double bridges would be two groups).
+const std::string kRing = Record({"2-2", "|.|", "2-2"});
+const std::string kRingWithout = Record({"2.2", "...", "2.2"});
+const std::string kRingSplit = Record({"2=2", "...", "2=2"});
+const std::string kImpossible = Record({"1.2", "...", "2.2"});
+// The bridge that is single may lie on any side.
+const std::string kSeveral = Record({"3.3.2", ".....", "3.3.2"});
+
+TEST_F(Cli, ListTellsTheStateOfTheStoredBridges) {
+    const std::string file = File("c.txt", {kRing, "rubbish", kRingWithout, kRingSplit});
+    EXPECT_EQ(Run({"list", file}), 1);
+    EXPECT_EQ(out_,
+              "     1    3x3    4 islands    4 bridges  solution valid\n"
+              "     3    3x3    4 islands    0 bridges  solution none\n"
+              "     4    3x3    4 islands    4 bridges  solution wrong\n");
+    EXPECT_EQ(err_, "tidewalk-cli: " + file + ": puzzle 2: the line is no puzzle record\n");
+    const json listed = RunJson({"list", file});
+    ASSERT_EQ(listed.size(), 4U);
+    EXPECT_EQ(listed[0]["solution"], "valid");
+    EXPECT_EQ(listed[1]["error"], "the line is no puzzle record");
+    EXPECT_EQ(Run({"list", "-"}, kRing + "\n" + kRing), 0) << "line feeds alone, and a last line without an end";
+    EXPECT_EQ(Run({"list", File("empty.txt", {})}), 0);
+    EXPECT_EQ(RunJson({"list", File("empty.txt", {})}), json::array());
+}
+
+TEST_F(Cli, SolveGivesBridgesAndRecords) {
+    const std::string file = File("c.txt", {kRingWithout, kImpossible, Record({"...", "...", "..."})});
+    const json solved = RunJson({"solve", file, "--links", "--out", folder_.Path("s.txt")});
+    EXPECT_EQ(solved[0]["links"], json({"1-3:1", "1-7:1", "3-9:1", "7-9:1"}));
+    EXPECT_EQ(solved[0]["grade"], "Easy") << "the rules alone do not close a ring";
+    EXPECT_EQ(solved[1]["solved"], false);
+    EXPECT_EQ(solved[1]["grade"], nullptr);
+    EXPECT_EQ(solved[2]["error"], "the puzzle has no islands");
+    EXPECT_EQ(folder_.Read("s.txt"), " 3, 3, 8;D;2-2,|.|,2-2,\r\n");
+    EXPECT_EQ(Run({"solve", file, "--out", file}), 1);
+    EXPECT_EQ(Run({"list", file}), 0) << "the collection itself is not replaced";
+    EXPECT_EQ(Run({"solve", file, "1", "--out", "-"}), 0);
+    EXPECT_EQ(out_, folder_.Read("s.txt"));
+}
+
+TEST_F(Cli, MaxTrialsIsTheMostThatAreTried) {
+    const std::string all = std::string(TIDEWALK_DATA_DIR) + "/puzzles.txt";
+    const json solved = RunJson({"solve", all, "117-117"});
+    const int trials = solved[0]["trials"];
+    ASSERT_GT(trials, 1);
+    EXPECT_EQ(Run({"solve", all, "117", "--max-trials", std::to_string(trials)}), 0);
+    EXPECT_EQ(Run({"solve", all, "117", "--max-trials", std::to_string(trials - 1)}), 1);
+    EXPECT_NE(err_.find("puzzle 117: given up after " + std::to_string(trials - 1) + " trials"), std::string::npos);
+    EXPECT_EQ(Run({"solve", all, "117", "--max-trials", "0"}), 1);
+    EXPECT_EQ(Run({"solve", all, "1", "--max-trials", "0"}), 0) << "the rules alone solve it";
+}
+
+TEST_F(Cli, CheckCountsExactlyAndNeverGuesses) {
+    const std::string file = File("c.txt", {kRing, kRingWithout, kRingSplit, kImpossible, kSeveral});
+    EXPECT_EQ(Run({"check", file}), 1);
+    EXPECT_EQ(out_,
+              "     1    3x3  stored valid  solutions one\n"
+              "     2    3x3  stored none   solutions one\n"
+              "     3    3x3  stored wrong  solutions one\n"
+              "     4    3x3  stored none   solutions none\n"
+              "     5    3x5  stored none   solutions several\n");
+    EXPECT_EQ(Run({"check", File("good.txt", {kRing, kRingWithout})}), 0);
+    const json checked = RunJson({"check", File("s.txt", {kSeveral}), "--seconds", "0"});
+    EXPECT_EQ(checked[0]["solutions"], "undecided");
+    EXPECT_EQ(checked[0]["unique"], nullptr);
+}
+
+TEST_F(Cli, JobsDoNotChangeWhatIsMade) {
+    for (const char* const size : {"9", "random"}) {
+        for (const char* const jobs : {"1", "3"}) {
+            ASSERT_EQ(Run({"create", size, "--count", "20", "--seed", "5", "--unique", "--jobs", jobs, "--out",
+                           folder_.Path(std::string(size) + jobs)}),
+                      0);
+        }
+        EXPECT_EQ(folder_.Read(size + std::string("1")), folder_.Read(size + std::string("3")));
+        EXPECT_EQ(Run({"check", folder_.Path(size + std::string("1")), "--jobs", "2"}), 0) << "all are unique";
+    }
+    const std::string before = folder_.Read("91");
+    ASSERT_EQ(Run({"create", "7X10", "--out", folder_.Path("91")}), 0);
+    EXPECT_TRUE(folder_.Read("91").starts_with(before + " 7, 10,")) << "it is appended";
+    for (const char* const size : {"6", "26", "7x", "x", "abc", "9x99999999999"})
+        EXPECT_EQ(Run({"create", size, "--out", folder_.Path("no")}), 2) << size;
+    EXPECT_EQ(Run({"create", "7"}), 2) << "no file to write to";
+}
+
+TEST_F(Cli, PuzzlesMoveBetweenFilesAsInTheWindow) {
+    const std::string from = File("from.txt", {kRing, kSeveral});
+    const std::string to = folder_.Path("to.txt");
+    EXPECT_EQ(Run({"export", from, "1", folder_.Path("grid.txt")}), 0);
+    EXPECT_EQ(folder_.Read("grid.txt"), "2.2\r\n...\r\n2.2\r\n");
+    EXPECT_EQ(Run({"export", from, "2", folder_.Path("grid.txt")}), 1) << "there is something in it";
+    EXPECT_EQ(Run({"export", from, "2", folder_.Path("grid.txt"), "--force"}), 0);
+    EXPECT_EQ(Run({"import", folder_.Path("grid.txt"), to}), 0);
+    EXPECT_EQ(Run({"import", "-", to}, "2.2\n...\n2.2\n"), 0);
+    EXPECT_EQ(RunJson({"append", from, "1", to})["number"], 3);
+    EXPECT_EQ(Run({"import", File("none.txt", {"..."}), to}), 1);
+    EXPECT_EQ(Run({"delete", to, "4"}), 1);
+    EXPECT_EQ(RunJson({"delete", to, "1"})["left"], 2);
+    EXPECT_EQ(Run({"delete", to, "1"}), 0);
+    EXPECT_EQ(Run({"delete", to, "1"}), 1) << "the only one stays";
+    EXPECT_EQ(folder_.Read("to.txt"), " 3, 3, 4;D;2-2,|.|,2-2,\r\n");
+    EXPECT_FALSE(std::filesystem::exists(folder_.Path("tidetemp.tmp")));
+}
+
+TEST_F(Cli, ShuffledAndConvertedCopiesLieBesideTheCollection) {
+    EXPECT_EQ(Run({"shuffle", File("a.b.txt", {kRing, kSeveral, kRing}), "--seed", "1"}), 0);
+    EXPECT_EQ(RunJson({"list", folder_.Path("a.b-noduprandom.txt")}).size(), 2U);
+    const Words older{"#1", "D", "3,3,4", "2-2", "|.|", "2-2", "#end"};
+    File("old.x.txt", older);
+    EXPECT_EQ(Run({"convert", "./old.x.txt"}), 0) << "the dot of the folder is not that of the name";
+    EXPECT_EQ(folder_.Read("old-newformat.txt"), "3,3,4;D;2-2,|.|,2-2,\r\n");
+    EXPECT_EQ(Run({"convert", File("new.txt", {kRing, kRing, kRing, kRing, kRing})}), 1) << "not the older layout";
+    EXPECT_FALSE(std::filesystem::exists(folder_.Path("new-newformat.txt")));
+}
+
+TEST_F(Cli, ShowDrawsBridgesWithBoxCharacters) {
+    const std::string file = File("c.txt", {Record({"3=3", "|.|", "1.1"}), kRingWithout});
+    EXPECT_EQ(Run({"show", file, "1", "--solution"}), 0);
+    EXPECT_EQ(out_, "3═══3\n│ · │\n1 · 1\n");
+    EXPECT_EQ(Run({"show", file, "1"}), 0);
+    EXPECT_EQ(out_, "3 · 3\n· · ·\n1 · 1\n");
+    EXPECT_EQ(Run({"show", file, "2", "--solution"}), 1);
+    EXPECT_EQ(err_, "tidewalk-cli: " + file + ": puzzle 2: there are no stored bridges\n");
+    EXPECT_EQ(Run({"show", file, "3"}), 1);
+}
+
+TEST_F(Cli, WrongUsageIsTold) {
+    const std::string file = File("c.txt", {kRing});
+    const std::vector<Words> wrong{{},
+                                   {"list"},
+                                   {"sing", file},
+                                   {"list", file, "--loud"},
+                                   {"solve", file, "2-1"},
+                                   {"solve", file, "0"},
+                                   {"solve", file, "--jobs", "0"},
+                                   {"solve", file, "--out", "-", "--json"},
+                                   {"show", file, "x"},
+                                   {"delete", "-", "1"},
+                                   {"check", file, "--seconds", "-1"}};
+    for (const Words& arguments : wrong) {
+        EXPECT_EQ(Run(arguments), 2) << ::testing::PrintToString(arguments);
+        EXPECT_NE(err_.find("tidewalk-cli: "), std::string::npos);
+        EXPECT_EQ(out_, "");
+    }
+    EXPECT_EQ(Run({"solve", "--help"}), 0);
+    EXPECT_NE(out_.find("--max-trials"), std::string::npos);
+    EXPECT_EQ(Run({"solve", file, "1-5"}), 1) << "there are no puzzles 2 to 5";
+    EXPECT_NE(err_.find("puzzle 2: there is no such puzzle"), std::string::npos);
+}
+
+TEST_F(Cli, NoFileIsTooStrange) {
+    std::mt19937 random(3);
+    const std::string alphabet = "0123456789,;;,,.-=|I# \r\n\t\0x\xFF+eD";
+    for (int round = 0; round < 60; ++round) {
+        std::string bytes = round % 2 == 0 ? " 7, 7, 0;D;" : "#0707\n";
+        for (int i = 0; i < 400; ++i)
+            bytes += alphabet[random() % alphabet.size()];
+        const std::string file = folder_.Write("r.txt", bytes);
+        for (const char* const command : {"list", "solve", "check", "convert", "shuffle"})
+            EXPECT_LE(Run({command, file}), 1) << round;
+        for (const char* const command : {"show", "export"})
+            EXPECT_LE(Run({command, file, "1"}), 1) << round;
+        EXPECT_LE(Run({"import", file, "-"}), 1) << round;
+        RunJson({"list", file});
+    }
+    EXPECT_EQ(Run({"list", folder_.Write("long.txt", std::string(3'000'000, '1') + "\n" + kRing)}), 1);
+    EXPECT_EQ(out_, "     2    3x3    4 islands    4 bridges  solution valid\n");
+    for (const std::string& path : {folder_.Path("missing"), folder_.Path(""), std::string()}) {
+        EXPECT_EQ(Run({"list", path}), 1) << path;
+        EXPECT_EQ(Run({"shuffle", path}), 1) << path;
+        EXPECT_EQ(Run({"import", path, "-"}), 1) << path;
+        EXPECT_EQ(Run({"append", path, "1", "-"}), 1) << path;
+        EXPECT_NE(err_, "");
+    }
+}
+
+TEST(PuzzleRange, TakesNumbersRangesAndAll) {
+    EXPECT_EQ(ParsePuzzleRange("7"), (PuzzleRange{7, 7}));
+    EXPECT_EQ(ParsePuzzleRange("3-9"), (PuzzleRange{3, 9}));
+    EXPECT_EQ(ParsePuzzleRange("all"), PuzzleRange{});
+    for (const char* const text : {"", "0", "-", "3-", "-3", "9-3", "1-2-3", "1 ", "x", "99999999999"})
+        EXPECT_FALSE(ParsePuzzleRange(text)) << text;
+}
+
+}  // namespace
+}  // namespace tidewalk::test
