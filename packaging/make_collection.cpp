@@ -16,7 +16,7 @@
 #include "model/job.h"
 #include "model/replace_file.h"
 #include "model/write_puzzle_record.h"
-#include "program/quiet_game.h"
+#include "program/headless.h"
 #include "solver/count_solutions.h"
 #include "solver/valid_solution.h"
 
@@ -62,7 +62,7 @@ Made MakeOne(Game& game, const Wanted& wanted) {
 }
 
 std::vector<Made> MakeAll(std::uint64_t seed) {
-    const auto game = std::make_unique<QuietGame>();
+    const auto game = std::make_unique<HeadlessGame>();
     game->random.UseSeed(seed);
     const Job job(*game);
     std::vector<Made> puzzles;
