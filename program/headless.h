@@ -50,17 +50,6 @@ class HeadlessWorld final : public Prompts,
         if (onEvents) onEvents();
     }
 
-    std::string Text() override { return ""; }
-    bool SetPicture(const DrawFunction& /*draw*/) override { return false; }
-    std::vector<std::string> Names() override { return {}; }
-    std::unique_ptr<PrintDocument> Begin(const std::string& /*printer*/, const std::string& /*file*/,
-                                         std::string& error) override {
-        error = "There is no printer.";
-        return nullptr;
-    }
-    void Preview(const std::string& /*printer*/, const PageFunction& /*draw*/) override {}
-    void ShowModal(Form5Fields& /*fields*/) override {}
-
     std::string Text(Control control) const override {
         const auto found = texts_.find(control);
         return found == texts_.end() ? "" : found->second;
