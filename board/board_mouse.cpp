@@ -76,6 +76,7 @@ CellPlace CellUnder(const Game& game, Point point) {
 }
 
 void Picture1_MouseDown(Game& game, MouseButton button, Point cursor) {
+    game.focusShows = false;
     game.dragging = !JobRuns(game) && button == MouseButton::Left;
     if (!game.dragging) return;
     game.DragOffsetX = RoundHalfEven(cursor.x - game.Picture1.left);
@@ -105,6 +106,9 @@ void Picture1_MouseUp(Game& game, MouseButton button, bool shiftOnly, Point poin
     if (!game.OnBoard(row, col) || game.IslandGrid(row, col) < 1) return;
     const CellNumber released = game.CellId(row, col);
     const CellNumber anchor = AnchorId(game);
+    // Whoever goes on with the keyboard begins where the mouse was last.
+    game.FocusRow = row;
+    game.FocusCol = col;
     if (shiftOnly) {
         ReleaseWithShift(game, anchor, released);
     } else if (button == MouseButton::Right && anchor != 0) {

@@ -8,8 +8,15 @@ namespace tidewalk {
 
 namespace {
 
-/// The bridges that end at the island `id`. Only cells of its row and its column can be joined to it.
+std::string CountLine(CellPlace place, int number, int bridges) {
+    return Format(place.row, "00") + " " + Format(place.col, "00") + " " + Format(number, "000") +
+           " links=" + Format(bridges, "00");
+}
+
+}  // namespace
+
 int CountBridges(const Game& game, CellNumber id) {
+    // Only cells of its row and its column can be joined to an island.
     const auto [row, col] = game.PlaceOf(id);
     int count = 0;
     for (int other = 1; other <= game.Cols; ++other)
@@ -19,13 +26,6 @@ int CountBridges(const Game& game, CellNumber id) {
     }
     return count;
 }
-
-std::string CountLine(CellPlace place, int number, int bridges) {
-    return Format(place.row, "00") + " " + Format(place.col, "00") + " " + Format(number, "000") +
-           " links=" + Format(bridges, "00");
-}
-
-}  // namespace
 
 std::optional<CellPlace> CheckBridgeCounts(Game& game) {
     game.List1.Clear();

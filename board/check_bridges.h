@@ -8,6 +8,9 @@
 
 namespace tidewalk {
 
+/// The bridges of the player that end at the island `id`.
+int CountBridges(const Game& game, CellNumber id);
+
 /// The place of the first island, row by row, whose bridges are not as many as its number; nothing when all are right.
 /// Crossings and connections are not looked at. `List1` then tells what was counted.
 std::optional<CellPlace> CheckBridgeCounts(Game& game);

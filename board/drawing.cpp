@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "board/check_bridges.h"
 #include "board/layout.h"
 #include "model/contrast.h"
 #include "model/numbers.h"
@@ -57,10 +58,45 @@ void DrawPlacedBridge(Game& game, CellNumber a, CellNumber b) {
     DrawIsland(game, b);
 }
 
+/// The island's shape around its position, `half` twips to each side of a circle and three quarters of that of a
+/// square.
+void DrawShape(Game& game, CellNumber id, double half, Colour colour) {
+    Surface& picture = game.pictures.Picture1();
+    const double x = game.IslandX[id];
+    const double y = game.IslandY[id];
+    if (game.NodeShape == 1) {
+        picture.Circle(x, y, half, colour, colour);
+    } else {
+        const double side = half - half / 4;
+        picture.FilledBox(x - side, y - side, x + side, y + side, colour);
+    }
+}
+
+/// What the number stands on, after the island's shape is drawn: the shape's colour, or that of the pale inside which
+/// the player may wish for islands that have all their bridges. The rim stays, so that a later move covers all of it.
+Colour DrawIslandShape(Game& game, CellNumber id) {
+    DrawShape(game, id, game.HalfCell, game.NodeColour);
+    if (game.ShowFinished == 0 || CountBridges(game, id) != game.IslandAt(id)) return game.NodeColour;
+    constexpr double kRim = 0.12;
+    constexpr double kPaleness = 0.8;
+    const Colour pale = Mixed(game.NodeColour, game.Picture1BackColor, kPaleness);
+    DrawShape(game, id, game.HalfCell * (1 - kRim), pale);
+    return pale;
+}
+
+/// A number in the very colour of its island would be invisible, and the default options make both black. On the pale
+/// inside of a finished island hardly any of the players' colours can be read.
+Colour NumberColour(const Game& game, Colour under) {
+    if (under != game.NodeColour) return LegibleOn(under, game.NodeColour, kShapeContrast);
+    return game.GivenColour == under ? LegibleOn(under, game.GivenColour) : game.GivenColour;
+}
+
 }  // namespace
 
 void RedrawBoard(Game& game, bool showSolution) {
     Surface& picture = game.pictures.Picture1();
+    // The stored solution has nothing to do with how far the player is.
+    const int finished = std::exchange(game.ShowFinished, showSolution ? 0 : game.ShowFinished);
     picture.Clear(game.Picture1BackColor);
     DrawCellOutlines(game);
     DrawOpenNeighbours(game);
@@ -68,6 +104,7 @@ void RedrawBoard(Game& game, bool showSolution) {
     for (CellNumber id = 1; id <= game.CellCount; ++id)
         DrawIsland(game, id);
     if (!showSolution) DrawPlacedBridges(game);
+    game.ShowFinished = finished;
 }
 
 void ShowSolution(Game& game) {
@@ -94,20 +131,10 @@ void DrawIsland(Game& game, CellNumber id) {
     Surface& picture = game.pictures.Picture1();
     const std::string text = NumText(number);
     const Surface::Extent extent = picture.TextExtent(text);
-    const double x = game.IslandX[id];
-    const double y = game.IslandY[id];
-    const double half = game.HalfCell;
-    const int dx = RoundHalfEven((game.CellSize - extent.width) / 2 - half);
-    const int dy = RoundHalfEven((game.CellSize - extent.height) / 2 - half);
-    if (game.NodeShape == 1) {
-        picture.Circle(x, y, half, game.NodeColour, game.NodeColour);
-    } else {
-        const double side = half - half / 4;
-        picture.FilledBox(x - side, y - side, x + side, y + side, game.NodeColour);
-    }
-    // A number in the very colour of its island would be invisible, and the default options make both black.
-    const bool same = game.GivenColour == game.NodeColour;
-    picture.Print(x + dx, y + dy, text, same ? LegibleOn(game.NodeColour, game.GivenColour) : game.GivenColour);
+    const int dx = RoundHalfEven((game.CellSize - extent.width) / 2 - game.HalfCell);
+    const int dy = RoundHalfEven((game.CellSize - extent.height) / 2 - game.HalfCell);
+    const Colour under = DrawIslandShape(game, id);
+    picture.Print(game.IslandX[id] + dx, game.IslandY[id] + dy, text, NumberColour(game, under));
 }
 
 void DrawLinkLine(Game& game, CellNumber a, CellNumber b) {

@@ -84,7 +84,10 @@ struct BoardState {
     int HoverCol = 0;
     int AnchorRow = 0;  ///< the selected island; 0 or -1 for none
     int AnchorCol = 0;
-    int DragOffsetX = 0;  ///< the pointer less the board's corner when the left button went down, in twips
+    int FocusRow = 0;  ///< the island with the keyboard's focus; 0 for none
+    int FocusCol = 0;
+    bool focusShows = false;  ///< the last move on the board was made with a key
+    int DragOffsetX = 0;      ///< the pointer less the board's corner when the left button went down, in twips
     int DragOffsetY = 0;
     bool dragging = false;  ///< the offsets are those of the button that is down now
 

@@ -25,6 +25,13 @@ double Contrast(Colour a, Colour b) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
+Colour Mixed(Colour a, Colour b, double share) {
+    const auto channel = [share](int from, int to) {
+        return static_cast<int>(std::lround(from + (to - from) * share));
+    };
+    return Rgb(channel(RedOf(a), RedOf(b)), channel(GreenOf(a), GreenOf(b)), channel(BlueOf(a), BlueOf(b)));
+}
+
 Colour LegibleOn(Colour background, Colour wanted, double ratio) {
     if (Contrast(background, wanted) >= ratio) return wanted;
     return Contrast(background, kBlack) >= Contrast(background, kWhite) ? kBlack : kWhite;

@@ -19,6 +19,7 @@ void ResetWorkAreas(Game& game) {
     ++game.undoRevision;
     game.HoverRow = game.HoverCol = 0;
     game.AnchorRow = game.AnchorCol = 0;
+    game.FocusRow = game.FocusCol = 0;
     game.Line1.visible = false;
     game.Shape1.visible = false;
     game.pictures.EnableTimer1(false);

@@ -76,6 +76,7 @@ OptionsForm OpenOptions(const Game& game) {
     form.Text3 = NumText(game.PrintLineWidth);
     form.Option2 = game.NodeShape == 1;
     form.Check1 = game.ShowLines != 0;
+    form.Check2 = game.ShowFinished != 0;
     return form;
 }
 
@@ -114,6 +115,7 @@ void command1_Click(Game& game, const OptionsForm& form) {
     game.NodeColour = form.Label2;
     game.NodeShape = form.Option2 ? 1 : 0;
     game.ShowLines = form.Check1 ? 1 : 0;
+    game.ShowFinished = form.Check2 ? 1 : 0;
     const int width = RoundedVal(form.Text3);
     if (width >= 1) game.PrintLineWidth = std::min(width, kWidestPrintLine);
     ApplyColourScheme(game);
@@ -126,6 +128,7 @@ void reset_Click(Game& game, OptionsForm& form) {
     form.Line1 = form.Line2 = form.Label1 = form.Label2 = kBlack;
     form.Option2 = false;
     form.Check1 = true;
+    form.Check2 = false;
     command1_Click(game, form);
 }
 

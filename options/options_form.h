@@ -23,6 +23,7 @@ struct OptionsForm {
     std::string Text3;                 ///< the line width of printed bridges
     bool Option2 = false;              ///< "Circle"; otherwise "Square"
     bool Check1 = true;                ///< show the lines between cells
+    bool Check2 = false;               ///< draw islands with all their bridges paler
 
     /// What the board's background would be.
     Colour BoardBackground() const { return draft.SchemeColours[kBackgroundEntry]; }

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "ui/board_pictures.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <array>
 #include <cmath>
+#include <map>
 #include <optional>
 
+#include "board/board_keys.h"
 #include "board/check_bridges.h"
 #include "board/drawing.h"
 #include "board/layout.h"
@@ -25,6 +29,29 @@ std::optional<MouseButton> ButtonOf(Qt::MouseButton button) {
     if (button == Qt::RightButton) return MouseButton::Right;
     if (button == Qt::MiddleButton) return MouseButton::Middle;
     return std::nullopt;
+}
+
+/// What a key asks of the board; nothing for keys that belong to others.
+std::optional<BoardKey> BoardKeyOf(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    const bool shift = modifiers == Qt::ShiftModifier;
+    if (modifiers != Qt::NoModifier && !shift) return std::nullopt;
+    switch (event.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            return shift ? BoardKey::LayDouble : BoardKey::Lay;
+        default:
+            break;
+    }
+    static const std::map<int, BoardKey> keys{
+        {Qt::Key_Left, BoardKey::Left},       {Qt::Key_Right, BoardKey::Right},   {Qt::Key_Up, BoardKey::Up},
+        {Qt::Key_Down, BoardKey::Down},       {Qt::Key_Home, BoardKey::First},    {Qt::Key_End, BoardKey::Last},
+        {Qt::Key_PageUp, BoardKey::Previous}, {Qt::Key_PageDown, BoardKey::Next}, {Qt::Key_Delete, BoardKey::Remove},
+        {Qt::Key_Backspace, BoardKey::Remove}};
+    const auto found = keys.find(event.key());
+    if (found == keys.end() || shift) return std::nullopt;
+    return found->second;
 }
 
 Point Twips(const QPointF& pixels) {
@@ -48,9 +75,12 @@ BoardView::BoardView(Handlers& handlers, QWidget* parent)
     : QWidget(parent), handlers_(handlers), surface_(kScreenPixelsPerInch, kTwipsPerPixel) {
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
+    setAccessibleDescription(tr("The arrow keys go from island to island, Enter selects one and lays bridges"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    BoardAccessible::Install();
+    connect(&handlers_, &Handlers::Changed, this, [this] { announcer_.Announce(*this); });
 }
 
 void BoardView::Place() {
@@ -94,6 +124,7 @@ void BoardView::paintEvent(QPaintEvent* event) {
     painter.drawPixmap(0, 0, backing_);
     painter.setRenderHint(QPainter::Antialiasing);
     if (game->Line1.visible) PaintLine1(painter, *game);
+    if (hasFocus() && game->focusShows && !JobRuns(*game)) PaintFocus(painter, *game);
     if (game->Shape1.visible) PaintShape1(painter, *game);
 }
 
@@ -115,6 +146,28 @@ void BoardView::PaintLine1(QPainter& painter, const Game& game) const {
     painter.drawEllipse(from, radius, radius);
     painter.setPen(QPen(ToQColor(game.ChainColour), 2));
     painter.drawEllipse(from, radius, radius);
+}
+
+/// The corners of a frame around the island: they leave the bridges free, and the ring of a selected island shows too.
+void BoardView::PaintFocus(QPainter& painter, const Game& game) const {
+    const CellNumber id = FocusedIsland(game);
+    if (id == 0) return;
+    const QPointF middle(Pixels(game.IslandX[id]), Pixels(game.IslandY[id]));
+    const double half = Pixels(game.HalfCell) + 2;
+    const double arm = half * 0.6;
+    painter.setBrush(Qt::NoBrush);
+    const QColor highlight = palette().color(QPalette::Highlight);
+    for (const auto& [colour, width] : {std::pair{ToQColor(game.Picture1BackColor), 6}, std::pair{highlight, 3}}) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        for (const int down : {-1, 1}) {
+            for (const int right : {-1, 1}) {
+                const QPointF corner = middle + QPointF(right * half, down * half);
+                const std::array<QPointF, 3> bend{corner - QPointF(right * arm, 0), corner,
+                                                  corner - QPointF(0, down * arm)};
+                painter.drawPolyline(bend.data(), static_cast<int>(bend.size()));
+            }
+        }
+    }
 }
 
 /// A frame in two colours shows on any background.
@@ -171,6 +224,41 @@ void BoardView::enterEvent(QEnterEvent* event) {
     if (!takesMouse_) return;
     const QPointF global = event->globalPosition();
     handlers_.Run([&](Game& game) { Picture1_MouseMove(game, false, OnBoard(global), InContainer(global)); });
+}
+
+/// The board's keys are no shortcuts while it has the focus.
+bool BoardView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && BoardKeyOf(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void BoardView::keyPressEvent(QKeyEvent* event) {
+    const auto key = BoardKeyOf(*event);
+    if (!key) return QWidget::keyPressEvent(event);
+    event->accept();
+    // A key that is held down walks over the board, but lays one bridge.
+    const bool moves = *key != BoardKey::Lay && *key != BoardKey::LayDouble && *key != BoardKey::Remove;
+    if (!takesMouse_ || (event->isAutoRepeat() && !moves)) return;
+    handlers_.Run([&](Game& game) { Picture1_KeyDown(game, *key); });
+}
+
+void BoardView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    const bool byKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+    announcer_.ForgetFocus();
+    // Only the Tab key comes to play; a window that becomes active again shows no more than it did.
+    if (byKey && takesMouse_) handlers_.Run(Picture1_GotFocus);
+    announcer_.Announce(*this);
+    update();
+}
+
+void BoardView::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
 }
 
 BoardContainer::BoardContainer(Handlers& handlers, QWidget* parent)

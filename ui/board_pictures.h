@@ -7,13 +7,14 @@
 #include <QWidget>
 
 #include "board/board_mouse.h"
+#include "ui/board_accessible.h"
 #include "ui/handlers.h"
 #include "ui/qt_surface.h"
 
 namespace tidewalk {
 
-/// The board. What is drawn lies in a backing picture at the screen's pixel ratio; the rubber band and the marker are
-/// painted over it from the game's state.
+/// The board. What is drawn lies in a backing picture at the screen's pixel ratio; the rubber band, the marker and the
+/// keyboard's focus are painted over it from the game's state.
 class BoardView final : public QWidget {
     Q_OBJECT
 
@@ -21,11 +22,12 @@ class BoardView final : public QWidget {
     BoardView(Handlers& handlers, QWidget* parent);
 
     Surface& Drawing() { return surface_; }
+    Handlers& Source() const { return handlers_; }
 
     /// Takes its place in the container from the game, with a new backing picture if the size is another one.
     void Place();
 
-    /// While switched off the board takes no mouse.
+    /// While switched off the board takes neither mouse nor keys.
     void SetTakesMouse(bool takes) { takesMouse_ = takes; }
 
  protected:
@@ -34,9 +36,14 @@ class BoardView final : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
 
  private:
     void FitBacking();
+    void PaintFocus(QPainter& painter, const Game& game) const;
     void PaintLine1(QPainter& painter, const Game& game) const;
     void PaintShape1(QPainter& painter, const Game& game) const;
     Point OnBoard(const QPointF& global) const;
@@ -45,6 +52,7 @@ class BoardView final : public QWidget {
     Handlers& handlers_;
     QPixmap backing_;
     QtSurface surface_;
+    IslandAnnouncer announcer_;
     bool takesMouse_ = true;
 };
 

@@ -15,6 +15,7 @@
 #include "model/config_file.h"
 #include "model/convert_layout.h"
 #include "model/read_grid_file.h"
+#include "program/escape.h"
 #include "program/exit.h"
 #include "solver/auto_solve.h"
 #include "ui/about.h"
@@ -263,7 +264,7 @@ std::vector<Command> SolveCommands() {
          .text = "Cancel",
          .icon = "cancel",
          .keys = Keys("Esc"),
-         .handler = Do<cmdcancel_Click>},
+         .handler = Do<can2_Click>},
     };
 }
 

@@ -36,12 +36,14 @@ Form2::Form2(Handlers& handlers, QWidget* parent)
       text3_(new QLineEdit),
       option1_(new QRadioButton("Square")),
       option2_(new QRadioButton("Circle")),
-      check1_(new QCheckBox("Show")) {
+      check1_(new QCheckBox("Show")),
+      check2_(new QCheckBox(tr("Paler"))) {
     setObjectName("Form2");
     setWindowTitle("Tide Options");
     auto* const small = new QHBoxLayout;
     small->addWidget(NodeShapeBox());
     small->addWidget(LinesBox());
+    small->addWidget(FinishedBox());
     small->addWidget(PrintBox());
     auto* const all = new QVBoxLayout(this);
     all->addWidget(SchemeBox());
@@ -138,6 +140,16 @@ QWidget* Form2::LinesBox() {
     return box;
 }
 
+QWidget* Form2::FinishedBox() {
+    auto* const box = new QGroupBox(tr("Finished islands"));
+    auto* const layout = new QVBoxLayout(box);
+    check2_->setObjectName("Check2");
+    check2_->setToolTip(ToolTipText("Show islands with all their bridges paler|Off again at the next start"));
+    layout->addWidget(check2_);
+    layout->addStretch();
+    return box;
+}
+
 QWidget* Form2::PrintBox() {
     auto* const box = new QGroupBox(tr("Printed line width"));
     auto* const layout = new QVBoxLayout(box);
@@ -190,6 +202,7 @@ void Form2::TakeControls() {
     form_.Text3 = text3_->text().toStdString();
     form_.Option2 = option2_->isChecked();
     form_.Check1 = check1_->isChecked();
+    form_.Check2 = check2_->isChecked();
 }
 
 void Form2::ShowForm() {
@@ -200,6 +213,7 @@ void Form2::ShowForm() {
     option1_->setChecked(!form_.Option2);
     option2_->setChecked(form_.Option2);
     check1_->setChecked(form_.Check1);
+    check2_->setChecked(form_.Check2);
     const Colour background = form_.BoardBackground();
     line1_->Show(form_.Line1, background, form_.Label2, form_.Option2);
     line2_->Show(form_.Line2, background, form_.Label2, form_.Option2);

@@ -38,6 +38,7 @@ class Form2 final : public QDialog {
     QWidget* ColoursBox();
     QWidget* NodeShapeBox();
     QWidget* LinesBox();
+    QWidget* FinishedBox();
     QWidget* PrintBox();
     QLayout* ButtonRow();
     QPushButton* AddButton(const char* name, const QString& text, const QString& toolTip);
@@ -59,6 +60,7 @@ class Form2 final : public QDialog {
     QRadioButton* option1_;
     QRadioButton* option2_;
     QCheckBox* check1_;
+    QCheckBox* check2_;
 };
 
 }  // namespace tidewalk

@@ -91,14 +91,17 @@ TEST_F(OptionsTest, ResetGoesBackToTheDefaultsAndTheNumbersCanBeReadAllTheSame) 
     OptionsForm form = OpenOptions(game);
     Combo1_Click(game, form, "dusk");
     form.Option2 = true;
+    form.Check2 = true;
     command1_Click(game, form);
     form = OpenOptions(game);
+    EXPECT_TRUE(form.Check2);
     game.pictures.surface.calls.clear();
     reset_Click(game, form);
     EXPECT_EQ(game.ColourSchemeName, "xp.col");
     EXPECT_EQ(game.SchemeColours[kAdjustedEntry], game.SchemeColours[kFaceEntry]);
     EXPECT_EQ(game.NodeShape, 0);
     EXPECT_EQ(game.ShowLines, 1);
+    EXPECT_EQ(game.ShowFinished, 0);
     EXPECT_EQ(game.PrintLineWidth, 4);
     EXPECT_EQ(game.NodeColour, kBlack);
     EXPECT_EQ(game.GivenColour, kBlack);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
@@ -92,6 +93,27 @@ TEST(OptionsWindow, ClosingLeavesEverythingAsItWas) {
         EXPECT_EQ(window.game().SchemeColours, before.SchemeColours);
         EXPECT_EQ(window.game().NodeColour, before.NodeColour);
     }
+}
+
+TEST(OptionsWindow, FinishedIslandsLookFinishedOnlyWhenThePlayerWishesIt) {
+    WindowGame window({Record({"2...2", ".....", "....."})});
+    const QPoint corner = window.IslandAt(1, 5) - QPoint(1, 1) * qRound(window.game().HalfCell / kTwipsPerPixel * 0.5);
+    const QColor plain = window.ColourAt(corner);
+    for (int bridge = 0; bridge < 2; ++bridge) {
+        window.ClickIsland(1, 1);
+        window.ClickIsland(1, 5);
+    }
+    EXPECT_EQ(window.ColourAt(corner), plain);
+    InWindow(window, "mnuoptset", "Form2", [](QWidget& form2) {
+        auto& box = Of<QCheckBox>(form2, "Check2");
+        EXPECT_FALSE(box.isChecked());
+        box.click();
+        Press(form2, "command1");
+    });
+    EXPECT_GT(window.ColourAt(corner).lightness(), plain.lightness() + 50);
+    window.ClickIsland(1, 1);
+    window.ClickIsland(1, 5, Qt::RightButton);
+    EXPECT_EQ(window.ColourAt(corner), plain);
 }
 
 TEST(OptionsWindow, AColourIsCopiedOnceOneWasPicked) {

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#include "program/escape.h"
+
+#include "board/board_keys.h"
+#include "generator/new_puzzle.h"
+
+namespace tidewalk {
+
+void can2_Click(Game& game) {
+    if (!DropSelection(game)) cmdcancel_Click(game);
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: MIT
+#include "ui/board_accessible.h"
+
+#include <QPointer>
+#include <QWindow>
+#include <algorithm>
+
+#include "board/board_keys.h"
+#include "board/board_mouse.h"
+#include "board/check_bridges.h"
+#include "model/job.h"
+#include "ui/board_pictures.h"
+
+namespace tidewalk {
+
+namespace {
+
+/// The board's game while its islands are the player's, otherwise nothing.
+Game* QuietGame(const BoardView* board) {
+    Game* const game = board == nullptr ? nullptr : board->Source().game();
+    return game == nullptr || JobRuns(*game) ? nullptr : game;
+}
+
+/// One island of one puzzle. It stays behind as an invalid one when that puzzle is gone.
+class IslandAccessible final : public QAccessibleInterface, public QAccessibleActionInterface {
+ public:
+    IslandAccessible(BoardView* board, CellNumber id, int loadCount) : board_(board), id_(id), loadCount_(loadCount) {}
+
+    CellNumber Id() const { return id_; }
+
+    bool isValid() const override { return Current() != nullptr; }
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override { return board_ == nullptr ? nullptr : board_->window()->windowHandle(); }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(board_); }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    void setText(QAccessible::Text, const QString&) override {}
+    QAccessible::Role role() const override { return QAccessible::Button; }
+
+    QString text(QAccessible::Text what) const override {
+        const Game* const game = Current();
+        return game != nullptr && what == QAccessible::Name ? IslandName(*game, id_) : QString();
+    }
+
+    QRect rect() const override {
+        const Game* const game = Current();
+        if (game == nullptr) return {};
+        const auto pixels = [](double twips) { return qRound(twips / kTwipsPerPixel); };
+        const QPoint corner(pixels(game->IslandX[id_] - game->HalfCell), pixels(game->IslandY[id_] - game->HalfCell));
+        return {board_->mapToGlobal(corner), QSize(pixels(game->CellSize), pixels(game->CellSize))};
+    }
+
+    QAccessible::State state() const override {
+        QAccessible::State state;
+        const Game* const game = Current();
+        state.invalid = game == nullptr;
+        if (game == nullptr) return state;
+        state.focusable = true;
+        state.selectable = true;
+        state.focused = board_->hasFocus() && FocusedIsland(*game) == id_;
+        state.selected = game->PlaceOf(id_) == CellPlace{game->AnchorRow, game->AnchorCol};
+        return state;
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+    }
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+    void doAction(const QString& name) override {
+        if (Current() == nullptr) return;
+        board_->setFocus(Qt::OtherFocusReason);
+        board_->Source().Run([&](Game& game) {
+            FocusIsland(game, id_);
+            if (name == pressAction()) Picture1_KeyDown(game, BoardKey::Lay);
+        });
+    }
+
+ private:
+    /// The game, if the island is still on its board.
+    const Game* Current() const {
+        const Game* const game = QuietGame(board_);
+        return game != nullptr && game->loadCount == loadCount_ && game->IslandAt(id_) > 0 ? game : nullptr;
+    }
+
+    QPointer<BoardView> board_;
+    CellNumber id_;
+    int loadCount_;
+};
+
+void Tell(QAccessibleInterface* island, QAccessible::Event what) {
+    if (island == nullptr) return;
+    QAccessibleEvent event(island, what);
+    QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace
+
+QString IslandName(const Game& game, CellNumber id) {
+    const auto [row, col] = game.PlaceOf(id);
+    return QObject::tr("row %1, column %2, needs %3, has %4")
+        .arg(row)
+        .arg(col)
+        .arg(game.IslandAt(id))
+        .arg(CountBridges(game, id));
+}
+
+BoardAccessible::BoardAccessible(BoardView* board) : QAccessibleWidget(board, QAccessible::Grouping), board_(board) {}
+
+BoardAccessible::~BoardAccessible() {
+    ForgetIslands();
+}
+
+void BoardAccessible::Install() {
+    static const bool once = [] {
+        QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
+            auto* const board = qobject_cast<BoardView*>(object);
+            return board == nullptr ? nullptr : new BoardAccessible(board);
+        });
+        return true;
+    }();
+    Q_UNUSED(once);
+}
+
+void BoardAccessible::ForgetIslands() const {
+    const auto ids = std::exchange(islands_, {});
+    for (const QAccessible::Id id : ids)
+        QAccessible::deleteAccessibleInterface(id);
+}
+
+std::vector<CellNumber> BoardAccessible::Islands() const {
+    std::vector<CellNumber> found;
+    const Game* const game = QuietGame(board_);
+    if (game == nullptr) return found;
+    for (CellNumber id = 1; id <= game->CellCount; ++id) {
+        if (game->IslandAt(id) > 0) found.push_back(id);
+    }
+    return found;
+}
+
+QAccessibleInterface* BoardAccessible::Island(CellNumber id) const {
+    const Game* const game = QuietGame(board_);
+    if (game == nullptr || id < 1 || id > game->CellCount || game->IslandAt(id) <= 0) return nullptr;
+    if (loadCount_ != game->loadCount) {
+        ForgetIslands();
+        loadCount_ = game->loadCount;
+    }
+    const auto known = islands_.constFind(id);
+    if (known != islands_.constEnd()) return QAccessible::accessibleInterface(*known);
+    auto* const made = new IslandAccessible(board_, id, loadCount_);
+    islands_.insert(id, QAccessible::registerAccessibleInterface(made));
+    return made;
+}
+
+int BoardAccessible::childCount() const {
+    return static_cast<int>(Islands().size());
+}
+
+QAccessibleInterface* BoardAccessible::child(int index) const {
+    const std::vector<CellNumber> all = Islands();
+    return index >= 0 && index < static_cast<int>(all.size()) ? Island(all[static_cast<std::size_t>(index)]) : nullptr;
+}
+
+int BoardAccessible::indexOfChild(const QAccessibleInterface* child) const {
+    const auto* const island = dynamic_cast<const IslandAccessible*>(child);
+    const std::vector<CellNumber> all = Islands();
+    const auto found = island == nullptr ? all.end() : std::find(all.begin(), all.end(), island->Id());
+    return found == all.end() ? -1 : static_cast<int>(found - all.begin());
+}
+
+QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
+    const Game* const game = QuietGame(board_);
+    if (game == nullptr) return nullptr;
+    const QPoint at = board_->mapFromGlobal(QPoint(x, y));
+    const CellPlace cell = CellUnder(*game, {at.x() * kTwipsPerPixel, at.y() * kTwipsPerPixel});
+    return game->OnBoard(cell.row, cell.col) ? Island(game->CellId(cell.row, cell.col)) : nullptr;
+}
+
+QAccessibleInterface* BoardAccessible::focusChild() const {
+    const Game* const game = QuietGame(board_);
+    QAccessibleInterface* const island = game != nullptr && board_->hasFocus() ? Island(FocusedIsland(*game)) : nullptr;
+    return island != nullptr ? island : QAccessibleWidget::focusChild();
+}
+
+void IslandAnnouncer::Announce(BoardView& view) {
+    const Game* const game = QuietGame(&view);
+    if (game == nullptr || !QAccessible::isActive()) return;
+    const auto* const board = dynamic_cast<const BoardAccessible*>(QAccessible::queryAccessibleInterface(&view));
+    if (board == nullptr) return;
+    TellBridges(*game, *board);
+    if (view.hasFocus()) TellFocus(*game, *board);
+}
+
+void IslandAnnouncer::TellBridges(const Game& game, const BoardAccessible& board) {
+    if (loadCount_ == game.loadCount && undoRevision_ == game.undoRevision) return;
+    const bool samePuzzle = loadCount_ == game.loadCount;
+    loadCount_ = game.loadCount;
+    undoRevision_ = game.undoRevision;
+    for (CellNumber id = 1; id <= game.CellCount; ++id) {
+        if (game.IslandAt(id) <= 0) continue;
+        const int had = std::exchange(bridges_[id], CountBridges(game, id));
+        if (samePuzzle && had != bridges_[id]) Tell(board.Island(id), QAccessible::NameChanged);
+    }
+}
+
+void IslandAnnouncer::TellFocus(const Game& game, const BoardAccessible& board) {
+    const CellNumber now = FocusedIsland(game);
+    if (std::exchange(focused_, now) != now && now != 0) Tell(board.Island(now), QAccessible::Focus);
+}
+
+}  // namespace tidewalk

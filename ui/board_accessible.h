@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+// The board as a screen reader meets it: a child for each island, and word of what changes.
+#pragma once
+
+#include <QAccessibleWidget>
+#include <QHash>
+#include <QString>
+#include <vector>
+
+#include "model/game.h"
+
+namespace tidewalk {
+
+class BoardView;
+
+/// How an island is read out: "row 3, column 5, needs 4, has 2".
+QString IslandName(const Game& game, CellNumber id);
+
+/// The board. Its children are the islands, row by row; while a job works on the grids it has none.
+class BoardAccessible final : public QAccessibleWidget {
+ public:
+    explicit BoardAccessible(BoardView* board);
+    ~BoardAccessible() override;
+    BoardAccessible(const BoardAccessible&) = delete;
+    BoardAccessible& operator=(const BoardAccessible&) = delete;
+
+    /// Makes such an interface for every board from now on.
+    static void Install();
+
+    /// The child of this island, made when somebody first asks for it.
+    QAccessibleInterface* Island(CellNumber id) const;
+
+    int childCount() const override;
+    QAccessibleInterface* child(int index) const override;
+    int indexOfChild(const QAccessibleInterface* child) const override;
+    QAccessibleInterface* childAt(int x, int y) const override;
+    QAccessibleInterface* focusChild() const override;
+
+ private:
+    std::vector<CellNumber> Islands() const;
+    void ForgetIslands() const;
+
+    BoardView* board_;
+    mutable QHash<CellNumber, QAccessible::Id> islands_;
+    mutable int loadCount_ = -1;  ///< the puzzle whose islands these are
+};
+
+/// Tells screen readers where the keyboard's focus has gone and whose bridges have changed.
+class IslandAnnouncer {
+ public:
+    /// Compares the game with what was told last.
+    void Announce(BoardView& board);
+
+    /// The board has just received the keyboard: its island is told again.
+    void ForgetFocus() { focused_ = 0; }
+
+ private:
+    void TellBridges(const Game& game, const BoardAccessible& board);
+    void TellFocus(const Game& game, const BoardAccessible& board);
+
+    int loadCount_ = -1;
+    std::uint64_t undoRevision_ = 0;
+    PerCell<int> bridges_;
+    CellNumber focused_ = 0;
+};
+
+}  // namespace tidewalk
