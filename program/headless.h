@@ -62,6 +62,17 @@ class HeadlessWorld final : public Prompts,
     Colour Desktop(DesktopColour /*colour*/) const override { return kWhite; }
     void EndProgram() override {}
 
+    std::string Text() override { return ""; }
+    bool SetPicture(const DrawFunction& /*draw*/) override { return false; }
+    std::vector<std::string> Names() override { return {}; }
+    std::unique_ptr<PrintDocument> Begin(const std::string& /*printer*/, const std::string& /*file*/,
+                                         std::string& error) override {
+        error = "There is no printer.";
+        return nullptr;
+    }
+    void Preview(const std::string& /*printer*/, const PageFunction& /*draw*/) override {}
+    void ShowModal(Form5Fields& /*fields*/) override {}
+
     Surface::Extent Picture5Extent() const override { return {kSide, kSide}; }
     Surface& Picture1() override { return surface_; }
     void PlacePicture1() override {}
