@@ -12,6 +12,9 @@ namespace {
 
 constexpr std::size_t kBufferBytes = 128 * 1024;
 
+/// What is longer is no line of text but a disk image or the like, and would only fill the memory.
+constexpr std::size_t kLongestLine = 64 * 1024 * 1024;
+
 [[noreturn]] void Fail(const std::string& path, int reason) {
     throw FileError(path + ": " + std::strerror(reason));
 }
@@ -122,7 +125,10 @@ bool NumberedFiles::TakeLine(File& file, std::string* line) {
         const void* const end = std::memchr(start, '\n', left);
         const std::size_t length =
             end == nullptr ? left : static_cast<std::size_t>(static_cast<const char*>(end) - start);
-        if (line != nullptr) line->append(start, length);
+        if (line != nullptr) {
+            if (line->size() + length > kLongestLine) Fail(file.path, EFBIG);
+            line->append(start, length);
+        }
         file.at += length;
         if (end != nullptr) {
             ++file.at;

@@ -47,7 +47,8 @@ class NumberedFiles {
 
     bool IsOpen(int number) const;
 
-    /// Reads the next line into `line`, without its end. False, with `line` empty, when there is none.
+    /// Reads the next line into `line`, without its end. False, with `line` empty, when there is none. Throws FileError
+    /// when reading fails, and for a line beyond 64 MiB.
     bool ReadLine(int number, std::string& line);
 
     /// Passes over the next line; false when there is none.

@@ -296,7 +296,7 @@ void Form1::SetTextOf(Control control, const QString& text) {
 }
 
 void Form1::SetToolTipOf(Control control, const QString& toolTip) {
-    WidgetOf(control)->setToolTip(ToolTipText(toolTip));
+    WidgetOf(control)->setToolTip(PlainTipText(toolTip));
 }
 
 void Form1::SetProgress(int done, int total) {

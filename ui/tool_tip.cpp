@@ -16,11 +16,14 @@ QString CaptionOf(const QString& toolTip) {
 }
 
 QString ToolTipText(const QString& toolTip) {
-    if (toolTip.isEmpty()) return {};
     const QString hint = toolTip.section('|', 1);
-    const QString caption = CaptionOf(toolTip).toHtmlEscaped();
-    if (hint.isEmpty()) return kStart + caption + kEnd;
-    return kStart + "<b>" + caption + "</b><br>" + hint.toHtmlEscaped() + kEnd;
+    const QString caption = CaptionOf(toolTip);
+    if (hint.isEmpty()) return PlainTipText(caption);
+    return kStart + "<b>" + caption.toHtmlEscaped() + "</b><br>" + hint.toHtmlEscaped() + kEnd;
+}
+
+QString PlainTipText(const QString& text) {
+    return text.isEmpty() ? QString() : kStart + text.toHtmlEscaped() + kEnd;
 }
 
 }  // namespace tidewalk

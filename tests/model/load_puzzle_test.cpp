@@ -175,6 +175,16 @@ TEST(OpenFile, AFailedOpenDoesNotBringThePuzzleBack) {
     EXPECT_EQ(game.filePicker.requests.back().patterns, "*.tdw;*.txt;*.dat");
 }
 
+TEST(LoadPuzzle, AFileWithoutLinesDoesNotFillTheMemory) {
+    TestGame game;
+    const std::string path = game.folder.Write("huge.tdw", "7,7,0");
+    std::error_code error;
+    std::filesystem::resize_file(path, std::uintmax_t{1} << 36U, error);
+    if (error) GTEST_SKIP() << "no room for a sparse file: " << error.message();
+    game.prompts.Expect("puzzle 1 not found", kInformation, 1);
+    EXPECT_EQ(LoadPuzzle(game, path, 1), 1);
+}
+
 TEST(LoadPuzzle, RandomBytesNeverLeaveTheBoard) {
     std::mt19937 random(5);
     const std::string alphabet = "0123456789,;;,,.-=|I \r\n\t\0x\xFF+e";

@@ -72,6 +72,7 @@ TEST(ToolTip, TheHintStandsUnderTheCaptionAndTextStaysText) {
     EXPECT_EQ(ToolTipText("Set <size>|A & B"), "<p style='white-space:pre'><b>Set &lt;size&gt;</b><br>A &amp; B</p>");
     EXPECT_EQ(CaptionOf("Set|hint"), "Set");
     EXPECT_EQ(ToolTipText(""), "");
+    EXPECT_EQ(PlainTipText("/a|b&c.tdw"), "<p style='white-space:pre'>/a|b&amp;c.tdw</p>");
 }
 
 }  // namespace
