@@ -20,7 +20,7 @@ namespace tidewalk {
 namespace {
 
 constexpr double kScreenPixelsPerInch = 96;
-constexpr int kContainerSide = 640;          ///< in pixels, where nothing else asks for another size
+constexpr int kContainerSide = 680;          ///< in pixels, where nothing else asks for another size
 constexpr int kSmallestContainerSide = 280;  ///< in pixels
 constexpr int kTimer1Milliseconds = 1000;
 
@@ -69,18 +69,25 @@ QRect PixelRect(const Frame& frame) {
             std::max(1, whole(std::ceil(frame.height)))};
 }
 
+/// True when the rubber band leads to the island with the keyboard's focus.
+bool EndsAtFocus(const Game& game) {
+    const CellNumber id = FocusedIsland(game);
+    return game.focusShows && game.Line1.x2 == game.IslandX[id] && game.Line1.y2 == game.IslandY[id];
+}
+
 }  // namespace
 
 BoardView::BoardView(Handlers& handlers, QWidget* parent)
     : QWidget(parent), handlers_(handlers), surface_(kScreenPixelsPerInch, kTwipsPerPixel) {
+    // The first property that screen readers know of may already ask for the interface.
+    BoardAccessible::Install();
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
     setAccessibleDescription(tr("The arrow keys go from island to island, Enter selects one and lays bridges"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    BoardAccessible::Install();
-    connect(&handlers_, &Handlers::Changed, this, [this] { announcer_.Announce(*this); });
+    connect(&handlers_, &Handlers::Changed, this, &BoardView::Announce);
 }
 
 void BoardView::Place() {
@@ -136,10 +143,12 @@ void BoardView::PaintLine1(QPainter& painter, const Game& game) const {
     const double radius = Pixels(game.HalfCell) * 1.06 + 3;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(ToQColor(game.ChainColour), 2, Qt::DashLine, Qt::RoundCap));
-    // Inside the ring the line would only strike the island's number out.
+    // Inside the ring, and inside the frame of the keyboard's focus, the line would only strike the number out.
     QLineF band(from, to);
-    if (band.length() > radius) {
-        band.setP1(band.pointAt(radius / band.length()));
+    const double lengthAtEnd = EndsAtFocus(game) ? radius : 0;
+    if (band.length() > radius + lengthAtEnd) {
+        const double whole = band.length();
+        band = {band.pointAt(radius / whole), band.pointAt(1 - lengthAtEnd / whole)};
         painter.drawLine(band);
     }
     painter.setPen(QPen(ToQColor(game.Picture1BackColor), 4));
@@ -245,6 +254,10 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
     handlers_.Run([&](Game& game) { Picture1_KeyDown(game, *key); });
 }
 
+void BoardView::Announce() {
+    if (QAccessible::isActive()) announcer_.Announce(*this);
+}
+
 void BoardView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     const Qt::FocusReason reason = event->reason();
@@ -252,7 +265,7 @@ void BoardView::focusInEvent(QFocusEvent* event) {
     announcer_.ForgetFocus();
     // Only the Tab key comes to play; a window that becomes active again shows no more than it did.
     if (byKey && takesMouse_) handlers_.Run(Picture1_GotFocus);
-    announcer_.Announce(*this);
+    Announce();
     update();
 }
 
@@ -297,6 +310,12 @@ QtBoardPictures::QtBoardPictures(BoardContainer& container, Handlers& handlers) 
 
 Surface::Extent QtBoardPictures::Picture5Extent() const {
     return {container_.width() * kTwipsPerPixel, container_.height() * kTwipsPerPixel};
+}
+
+Surface& QtBoardPictures::Picture1() {
+    // Who asks for it draws on it, and that has to come to the screen.
+    container_.Board().update();
+    return container_.Board().Drawing();
 }
 
 void QtBoardPictures::EnableTimer1(bool enabled) {

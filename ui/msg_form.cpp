@@ -91,7 +91,9 @@ void MsgForm::AddText(QHBoxLayout* row) {
     const int onScreen = screen()->availableSize().width() * kTextScreenShare / 100;
     constexpr int kSlack = 2;
     label->setFixedWidth(std::min({WidestPiece(text, metrics, lineEnd), widest, onScreen}) + kSlack);
-    row->addWidget(label, 1, Qt::AlignVCenter);
+    row->addWidget(label, 0, Qt::AlignVCenter);
+    // In a box that its buttons make wide the text stays beside its icon.
+    row->addStretch(1);
 }
 
 void MsgForm::AddButtons(QHBoxLayout* row) {

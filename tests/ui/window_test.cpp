@@ -148,7 +148,7 @@ TEST(FilePicker, FiltersByThePatternsAndOffersAllFiles) {
 TEST(Window, StartsWithTheBoardInFocusAndASquareContainer) {
     WindowGame window;
     EXPECT_EQ(window.form().focusWidget(), &window.board());
-    EXPECT_EQ(window.form().Container().size(), QSize(640, 640));
+    EXPECT_EQ(window.form().Container().size(), QSize(680, 680));
 }
 
 }  // namespace
