@@ -130,8 +130,8 @@ void BoardView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.drawPixmap(0, 0, backing_);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (game->Line1.visible) PaintLine1(painter, *game);
     if (hasFocus() && game->focusShows && !JobRuns(*game)) PaintFocus(painter, *game);
+    if (game->Line1.visible) PaintLine1(painter, *game);
     if (game->Shape1.visible) PaintShape1(painter, *game);
 }
 
@@ -162,8 +162,9 @@ void BoardView::PaintFocus(QPainter& painter, const Game& game) const {
     const CellNumber id = FocusedIsland(game);
     if (id == 0) return;
     const QPointF middle(Pixels(game.IslandX[id]), Pixels(game.IslandY[id]));
-    const double half = Pixels(game.HalfCell) + 2;
-    const double arm = half * 0.6;
+    // Within the cell: on small boards hardly anything lies beside the first column.
+    const double half = Pixels(game.HalfCell) - 1;
+    const double arm = half * 0.5;
     painter.setBrush(Qt::NoBrush);
     const QColor highlight = palette().color(QPalette::Highlight);
     for (const auto& [colour, width] : {std::pair{ToQColor(game.Picture1BackColor), 6}, std::pair{highlight, 3}}) {
@@ -202,8 +203,12 @@ void BoardView::mousePressEvent(QMouseEvent* event) {
     event->accept();
     const auto button = ButtonOf(event->button());
     if (!button || !takesMouse_) return;
-    const Point cursor = InContainer(event->globalPosition());
-    handlers_.Run([&](Game& game) { Picture1_MouseDown(game, *button, cursor); });
+    const QPointF global = event->globalPosition();
+    handlers_.Run([&](Game& game) {
+        // A move with Shift or the right button forgets the cell under the pointer, which may not move before the next.
+        Picture1_MouseMove(game, false, OnBoard(global), InContainer(global));
+        Picture1_MouseDown(game, *button, InContainer(global));
+    });
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {

@@ -80,6 +80,14 @@ TEST(BoardPlay, AQuickSecondClickIsAClickToo) {
     EXPECT_TRUE(window.game().Line1.visible) << "three clicks select, drop and select";
 }
 
+TEST(BoardPlay, AfterADoubleBridgeTheSameIslandIsSelectedWithoutMovingThePointer) {
+    WindowGame window;
+    window.ClickIsland(1, 3);
+    window.ClickIsland(1, 7, Qt::LeftButton, Qt::ShiftModifier);
+    QTest::mouseClick(&window.board(), Qt::LeftButton, {}, window.IslandAt(1, 7));
+    EXPECT_TRUE(window.game().Line1.visible);
+}
+
 TEST(BoardPlay, AReleaseBesideTheBoardIsNoClick) {
     WindowGame window;
     window.MoveTo(window.IslandAt(1, 3));
