@@ -157,10 +157,12 @@ void BoardView::PaintLine1(QPainter& painter, const Game& game) const {
     painter.drawEllipse(from, radius, radius);
 }
 
-/// The corners of a frame around the island: they leave the bridges free, and the ring of a selected island shows too.
+/// The corners of a frame around the island: they leave its bridges free.
 void BoardView::PaintFocus(QPainter& painter, const Game& game) const {
     const CellNumber id = FocusedIsland(game);
-    if (id == 0) return;
+    const bool selected = game.FocusRow == game.AnchorRow && game.FocusCol == game.AnchorCol;
+    // The ring of the selected island says enough: whenever the focus is elsewhere, the corners show there.
+    if (id == 0 || selected) return;
     const QPointF middle(Pixels(game.IslandX[id]), Pixels(game.IslandY[id]));
     // Within the cell: on small boards hardly anything lies beside the first column.
     const double half = Pixels(game.HalfCell) - 1;

@@ -59,6 +59,9 @@ MsgForm::MsgForm(const std::string& text, const MessageStyle& style, const QStri
     all->setSpacing(18);
     all->addLayout(body);
     all->addLayout(buttons);
+    // The title and the buttons of a window's frame need some room too.
+    constexpr int kSmallestWidth = 200;
+    all->addStrut(kSmallestWidth);
     all->setSizeConstraint(QLayout::SetFixedSize);
     if (auto* const first = findChild<QPushButton*>("cmd0")) first->setFocus();
     // Only with its size known is the box placed over the middle of its parent.

@@ -16,8 +16,11 @@ const std::vector<std::string> kFive(5, kSmallPuzzle);
 
 TEST(Window, ArrowsTakeBothButtonsAndWrap) {
     WindowGame window(kFive);
+    window.ClickButton("cmdverify");
+    EXPECT_EQ(window.Find<QLabel>("pb").text(), "Not done yet");
     window.ClickButton("arrows0");
     EXPECT_EQ(window.game().PuzzleNumber, 5);
+    EXPECT_EQ(window.Find<QLabel>("pb").text(), "") << "that was about another puzzle";
     window.ClickButton("arrows2");
     EXPECT_EQ(window.game().PuzzleNumber, 1);
     window.ClickButton("arrows2", Qt::RightButton);
