@@ -325,7 +325,9 @@ void Form1::TakeDefaultSize() {
     if (QGuiApplication::platformName() == "offscreen") return resize(wanted);
     const QSize room = screen()->availableSize() - QSize(kWindowFrame, kWindowFrame);
     const int less = std::max({0, wanted.width() - room.width(), wanted.height() - room.height()});
-    resize(wanted - QSize(less, less));
+    // On a small screen the board gives way, but not the tool bar's last buttons.
+    const int bar = std::min(findChild<QToolBar*>()->sizeHint().width(), room.width());
+    resize(std::max(wanted.width() - less, bar), wanted.height() - less);
 }
 
 void Form1::closeEvent(QCloseEvent* event) {
