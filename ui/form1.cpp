@@ -338,6 +338,12 @@ void Form1::closeEvent(QCloseEvent* event) {
 void Form1::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::PaletteChange) return;
+    // Menu titles and icons have the text colour of buttons, and need to lie on what that is legible on.
+    QPalette bars;
+    bars.setColor(QPalette::Window, palette().color(QPalette::Button));
+    bars.setColor(QPalette::WindowText, palette().color(QPalette::ButtonText));
+    menuBar()->setPalette(bars);
+    findChild<QToolBar*>()->setPalette(bars);
     for (QAction* const action : findChildren<QAction*>()) {
         const QString icon = action->property("icon name").toString();
         if (!icon.isEmpty()) action->setIcon(MakeIcon(icon, palette()));

@@ -4,9 +4,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenuBar>
 
+#include "model/contrast.h"
 #include "model/job.h"
 #include "options/colour_scheme.h"
+#include "ui/colours.h"
 #include "window_game.h"
 
 namespace tidewalk::test {
@@ -142,6 +145,23 @@ TEST(Window, TabGoesThroughTheToolBarToTheBoardAndTheUndoList) {
         at = at->nextInFocusChain();
     } while (at != &window.Button("arrows0"));
     EXPECT_EQ(order.join(' ').toStdString(), wanted.join(' ').toStdString());
+}
+
+TEST(Window, TheBarsCanBeReadWhereButtonsAreUnlikeTheWindow) {
+    QPalette dark(QColor(45, 45, 48), QColor(32, 32, 35));
+    QApplication::setPalette(dark);
+    WindowGame window;
+    window.game().ColourSchemeName = "default.col";
+    window.game().SchemeColours[kAdjustedEntry] = Rgb(236, 233, 216);
+    ApplyColourScheme(window.game());
+    QCoreApplication::processEvents();
+    for (const QWidget* const bar :
+         {window.form().findChild<QWidget*>("ToolBar"), static_cast<QWidget*>(window.form().menuBar())}) {
+        const QPalette palette = bar->palette();
+        const Colour back = ToColour(palette.color(QPalette::Window));
+        EXPECT_GE(Contrast(back, ToColour(palette.color(QPalette::ButtonText))), kTextContrast);
+        EXPECT_GE(Contrast(back, ToColour(palette.color(QPalette::WindowText))), kTextContrast);
+    }
 }
 
 TEST(FilePicker, FiltersByThePatternsAndOffersAllFiles) {
