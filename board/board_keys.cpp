@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "board/board_keys.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <tuple>
 
@@ -67,6 +68,25 @@ void ReleaseOnFocused(Game& game, MouseButton button, bool shift) {
     Picture1_MouseUp(game, button, shift, at);
 }
 
+/// How far the board has to move so that the cell around `at`, in the container, lies within `room`. Boards that were
+/// fitted leave more than the margin, so that they stay in their place.
+double Shift(double at, double cell, double room) {
+    constexpr double kMargin = 0.6;  // the cell's half, and a little for the frame around it
+    const double margin = std::min(kMargin * cell, room / 2);
+    return std::clamp(at, margin, room - margin) - at;
+}
+
+/// Moves the board in its container just so far that the island shows.
+void BringIntoView(Game& game, CellNumber id) {
+    const Surface::Extent room = game.pictures.Picture5Extent();
+    const double right = Shift(game.Picture1.left + game.IslandX[id], game.CellSize, room.width);
+    const double down = Shift(game.Picture1.top + game.IslandY[id], game.CellSize, room.height);
+    if (right == 0 && down == 0) return;
+    game.Picture1.left += right;
+    game.Picture1.top += down;
+    game.pictures.PlacePicture1();
+}
+
 }  // namespace
 
 CellNumber FocusedIsland(const Game& game) {
@@ -99,6 +119,7 @@ void FocusIsland(Game& game, CellNumber id) {
     if (id == 0) return;
     game.FocusRow = game.CellRow[id];
     game.FocusCol = game.CellCol[id];
+    BringIntoView(game, id);
     if (game.Line1.visible) {
         game.Line1.x2 = game.IslandX[id];
         game.Line1.y2 = game.IslandY[id];

@@ -16,7 +16,8 @@ CellNumber FocusedIsland(const Game& game);
 /// nearest one anywhere on that side. `from` itself when the board ends there.
 CellNumber IslandTowards(const Game& game, BoardKey key, CellNumber from);
 
-/// Gives the focus to the island `id`; 0 changes nothing. The rubber band follows.
+/// Gives the focus to the island `id`; 0 changes nothing. The rubber band follows, and a board that is larger than its
+/// container moves so that the island shows.
 void FocusIsland(Game& game, CellNumber id);
 
 /// The board receives the keyboard: an island has the focus from now on, the selected one, else the one that was last

@@ -28,7 +28,9 @@ void mnupuzreset_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     const int answer = game.prompts.Show("Reset?", "vbYesNo");
     game.events.DoEvents();
-    if (answer == kYes) LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber);
+    if (answer != kYes) return;
+    LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber);
+    game.window.SetText(Control::pb, "");
 }
 
 }  // namespace tidewalk

@@ -23,9 +23,10 @@ std::optional<int> ArrowTarget(Game& game, int index, MouseButton button, int ol
     return std::nullopt;
 }
 
-/// Goes to puzzle `number`, or back to `old` when that fails.
+/// Goes to puzzle `number`, or back to `old` when that fails. What the status line said was about the puzzle before.
 void LoadOrGoBack(Game& game, int number, int old) {
     if (LoadPuzzle(game, game.CollectionPath, number) == YesValue) LoadPuzzle(game, game.CollectionPath, old);
+    game.window.SetText(Control::pb, "");
 }
 
 }  // namespace
@@ -61,6 +62,7 @@ void mnuloadpuz_Click(Game& game) {
     // A collection that fails to open does not bring the previous puzzle back: the message is all there is to say.
     const BusyPointer busy(game);
     LoadPuzzle(game, path, 1);
+    game.window.SetText(Control::pb, "");
 }
 
 void cmdload_Click(Game& game) {

@@ -47,6 +47,7 @@ AboutBox::AboutBox(QWidget* parent) : QDialog(parent) {
     QPushButton* const aboutQt = buttons->addButton(tr("About &Qt"), QDialogButtonBox::HelpRole);
     aboutQt->setObjectName("AboutQt");
     aboutQt->setAutoDefault(false);
+    buttons->button(QDialogButtonBox::Ok)->setIcon({});
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     buttons->button(QDialogButtonBox::Ok)->setFocus();
 

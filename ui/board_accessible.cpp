@@ -90,12 +90,6 @@ class IslandAccessible final : public QAccessibleInterface, public QAccessibleAc
     int loadCount_;
 };
 
-void Tell(QAccessibleInterface* island, QAccessible::Event what) {
-    if (island == nullptr) return;
-    QAccessibleEvent event(island, what);
-    QAccessible::updateAccessibility(&event);
-}
-
 }  // namespace
 
 QString IslandName(const Game& game, CellNumber id) {
@@ -184,9 +178,15 @@ QAccessibleInterface* BoardAccessible::focusChild() const {
     return island != nullptr ? island : QAccessibleWidget::focusChild();
 }
 
+IslandAnnouncer::IslandAnnouncer()
+    : tell_([](QAccessibleInterface* island, QAccessible::Event what) {
+          QAccessibleEvent event(island, what);
+          QAccessible::updateAccessibility(&event);
+      }) {}
+
 void IslandAnnouncer::Announce(BoardView& view) {
     const Game* const game = QuietGame(&view);
-    if (game == nullptr || !QAccessible::isActive()) return;
+    if (game == nullptr) return;
     const auto* const board = dynamic_cast<const BoardAccessible*>(QAccessible::queryAccessibleInterface(&view));
     if (board == nullptr) return;
     TellBridges(*game, *board);
@@ -201,13 +201,13 @@ void IslandAnnouncer::TellBridges(const Game& game, const BoardAccessible& board
     for (CellNumber id = 1; id <= game.CellCount; ++id) {
         if (game.IslandAt(id) <= 0) continue;
         const int had = std::exchange(bridges_[id], CountBridges(game, id));
-        if (samePuzzle && had != bridges_[id]) Tell(board.Island(id), QAccessible::NameChanged);
+        if (samePuzzle && had != bridges_[id]) tell_(board.Island(id), QAccessible::NameChanged);
     }
 }
 
 void IslandAnnouncer::TellFocus(const Game& game, const BoardAccessible& board) {
     const CellNumber now = FocusedIsland(game);
-    if (std::exchange(focused_, now) != now && now != 0) Tell(board.Island(now), QAccessible::Focus);
+    if (std::exchange(focused_, now) != now && now != 0) tell_(board.Island(now), QAccessible::Focus);
 }
 
 }  // namespace tidewalk

@@ -5,6 +5,7 @@
 #include <QAccessibleWidget>
 #include <QHash>
 #include <QString>
+#include <functional>
 #include <vector>
 
 #include "model/game.h"
@@ -48,6 +49,12 @@ class BoardAccessible final : public QAccessibleWidget {
 /// Tells screen readers where the keyboard's focus has gone and whose bridges have changed.
 class IslandAnnouncer {
  public:
+    using Tell = std::function<void(QAccessibleInterface*, QAccessible::Event)>;
+
+    /// Tells the screen readers of the desktop.
+    IslandAnnouncer();
+    explicit IslandAnnouncer(Tell tell) : tell_(std::move(tell)) {}
+
     /// Compares the game with what was told last.
     void Announce(BoardView& board);
 
@@ -58,6 +65,7 @@ class IslandAnnouncer {
     void TellBridges(const Game& game, const BoardAccessible& board);
     void TellFocus(const Game& game, const BoardAccessible& board);
 
+    Tell tell_;
     int loadCount_ = -1;
     std::uint64_t undoRevision_ = 0;
     PerCell<int> bridges_;

@@ -20,7 +20,7 @@ namespace tidewalk {
 namespace {
 
 constexpr double kScreenPixelsPerInch = 96;
-constexpr int kContainerSide = 640;          ///< in pixels, where nothing else asks for another size
+constexpr int kContainerSide = 680;          ///< in pixels, where nothing else asks for another size
 constexpr int kSmallestContainerSide = 280;  ///< in pixels
 constexpr int kTimer1Milliseconds = 1000;
 
@@ -69,18 +69,25 @@ QRect PixelRect(const Frame& frame) {
             std::max(1, whole(std::ceil(frame.height)))};
 }
 
+/// True when the rubber band leads to the island with the keyboard's focus.
+bool EndsAtFocus(const Game& game) {
+    const CellNumber id = FocusedIsland(game);
+    return game.focusShows && game.Line1.x2 == game.IslandX[id] && game.Line1.y2 == game.IslandY[id];
+}
+
 }  // namespace
 
 BoardView::BoardView(Handlers& handlers, QWidget* parent)
     : QWidget(parent), handlers_(handlers), surface_(kScreenPixelsPerInch, kTwipsPerPixel) {
+    // The first property that screen readers know of may already ask for the interface.
+    BoardAccessible::Install();
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
     setAccessibleDescription(tr("The arrow keys go from island to island, Enter selects one and lays bridges"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    BoardAccessible::Install();
-    connect(&handlers_, &Handlers::Changed, this, [this] { announcer_.Announce(*this); });
+    connect(&handlers_, &Handlers::Changed, this, &BoardView::Announce);
 }
 
 void BoardView::Place() {
@@ -123,8 +130,8 @@ void BoardView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.drawPixmap(0, 0, backing_);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (game->Line1.visible) PaintLine1(painter, *game);
     if (hasFocus() && game->focusShows && !JobRuns(*game)) PaintFocus(painter, *game);
+    if (game->Line1.visible) PaintLine1(painter, *game);
     if (game->Shape1.visible) PaintShape1(painter, *game);
 }
 
@@ -136,10 +143,12 @@ void BoardView::PaintLine1(QPainter& painter, const Game& game) const {
     const double radius = Pixels(game.HalfCell) * 1.06 + 3;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(ToQColor(game.ChainColour), 2, Qt::DashLine, Qt::RoundCap));
-    // Inside the ring the line would only strike the island's number out.
+    // Inside the ring, and inside the frame of the keyboard's focus, the line would only strike the number out.
     QLineF band(from, to);
-    if (band.length() > radius) {
-        band.setP1(band.pointAt(radius / band.length()));
+    const double lengthAtEnd = EndsAtFocus(game) ? radius : 0;
+    if (band.length() > radius + lengthAtEnd) {
+        const double whole = band.length();
+        band = {band.pointAt(radius / whole), band.pointAt(1 - lengthAtEnd / whole)};
         painter.drawLine(band);
     }
     painter.setPen(QPen(ToQColor(game.Picture1BackColor), 4));
@@ -148,13 +157,16 @@ void BoardView::PaintLine1(QPainter& painter, const Game& game) const {
     painter.drawEllipse(from, radius, radius);
 }
 
-/// The corners of a frame around the island: they leave the bridges free, and the ring of a selected island shows too.
+/// The corners of a frame around the island: they leave its bridges free.
 void BoardView::PaintFocus(QPainter& painter, const Game& game) const {
     const CellNumber id = FocusedIsland(game);
-    if (id == 0) return;
+    const bool selected = game.FocusRow == game.AnchorRow && game.FocusCol == game.AnchorCol;
+    // The ring of the selected island says enough: whenever the focus is elsewhere, the corners show there.
+    if (id == 0 || selected) return;
     const QPointF middle(Pixels(game.IslandX[id]), Pixels(game.IslandY[id]));
-    const double half = Pixels(game.HalfCell) + 2;
-    const double arm = half * 0.6;
+    // Within the cell: on small boards hardly anything lies beside the first column.
+    const double half = Pixels(game.HalfCell) - 1;
+    const double arm = half * 0.5;
     painter.setBrush(Qt::NoBrush);
     const QColor highlight = palette().color(QPalette::Highlight);
     for (const auto& [colour, width] : {std::pair{ToQColor(game.Picture1BackColor), 6}, std::pair{highlight, 3}}) {
@@ -193,8 +205,12 @@ void BoardView::mousePressEvent(QMouseEvent* event) {
     event->accept();
     const auto button = ButtonOf(event->button());
     if (!button || !takesMouse_) return;
-    const Point cursor = InContainer(event->globalPosition());
-    handlers_.Run([&](Game& game) { Picture1_MouseDown(game, *button, cursor); });
+    const QPointF global = event->globalPosition();
+    handlers_.Run([&](Game& game) {
+        // A move with Shift or the right button forgets the cell under the pointer, which may not move before the next.
+        Picture1_MouseMove(game, false, OnBoard(global), InContainer(global));
+        Picture1_MouseDown(game, *button, InContainer(global));
+    });
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
@@ -245,6 +261,10 @@ void BoardView::keyPressEvent(QKeyEvent* event) {
     handlers_.Run([&](Game& game) { Picture1_KeyDown(game, *key); });
 }
 
+void BoardView::Announce() {
+    if (QAccessible::isActive()) announcer_.Announce(*this);
+}
+
 void BoardView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     const Qt::FocusReason reason = event->reason();
@@ -252,7 +272,7 @@ void BoardView::focusInEvent(QFocusEvent* event) {
     announcer_.ForgetFocus();
     // Only the Tab key comes to play; a window that becomes active again shows no more than it did.
     if (byKey && takesMouse_) handlers_.Run(Picture1_GotFocus);
-    announcer_.Announce(*this);
+    Announce();
     update();
 }
 
@@ -303,6 +323,12 @@ void QtBoardPictures::Freeze(bool frozen) {
     // What was drawn before still has to reach the screen.
     if (frozen) container_.Board().repaint();
     container_.Board().setUpdatesEnabled(!frozen);
+}
+
+Surface& QtBoardPictures::Picture1() {
+    // Who asks for it draws on it, and that has to come to the screen.
+    container_.Board().update();
+    return container_.Board().Drawing();
 }
 
 void QtBoardPictures::EnableTimer1(bool enabled) {

@@ -42,6 +42,7 @@ class BoardView final : public QWidget {
     void focusOutEvent(QFocusEvent* event) override;
 
  private:
+    void Announce();
     void FitBacking();
     void PaintFocus(QPainter& painter, const Game& game) const;
     void PaintLine1(QPainter& painter, const Game& game) const;
@@ -82,7 +83,7 @@ class QtBoardPictures final : public BoardPictures {
     QtBoardPictures(BoardContainer& container, Handlers& handlers);
 
     Surface::Extent Picture5Extent() const override;
-    Surface& Picture1() override { return container_.Board().Drawing(); }
+    Surface& Picture1() override;
     void PlacePicture1() override { container_.Board().Place(); }
     void ShowOverlay() override { container_.Board().update(); }
     void SetEnabled(bool enabled) override { container_.Board().SetTakesMouse(enabled); }

@@ -33,6 +33,7 @@ ColPik::ColPik(QWidget* parent) : QWidget(parent), swatch_(new QLabel) {
     swatch_->setAutoFillBackground(true);
     layout->addWidget(swatch_, 3, 0, 1, 3);
     layout->setRowStretch(3, 1);
+    layout->setColumnStretch(1, 1);
     Clear();
 }
 

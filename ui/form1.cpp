@@ -325,7 +325,9 @@ void Form1::TakeDefaultSize() {
     if (QGuiApplication::platformName() == "offscreen") return resize(wanted);
     const QSize room = screen()->availableSize() - QSize(kWindowFrame, kWindowFrame);
     const int less = std::max({0, wanted.width() - room.width(), wanted.height() - room.height()});
-    resize(wanted - QSize(less, less));
+    // On a small screen the board gives way, but not the tool bar's last buttons.
+    const int bar = std::min(findChild<QToolBar*>()->sizeHint().width(), room.width());
+    resize(std::max(wanted.width() - less, bar), wanted.height() - less);
 }
 
 void Form1::closeEvent(QCloseEvent* event) {
@@ -336,6 +338,12 @@ void Form1::closeEvent(QCloseEvent* event) {
 void Form1::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::PaletteChange) return;
+    // Menu titles and icons have the text colour of buttons, and need to lie on what that is legible on.
+    QPalette bars;
+    bars.setColor(QPalette::Window, palette().color(QPalette::Button));
+    bars.setColor(QPalette::WindowText, palette().color(QPalette::ButtonText));
+    menuBar()->setPalette(bars);
+    findChild<QToolBar*>()->setPalette(bars);
     for (QAction* const action : findChildren<QAction*>()) {
         const QString icon = action->property("icon name").toString();
         if (!icon.isEmpty()) action->setIcon(MakeIcon(icon, palette()));

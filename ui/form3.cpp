@@ -69,6 +69,8 @@ void Form3::AddFields(QFormLayout* form) {
     form->addRow(tr("# of &Puzzles"), text1_);
     form->addRow(tr("&Rows"), combo1_);
     form->addRow(tr("&Columns"), combo2_);
+    combo1_->lineEdit()->setAccessibleName(tr("Rows"));
+    combo2_->lineEdit()->setAccessibleName(tr("Columns"));
     auto* const label = new QLabel(tr("Output &file"));
     label->setBuddy(fileNow_);
     form->addRow(label, file);

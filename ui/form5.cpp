@@ -67,6 +67,9 @@ void Form5::AddControls() {
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     Named(buttons->button(QDialogButtonBox::Ok), "Command1", tr("OK"));
     Named(buttons->button(QDialogButtonBox::Cancel), "command2", tr("Cancel"));
+    // Some desktops put pictures on these two, and on no other button of the program.
+    for (QAbstractButton* const button : buttons->buttons())
+        button->setIcon({});
 
     auto* const grid = new QGridLayout(this);
     grid->addWidget(LabelFor(tr("&File:"), fileNow_), 0, 0);

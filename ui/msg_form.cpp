@@ -59,6 +59,9 @@ MsgForm::MsgForm(const std::string& text, const MessageStyle& style, const QStri
     all->setSpacing(18);
     all->addLayout(body);
     all->addLayout(buttons);
+    // The title and the buttons of a window's frame need some room too.
+    constexpr int kSmallestWidth = 200;
+    all->addStrut(kSmallestWidth);
     all->setSizeConstraint(QLayout::SetFixedSize);
     if (auto* const first = findChild<QPushButton*>("cmd0")) first->setFocus();
     // Only with its size known is the box placed over the middle of its parent.
@@ -91,7 +94,9 @@ void MsgForm::AddText(QHBoxLayout* row) {
     const int onScreen = screen()->availableSize().width() * kTextScreenShare / 100;
     constexpr int kSlack = 2;
     label->setFixedWidth(std::min({WidestPiece(text, metrics, lineEnd), widest, onScreen}) + kSlack);
-    row->addWidget(label, 1, Qt::AlignVCenter);
+    row->addWidget(label, 0, Qt::AlignVCenter);
+    // In a box that its buttons make wide the text stays beside its icon.
+    row->addStretch(1);
 }
 
 void MsgForm::AddButtons(QHBoxLayout* row) {

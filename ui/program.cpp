@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QElapsedTimer>
+#include <QWindow>
 
 namespace tidewalk {
 
@@ -14,6 +16,17 @@ void LeaveDialogs() {
         auto* const dialog = qobject_cast<QDialog*>(window);
         if (dialog != nullptr && dialog->isVisible()) dialog->reject();
     }
+}
+
+/// Waits, but not for long, until the window is on the screen. A window manager gives it its place and size only then.
+void WaitUntilShown(const QWidget& window) {
+    constexpr int kPatience = 500;  // in milliseconds
+    constexpr int kStep = 20;
+    QElapsedTimer waited;
+    waited.start();
+    while (!window.windowHandle()->isExposed() && !waited.hasExpired(kPatience))
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kStep);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 }  // namespace
@@ -65,8 +78,8 @@ std::optional<std::string> Program::Start(const StartRequest& request) {
     prompts_.SetCaption(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
     form1_.TakeDefaultSize();
     form1_.show();
-    // The container has its real size only after that, and the first puzzle is fitted to it.
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    // The first puzzle is fitted to the container, and messages lie over the window's middle.
+    WaitUntilShown(form1_);
     std::optional<std::string> fatal;
     handlers_.Run([&](Game& game) { fatal = Form_Load(game, request); });
     if (fatal) form1_.hide();

@@ -8,6 +8,7 @@
 #include "board/board_mouse.h"
 #include "board/check_bridges.h"
 #include "board/drawing.h"
+#include "board/layout.h"
 #include "model/job.h"
 #include "program/escape.h"
 #include "support/test_game.h"
@@ -117,6 +118,22 @@ TEST(Keys, MouseAndKeysTakeTurns) {
     EXPECT_TRUE(game.focusShows);
     EXPECT_EQ(game.BridgeState(8, 10), 1) << "the keyboard goes on where the mouse was";
     EXPECT_EQ(game.HoverCol, 3) << "the pointer is still where it was";
+}
+
+TEST(Keys, TheIslandWithTheFocusIsBroughtIntoView) {
+    KeyPlay game({"1" + std::string(23, '.') + "1"});
+    game.CellSize = 700;
+    LayoutBoard(game);
+    const auto at = [&](CellNumber id) { return game.Picture1.left + game.IslandX[id]; };
+    const double width = game.pictures.Picture5Extent().width;
+    ASSERT_GT(game.Picture1.width, width);
+    game.Keys({BoardKey::First});
+    EXPECT_DOUBLE_EQ(at(1), 420);
+    game.Keys({BoardKey::Right});
+    EXPECT_DOUBLE_EQ(at(25), width - 420);
+    const double left = game.Picture1.left;
+    game.Keys({BoardKey::Lay, BoardKey::Last});
+    EXPECT_EQ(game.Picture1.left, left) << "it shows already";
 }
 
 TEST(Keys, DuringAJobTheBoardTakesNone) {

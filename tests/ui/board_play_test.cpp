@@ -80,6 +80,14 @@ TEST(BoardPlay, AQuickSecondClickIsAClickToo) {
     EXPECT_TRUE(window.game().Line1.visible) << "three clicks select, drop and select";
 }
 
+TEST(BoardPlay, AfterADoubleBridgeTheSameIslandIsSelectedWithoutMovingThePointer) {
+    WindowGame window;
+    window.ClickIsland(1, 3);
+    window.ClickIsland(1, 7, Qt::LeftButton, Qt::ShiftModifier);
+    QTest::mouseClick(&window.board(), Qt::LeftButton, {}, window.IslandAt(1, 7));
+    EXPECT_TRUE(window.game().Line1.visible);
+}
+
 TEST(BoardPlay, AReleaseBesideTheBoardIsNoClick) {
     WindowGame window;
     window.MoveTo(window.IslandAt(1, 3));
@@ -131,6 +139,44 @@ TEST(BoardPlay, TheSolutionShowsWhileItsButtonIsHeld) {
     EXPECT_NE(window.board().grab().toImage(), played);
     QTest::keyRelease(&window.Button("cmdviewcol"), Qt::Key_Space);
     EXPECT_EQ(window.board().grab().toImage(), played);
+}
+
+/// Counts how often a widget is painted on the screen; a picture that a test grabs is painted for that alone.
+class PaintCounter final : public QObject {
+ public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+
+    /// How often since the last call.
+    int Count() {
+        QCoreApplication::processEvents();
+        return std::exchange(count_, 0);
+    }
+
+ private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) ++count_;
+        return false;
+    }
+
+    int count_ = 0;
+};
+
+TEST(BoardPlay, WhatACommandDrawsComesToTheScreen) {
+    WindowGame window;
+    window.ClickIsland(1, 3);
+    window.ClickIsland(1, 7);
+    PaintCounter painted(window.board());
+    QTest::qWait(50);
+    painted.Count();
+    EXPECT_EQ(painted.Count(), 0);
+    window.Find<QAction>("cmdundo").trigger();
+    EXPECT_GT(painted.Count(), 0);
+    QTest::mousePress(&window.Button("cmdviewcol"), Qt::LeftButton);
+    EXPECT_GT(painted.Count(), 0);
+    QTest::mouseRelease(&window.Button("cmdviewcol"), Qt::LeftButton);
+    EXPECT_GT(painted.Count(), 0);
+    window.Find<QAction>("mnuautosol").trigger();
+    EXPECT_GT(painted.Count(), 0);
 }
 
 TEST(BoardPlay, TheBoardIsAsFineAsTheScreen) {

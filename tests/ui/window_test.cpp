@@ -4,9 +4,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenuBar>
 
+#include "model/contrast.h"
 #include "model/job.h"
 #include "options/colour_scheme.h"
+#include "ui/colours.h"
 #include "window_game.h"
 
 namespace tidewalk::test {
@@ -16,8 +19,11 @@ const std::vector<std::string> kFive(5, kSmallPuzzle);
 
 TEST(Window, ArrowsTakeBothButtonsAndWrap) {
     WindowGame window(kFive);
+    window.ClickButton("cmdverify");
+    EXPECT_EQ(window.Find<QLabel>("pb").text(), "Not done yet");
     window.ClickButton("arrows0");
     EXPECT_EQ(window.game().PuzzleNumber, 5);
+    EXPECT_EQ(window.Find<QLabel>("pb").text(), "") << "that was about another puzzle";
     window.ClickButton("arrows2");
     EXPECT_EQ(window.game().PuzzleNumber, 1);
     window.ClickButton("arrows2", Qt::RightButton);
@@ -141,6 +147,23 @@ TEST(Window, TabGoesThroughTheToolBarToTheBoardAndTheUndoList) {
     EXPECT_EQ(order.join(' ').toStdString(), wanted.join(' ').toStdString());
 }
 
+TEST(Window, TheBarsCanBeReadWhereButtonsAreUnlikeTheWindow) {
+    QPalette dark(QColor(45, 45, 48), QColor(32, 32, 35));
+    QApplication::setPalette(dark);
+    WindowGame window;
+    window.game().ColourSchemeName = "default.col";
+    window.game().SchemeColours[kAdjustedEntry] = Rgb(236, 233, 216);
+    ApplyColourScheme(window.game());
+    QCoreApplication::processEvents();
+    for (const QWidget* const bar :
+         {window.form().findChild<QWidget*>("ToolBar"), static_cast<QWidget*>(window.form().menuBar())}) {
+        const QPalette palette = bar->palette();
+        const Colour back = ToColour(palette.color(QPalette::Window));
+        EXPECT_GE(Contrast(back, ToColour(palette.color(QPalette::ButtonText))), kTextContrast);
+        EXPECT_GE(Contrast(back, ToColour(palette.color(QPalette::WindowText))), kTextContrast);
+    }
+}
+
 TEST(FilePicker, FiltersByThePatternsAndOffersAllFiles) {
     EXPECT_EQ(FileFilter("*.tdw;*.txt;*.dat", "Tidewalk Files"), "Tidewalk Files (*.tdw *.txt *.dat);;All files (*)");
 }
@@ -148,7 +171,7 @@ TEST(FilePicker, FiltersByThePatternsAndOffersAllFiles) {
 TEST(Window, StartsWithTheBoardInFocusAndASquareContainer) {
     WindowGame window;
     EXPECT_EQ(window.form().focusWidget(), &window.board());
-    EXPECT_EQ(window.form().Container().size(), QSize(640, 640));
+    EXPECT_EQ(window.form().Container().size(), QSize(680, 680));
 }
 
 }  // namespace
