@@ -195,6 +195,13 @@ std::string Contradiction(const Wishes& wishes) {
     return "";
 }
 
+/// The first argument, if it stands where a command has to and is none; otherwise "".
+std::string UnknownCommand(const CLI::App& app, const std::vector<std::string>& arguments) {
+    if (arguments.empty() || arguments.front().starts_with('-')) return "";
+    const auto isNamed = [&](const CLI::App* command) { return command->get_name() == arguments.front(); };
+    return app.get_subcommands(isNamed).empty() ? arguments.front() : "";
+}
+
 int WrongUsage(Console& console, const std::string& message) {
     Say(console, message);
     console.err << "Run with --help for more information.\n" << std::flush;
@@ -207,6 +214,9 @@ int RunCommandLine(Console& console, std::vector<std::string> arguments) {
     try {
         Wishes wishes;
         Parser parser(wishes);
+        if (const std::string word = UnknownCommand(parser.App(), arguments); !word.empty()) {
+            return WrongUsage(console, "there is no command \"" + word + "\"");
+        }
         try {
             // The parser takes the last one first.
             std::reverse(arguments.begin(), arguments.end());

@@ -27,11 +27,12 @@ LineReader::LineReader(Console& console, const std::string& path)
 bool LineReader::Next(NumberedLine& line) {
     using Traits = std::streambuf::traits_type;
     line.text.clear();
-    if (console_.Stopped()) return false;
+    if (ended_ || console_.Stopped()) return false;
     const long long before = bytes_;
     for (;;) {
         const auto next = source_->sbumpc();
         if (Traits::eq_int_type(next, Traits::eof())) {
+            ended_ = true;
             // A signal in the middle of a line looks like the end of the file.
             if (bytes_ == before || console_.Stopped()) return false;
             break;

@@ -37,6 +37,7 @@ class LineReader {
     std::unique_ptr<InputDescriptor> file_;
     std::streambuf* source_;
     int number_ = 0;
+    bool ended_ = false;  ///< a terminal would have to be told twice
     long long bytes_ = 0;
     long long size_ = -1;  ///< of the file; -1 where that is not known
 };

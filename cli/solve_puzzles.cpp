@@ -16,6 +16,7 @@
 #include "cli/record_output.h"
 #include "cli/workers.h"
 #include "model/load_puzzle.h"
+#include "model/work_areas.h"
 #include "model/write_puzzle_record.h"
 #include "solver/difficulty.h"
 #include "solver/solve_puzzle.h"
@@ -75,6 +76,9 @@ Solved SolveLine(Game& game, const NumberedLine& line, const SolveOptions& optio
         solved.failure = kNoRecord;
         return solved;
     }
+    // The tables are those of the line that was solved before.
+    NumberNewBoard(game);
+    game.OpenNeighbours.Fill({});
     solved.lineStart = LineStart(line.number, game);
     solved.rows = game.Rows;
     solved.cols = game.Cols;

@@ -193,6 +193,8 @@ TEST_F(Cli, WrongUsageIsTold) {
         EXPECT_NE(err_.find("tidewalk-cli: "), std::string::npos);
         EXPECT_EQ(out_, "");
     }
+    Run({"sing", file});
+    EXPECT_NE(err_.find("there is no command \"sing\""), std::string::npos);
     EXPECT_EQ(Run({"solve", "--help"}), 0);
     EXPECT_NE(out_.find("--max-trials"), std::string::npos);
     EXPECT_EQ(Run({"solve", file, "1-5"}), 1) << "there are no puzzles 2 to 5";
