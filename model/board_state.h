@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <deque>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,11 @@ class BridgeTable {
     void Set(CellNumber a, CellNumber b, int state) {
         states_[Place(a, b)] = static_cast<std::uint8_t>(state);
         states_[Place(b, a)] = static_cast<std::uint8_t>(state);
+    }
+
+    /// The bridges from `a` to each of the cells 0..625.
+    std::span<const std::uint8_t> Row(CellNumber a) const {
+        return std::span(states_).subspan(Place(a, 0), static_cast<std::size_t>(kMaxCells) + 1);
     }
 
     void Clear() { states_.assign(states_.size(), 0); }

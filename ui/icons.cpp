@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/icons.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QHash>
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
@@ -34,12 +36,33 @@ void AddPixmaps(QIcon& icon, const QByteArray& bytes, QIcon::Mode mode, double o
     }
 }
 
+using Icons = QHash<QString, QIcon>;
+
+/// The icons that were drawn already, by name and colour. Menus and tool bar share most of them, and every dialog that
+/// opens asks for all of them again. They go with the application, which pictures must not outlive.
+Icons& DrawnIcons() {
+    constexpr qsizetype kMost = 200;
+    static Icons* drawn = nullptr;
+    if (drawn == nullptr) {
+        drawn = new Icons;
+        qAddPostRoutine([] {
+            delete drawn;
+            drawn = nullptr;
+        });
+    }
+    // Colours come and go with the schemes that are tried.
+    if (drawn->size() >= kMost) drawn->clear();
+    return *drawn;
+}
+
 }  // namespace
 
 QIcon MakeIcon(const QString& name, const QPalette& palette) {
     constexpr double kDisabledOpacity = 0.35;
-    QIcon icon;
-    const QByteArray bytes = PictureBytes(name, palette.color(QPalette::Active, QPalette::ButtonText));
+    const QColor colour = palette.color(QPalette::Active, QPalette::ButtonText);
+    QIcon& icon = DrawnIcons()[name + colour.name()];
+    if (!icon.isNull()) return icon;
+    const QByteArray bytes = PictureBytes(name, colour);
     if (bytes.isEmpty()) return icon;
     AddPixmaps(icon, bytes, QIcon::Normal, 1);
     AddPixmaps(icon, bytes, QIcon::Disabled, kDisabledOpacity);
