@@ -8,6 +8,15 @@
 
 #include "fuzz/targets.h"
 
+namespace tidewalk::fuzz {
+
+/// For the name of the test, which would hold addresses otherwise.
+void PrintTo(const Target& target, std::ostream* out) {
+    *out << target.name;
+}
+
+}  // namespace tidewalk::fuzz
+
 namespace tidewalk::test {
 namespace {
 

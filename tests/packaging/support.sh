@@ -9,7 +9,7 @@ scratch=$(mktemp -d)
 trap 'chmod -R u+w "$scratch"; rm -rf "$scratch"' EXIT
 trap 'exit 1' HUP INT TERM
 # Windows are never shown, and nothing of the user is touched.
-export QT_QPA_PLATFORM=offscreen HOME="$scratch/home" XDG_DATA_HOME="$scratch/home/data" XDG_RUNTIME_DIR="$scratch/run"
+export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen HOME="$scratch/home" XDG_DATA_HOME="$scratch/home/data" XDG_RUNTIME_DIR="$scratch/run"
 mkdir -p "$HOME" "$XDG_RUNTIME_DIR"
 chmod 700 "$XDG_RUNTIME_DIR"
 
