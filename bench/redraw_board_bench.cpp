@@ -7,10 +7,10 @@
 #include <memory>
 #include <random>
 
-#include "bench/bench_boards.h"
 #include "board/drawing.h"
 #include "board/layout.h"
 #include "program/headless.h"
+#include "tests/support/random_boards.h"
 #include "ui/qt_surface.h"
 
 namespace tidewalk::bench {
@@ -65,8 +65,8 @@ void RedrawCrowdedBoard(benchmark::State& state) {
     std::mt19937 random(7);
     game->Rows = game->Cols = static_cast<int>(state.range(0));
     LayoutNewBoard(*game);
-    MakeDenseBoard(*game, random, game->Rows);
-    game->IslandGrid = game->GivenGrid;
+    constexpr int kSpacing = 3;
+    test::MakeRandomBoard(*game, random, game->Rows, game->Cols, kSpacing, false);
     pictures.Resize(game->Picture1, static_cast<double>(state.range(1)));
     LayoutBoard(*game);
     for (auto _ : state) {

@@ -6,16 +6,19 @@
 #include <random>
 #include <vector>
 
-#include "bench/bench_boards.h"
 #include "generator/create_puzzle.h"
 #include "program/headless.h"
 #include "solver/connect_islands.h"
 #include "solver/neighbours.h"
 #include "solver/solve_puzzle.h"
 #include "tests/support/plain_solver.h"
+#include "tests/support/random_boards.h"
 
 namespace tidewalk::bench {
 namespace {
+
+/// About every third cell of these boards holds an island, so that a solver has much to try.
+constexpr int kSpacing = 3;
 
 /// Created puzzles of one size that the rules alone solve, or that need trials.
 std::vector<Grid<int>> MakePuzzles(HeadlessGame& game, int side, bool searched) {
@@ -69,7 +72,7 @@ void TrialSearchDense(benchmark::State& state) {
         state.PauseTiming();
         int trials = 0;
         do {
-            MakeDenseBoard(*game, random, kMaxSide);
+            test::MakeRandomBoard(*game, random, kMaxSide, kMaxSide, kSpacing, false);
             game->TrialLimit = 100;
             SolvePuzzle(*game, 1, trials);
         } while (trials < 100);
@@ -86,7 +89,7 @@ BENCHMARK(TrialSearchDense)->Unit(benchmark::kMillisecond)->Iterations(20);
 void ConnectIslandsOnFullBoard(benchmark::State& state) {
     const auto game = std::make_unique<HeadlessGame>();
     std::mt19937 random(7);
-    MakeDenseBoard(*game, random, kMaxSide);
+    test::MakeRandomBoard(*game, random, kMaxSide, kMaxSide, kSpacing, false);
     std::int64_t laid = 0;
     for (auto _ : state) {
         RestoreIslands(*game);

@@ -33,35 +33,6 @@ TEST(FirstCollection, AStartWithoutPuzzlesMakesOne) {
     EXPECT_EQ(game.window.pointer, Pointer::Default);
 }
 
-TEST(FormLoad, WithoutColourSchemesNothingStarts) {
-    TestGame game;
-    StartRequest request;
-    request.appFolder = game.folder.Path("");
-    const auto fatal = Form_Load(game, request);
-    ASSERT_TRUE(fatal);
-    EXPECT_NE(fatal->find(game.folder.Path("all.col")), std::string::npos);
-    EXPECT_EQ(game.PuzzleNumber, 0);
-}
-
-TEST(FormLoad, ACollectionThatWasAskedForComesFirstAndTheLastOneIfItFails) {
-    TestGame game;
-    std::filesystem::copy_file(TIDEWALK_DATA_DIR "/all.col", "all.col");
-    const std::string last = game.folder.Write("last.tdw", std::string(kSmallPuzzle) + "\r\n" + kSmallPuzzle + "\r\n");
-    game.folder.Write("tide.cfg",
-                      "xp.col\r\n 2  0  250  12  1315860  16777215  128  12632256  1  0 \r\n" + last + "\r\n");
-    StartRequest request;
-    request.appFolder = game.folder.Path("");
-    request.collection = game.folder.Write("asked.tdw", std::string(kSmallPuzzle) + "\r\n");
-    EXPECT_EQ(Form_Load(game, request), std::nullopt);
-    EXPECT_EQ(game.CollectionPath, request.collection);
-    EXPECT_EQ(game.PuzzleNumber, 1);
-    request.collection = game.folder.Path("missing.tdw");
-    game.prompts.Expect("puzzle 1 not found", "vbinformation+vbok", 1);
-    EXPECT_EQ(Form_Load(game, request), std::nullopt);
-    EXPECT_EQ(game.CollectionPath, last);
-    EXPECT_EQ(game.PuzzleNumber, 2);
-}
-
 TEST(FirstCollection, AFolderThatTakesNoFileLeavesAnEmptyBoard) {
     TestGame game;
     std::filesystem::create_directories("TempPuzzles.tdw/inside");

@@ -79,13 +79,17 @@ TEST(FormLoad, ADeletedCollectionFallsBackToTheOneInTheFolder) {
     EXPECT_EQ(game.PuzzleNumber, 1);
 }
 
-TEST(FormLoad, ACollectionThatWasAskedForComesBeforeTheLastOne) {
+TEST(FormLoad, ACollectionThatWasAskedForComesFirstAndTheLastOneIfItFails) {
     TestGame game;
     FillFolder(game, 3);
     game.folder.Write("tide.cfg", Configuration(3, "puzzles.txt"));
     Start(game, game.folder.Write("other.tdw", std::string(kSmallPuzzle) + "\n"));
     EXPECT_EQ(game.CollectionPath, game.folder.Path("other.tdw"));
     EXPECT_EQ(game.PuzzleNumber, 1);
+    game.prompts.Expect("puzzle 1 not found", "vbinformation+vbok", kOk);
+    Start(game, game.folder.Path("missing.tdw"));
+    EXPECT_EQ(game.CollectionPath, "puzzles.txt");
+    EXPECT_EQ(game.PuzzleNumber, 3);
 }
 
 TEST(FormLoad, MessagesBeforeTheFirstSchemeWearTheDesktopsColours) {
