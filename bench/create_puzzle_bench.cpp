@@ -2,67 +2,52 @@
 // How long it takes to create a puzzle, to grow a layout alone, and to count a puzzle's solutions.
 #include <benchmark/benchmark.h>
 
-#include <memory>
-
 #include "generator/create_puzzle.h"
 #include "generator/grow.h"
-#include "model/job.h"
-#include "program/headless.h"
 #include "solver/count_solutions.h"
 
-namespace tidewalk {
+namespace tidewalk::bench {
 namespace {
 
-std::unique_ptr<HeadlessGame> GameOfSide(benchmark::State& state) {
-    auto game = std::make_unique<HeadlessGame>();
-    game->random.UseSeed(1);
-    game->Rows = game->Cols = static_cast<int>(state.range(0));
-    return game;
+BoardSize Square(const benchmark::State& state) {
+    const int side = static_cast<int>(state.range(0));
+    return {side, side};
 }
 
 void Create(benchmark::State& state) {
-    const auto game = GameOfSide(state);
-    const Job job(*game);
+    RandomSource random(1);
+    SolverBoard board;
     int failures = 0;
-    for (auto step : state) {
-        int grade = 0;
-        int failed = 0;
-        CreatePuzzle(*game, grade, failed);
-        failures += failed;
-    }
+    for (auto _ : state)
+        failures += CreatePuzzle(board, Square(state), random, WithoutEnd).solved ? 0 : 1;
     state.counters["failed"] = failures;
 }
 BENCHMARK(Create)->Arg(7)->Arg(15)->Arg(25)->Unit(benchmark::kMicrosecond);
 
 void Grow(benchmark::State& state) {
-    const auto game = GameOfSide(state);
-    NumberCells(*game);
-    for (auto step : state) {
-        game->IslandGrid.FillBoard(kOpenWater);
-        game->CrossGrid.Fill(Cross::Free);
-        game->BridgeTotals.Fill(0);
-        game->liveIslands.Clear();
-        game->GrowFromCell = 1;
-        PlaceIsland(*game, 1);
+    RandomSource random(1);
+    for (auto _ : state) {
+        GrowingLayout layout(Square(state));
+        layout.GrowFromCell = 1;
+        PlaceIsland(layout, 1);
         for (int count = 0; count != -1;)
-            GrowStep(*game, count, 100);
+            GrowStep(layout, random, count, 100);
     }
 }
 BENCHMARK(Grow)->Arg(7)->Arg(15)->Arg(25)->Unit(benchmark::kMicrosecond);
 
 void Count(benchmark::State& state) {
-    const auto game = GameOfSide(state);
-    const Job job(*game);
+    RandomSource random(1);
+    SolverBoard board;
     int undecided = 0;
     int unique = 0;
-    for (auto step : state) {
+    for (auto _ : state) {
         state.PauseTiming();
-        int grade = 0;
-        int failed = 1;
-        while (failed != 0)
-            CreatePuzzle(*game, grade, failed);
+        CreatedPuzzle created;
+        while (!created.solved)
+            created = CreatePuzzle(board, Square(state), random, WithoutEnd);
         state.ResumeTiming();
-        const auto count = CountSolutions(game->IslandGrid, game->Rows, game->Cols, 2);
+        const auto count = CountSolutions(created.puzzle, 2);
         undecided += !count.has_value();
         unique += count == 1;
     }
@@ -72,4 +57,4 @@ void Count(benchmark::State& state) {
 BENCHMARK(Count)->Arg(7)->Arg(15)->Arg(25)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
-}  // namespace tidewalk
+}  // namespace tidewalk::bench

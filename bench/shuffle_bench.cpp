@@ -6,10 +6,9 @@
 #include <fstream>
 #include <string>
 
-#include "generator/shuffle.h"
-#include "program/headless.h"
+#include "generator/shuffle_lines.h"
 
-namespace tidewalk {
+namespace tidewalk::bench {
 namespace {
 
 void Shuffle(benchmark::State& state) {
@@ -23,9 +22,8 @@ void Shuffle(benchmark::State& state) {
         for (int i = 0; i < kLines; ++i)
             file << std::string(700, '.') << i % kDistinct << "\r\n";
     }
-    SystemClock clock;
-    RandomSource random(clock);
-    for (auto step : state) {
+    RandomSource random;
+    for (auto _ : state) {
         ShuffleCounts counts;
         ShuffleLines(input, output, random, counts, [](const ShuffleCounts&) { return true; });
     }
@@ -35,4 +33,4 @@ void Shuffle(benchmark::State& state) {
 BENCHMARK(Shuffle)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-}  // namespace tidewalk
+}  // namespace tidewalk::bench

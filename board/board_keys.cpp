@@ -6,7 +6,7 @@
 #include <tuple>
 
 #include "board/board_mouse.h"
-#include "model/job.h"
+#include "game/job.h"
 
 namespace tidewalk {
 
@@ -17,55 +17,47 @@ bool IsArrow(BoardKey key) {
 }
 
 /// The first island from the cell `id` on, in steps of 1 or -1; 0 when there is none.
-CellNumber IslandFrom(const Game& game, CellNumber id, int step) {
-    for (; id >= 1 && id <= game.CellCount; id += step) {
-        if (game.IslandAt(id) > 0) return id;
+CellNumber IslandFrom(const Puzzle& puzzle, CellNumber id, int step) {
+    for (; id >= 1 && id <= puzzle.CellCount(); id += step) {
+        if (puzzle.IslandAt(id) > 0) return id;
     }
     return 0;
 }
 
-CellNumber SelectedIsland(const Game& game) {
-    return game.OnBoard(game.AnchorRow, game.AnchorCol) ? game.CellId(game.AnchorRow, game.AnchorCol) : 0;
-}
-
 void FocusSomeIsland(Game& game) {
-    const CellNumber selected = SelectedIsland(game);
-    FocusIsland(game, selected != 0 ? selected : IslandFrom(game, 1, 1));
+    const CellNumber selected = SelectedIsland(game.board);
+    FocusIsland(game, selected != 0 ? selected : IslandFrom(game.board.puzzle, 1, 1));
 }
 
 /// The island that a key without a move leads to; 0 for none.
-CellNumber Destination(const Game& game, BoardKey key, CellNumber from) {
+CellNumber Destination(const Puzzle& puzzle, BoardKey key, CellNumber from) {
     switch (key) {
         case BoardKey::First:
-            return IslandFrom(game, 1, 1);
+            return IslandFrom(puzzle, 1, 1);
         case BoardKey::Last:
-            return IslandFrom(game, game.CellCount, -1);
+            return IslandFrom(puzzle, puzzle.CellCount(), -1);
         case BoardKey::Previous:
-            return IslandFrom(game, from - 1, -1);
+            return IslandFrom(puzzle, from - 1, -1);
         case BoardKey::Next:
-            return IslandFrom(game, from + 1, 1);
+            return IslandFrom(puzzle, from + 1, 1);
         default:
-            return IsArrow(key) ? IslandTowards(game, key, from) : 0;
+            return IsArrow(key) ? IslandTowards(puzzle, key, from) : 0;
     }
 }
 
-/// Clicks the focused island. The pointer keeps its own cell: it may lie over another island.
+/// Clicks the focused island.
 void ClickFocused(Game& game) {
-    const CellPlace hover{game.HoverRow, game.HoverCol};
-    game.HoverRow = game.FocusRow;
-    game.HoverCol = game.FocusCol;
+    game.board.HoverRow = game.board.FocusRow;
+    game.board.HoverCol = game.board.FocusCol;
     Picture1_Click(game);
-    game.HoverRow = hover.row;
-    game.HoverCol = hover.col;
 }
 
 /// Joins the selected island with the focused one, if they are two, as the release of a button over it would.
 void ReleaseOnFocused(Game& game, MouseButton button, bool shift) {
-    const CellNumber selected = SelectedIsland(game);
-    const CellNumber focused = FocusedIsland(game);
+    const CellNumber selected = SelectedIsland(game.board);
+    const CellNumber focused = FocusedIsland(game.board);
     if (selected == 0 || selected == focused) return;
-    const Point at{static_cast<double>(game.IslandX[focused]), static_cast<double>(game.IslandY[focused])};
-    Picture1_MouseUp(game, button, shift, at);
+    Picture1_MouseUp(game, button, shift, game.board.At(focused));
 }
 
 /// How far the board has to move so that the cell around `at`, in the container, lies within `room`. Boards that were
@@ -78,31 +70,28 @@ double Shift(double at, double cell, double room) {
 
 /// Moves the board in its container just so far that the island shows.
 void BringIntoView(Game& game, CellNumber id) {
-    const Surface::Extent room = game.pictures.Picture5Extent();
-    const double right = Shift(game.Picture1.left + game.IslandX[id], game.CellSize, room.width);
-    const double down = Shift(game.Picture1.top + game.IslandY[id], game.CellSize, room.height);
+    BoardLayout& layout = game.board.layout;
+    const Surface::Extent room = game.pictures.ContainerExtent();
+    const Point at = game.board.At(id);
+    const double right = Shift(layout.Picture1.left + at.x, layout.CellSize, room.width);
+    const double down = Shift(layout.Picture1.top + at.y, layout.CellSize, room.height);
     if (right == 0 && down == 0) return;
-    game.Picture1.left += right;
-    game.Picture1.top += down;
-    game.pictures.PlacePicture1();
+    layout.Picture1.left += right;
+    layout.Picture1.top += down;
+    game.pictures.PlacePicture();
 }
 
 }  // namespace
 
-CellNumber FocusedIsland(const Game& game) {
-    if (!game.OnBoard(game.FocusRow, game.FocusCol) || game.IslandGrid(game.FocusRow, game.FocusCol) <= 0) return 0;
-    return game.CellId(game.FocusRow, game.FocusCol);
-}
-
-CellNumber IslandTowards(const Game& game, BoardKey key, CellNumber from) {
-    const auto [row, col] = game.PlaceOf(from);
+CellNumber IslandTowards(const Puzzle& puzzle, BoardKey key, CellNumber from) {
+    const auto [row, col] = puzzle.PlaceOf(from);
     const bool alongRow = key == BoardKey::Left || key == BoardKey::Right;
     const int sign = key == BoardKey::Left || key == BoardKey::Up ? -1 : 1;
     CellNumber found = from;
     std::tuple<bool, int, int> best;
-    for (CellNumber id = 1; id <= game.CellCount; ++id) {
-        if (game.IslandAt(id) <= 0) continue;
-        const auto [otherRow, otherCol] = game.PlaceOf(id);
+    for (CellNumber id = 1; id <= puzzle.CellCount(); ++id) {
+        if (puzzle.IslandAt(id) <= 0) continue;
+        const auto [otherRow, otherCol] = puzzle.PlaceOf(id);
         const int along = sign * (alongRow ? otherCol - col : otherRow - row);
         const int across = std::abs(alongRow ? otherRow - row : otherCol - col);
         if (along <= 0) continue;
@@ -117,27 +106,25 @@ CellNumber IslandTowards(const Game& game, BoardKey key, CellNumber from) {
 
 void FocusIsland(Game& game, CellNumber id) {
     if (id == 0) return;
-    game.FocusRow = game.CellRow[id];
-    game.FocusCol = game.CellCol[id];
+    Board& board = game.board;
+    board.FocusRow = board.puzzle.CellRow(id);
+    board.FocusCol = board.puzzle.CellCol(id);
     BringIntoView(game, id);
-    if (game.Line1.visible) {
-        game.Line1.x2 = game.IslandX[id];
-        game.Line1.y2 = game.IslandY[id];
-    }
+    if (board.Line1.visible) board.Line1.to = board.At(id);
     game.pictures.ShowOverlay();
 }
 
 void Picture1_GotFocus(Game& game) {
-    if (JobRuns(game)) return;
-    game.focusShows = true;
-    if (FocusedIsland(game) == 0) FocusSomeIsland(game);
+    if (game.job.BusyFlag()) return;
+    game.board.focusShows = true;
+    if (FocusedIsland(game.board) == 0) FocusSomeIsland(game);
     game.pictures.ShowOverlay();
 }
 
 void Picture1_KeyDown(Game& game, BoardKey key) {
-    if (JobRuns(game)) return;
-    game.focusShows = true;
-    const CellNumber focused = FocusedIsland(game);
+    if (game.job.BusyFlag()) return;
+    game.board.focusShows = true;
+    const CellNumber focused = FocusedIsland(game.board);
     if (focused == 0) {
         FocusSomeIsland(game);
     } else if (key == BoardKey::Lay) {
@@ -147,15 +134,14 @@ void Picture1_KeyDown(Game& game, BoardKey key) {
     } else if (key == BoardKey::Remove) {
         ReleaseOnFocused(game, MouseButton::Right, false);
     } else {
-        FocusIsland(game, Destination(game, key, focused));
+        FocusIsland(game, Destination(game.board.puzzle, key, focused));
     }
     game.pictures.ShowOverlay();
 }
 
-bool DropSelection(Game& game) {
-    if (JobRuns(game) || SelectedIsland(game) == 0) return false;
-    game.AnchorRow = game.AnchorCol = 0;
-    game.Line1.visible = false;
+bool LetGo(Game& game) {
+    if (game.job.BusyFlag() || SelectedIsland(game.board) == 0) return false;
+    DropSelection(game.board);
     game.pictures.ShowOverlay();
     return true;
 }

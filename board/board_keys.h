@@ -2,19 +2,16 @@
 // Playing with the keyboard: a focus that goes from island to island, and the moves made there.
 #pragma once
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 
 /// What a key asks of the board. `Previous` and `Next` go row by row, so that they come to every island.
 enum class BoardKey { Left, Right, Up, Down, First, Last, Previous, Next, Lay, LayDouble, Remove };
 
-/// The id of the island with the keyboard's focus, or 0.
-CellNumber FocusedIsland(const Game& game);
-
 /// The island that the arrow key `key` leads to from `from`: the nearest one in line, and where there is none the
 /// nearest one anywhere on that side. `from` itself when the board ends there.
-CellNumber IslandTowards(const Game& game, BoardKey key, CellNumber from);
+CellNumber IslandTowards(const Puzzle& puzzle, BoardKey key, CellNumber from);
 
 /// Gives the focus to the island `id`; 0 changes nothing. The rubber band follows, and a board that is larger than its
 /// container moves so that the island shows.
@@ -30,6 +27,6 @@ void Picture1_GotFocus(Game& game);
 void Picture1_KeyDown(Game& game, BoardKey key);
 
 /// Lets go of the selected island. False when none is selected or a job runs.
-bool DropSelection(Game& game);
+bool LetGo(Game& game);
 
 }  // namespace tidewalk

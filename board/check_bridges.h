@@ -3,22 +3,21 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
-#include "model/game.h"
+#include "board/board.h"
 
 namespace tidewalk {
 
-/// The bridges of the player that end at the island `id`.
-int CountBridges(const Game& game, CellNumber id);
+/// What a check found.
+struct BridgeCheck {
+    /// The first island, row by row, whose bridges are not as many as its number; nothing when all are right.
+    std::optional<CellPlace> wrong;
+    std::vector<std::string> lines;  ///< what was counted, a line an island, up to the first wrong one
+};
 
-/// The place of the first island, row by row, whose bridges are not as many as its number; nothing when all are right.
-/// Crossings and connections are not looked at. `List1` then tells what was counted.
-std::optional<CellPlace> CheckBridgeCounts(Game& game);
-
-/// The check button: "All Done!", or the first wrong island framed for a second.
-void cmdverify_Click(Game& game);
-
-/// The tick of the timer that takes the frame away.
-void Timer1_Timer(Game& game);
+/// Compares every island's bridges with its number. Crossings and connections are not looked at.
+BridgeCheck CheckBridgeCounts(const Board& board);
 
 }  // namespace tidewalk

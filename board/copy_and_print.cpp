@@ -3,37 +3,29 @@
 
 #include <algorithm>
 
-#include "board/render_puzzle.h"
-#include "model/collection_edit.h"
-#include "model/job.h"
+#include "board/print_pages.h"
+#include "drawing/render_puzzle.h"
+#include "game/job.h"
+#include "game/pick_file.h"
 #include "model/load_puzzle.h"
-#include "model/navigation.h"
 #include "model/numbers.h"
 
 namespace tidewalk {
 
 namespace {
 
-/// The puzzle as it is to be drawn. While a job runs the islands hold what they still need, so the given numbers are
-/// taken.
-std::unique_ptr<Puzzle> PuzzleToDraw(const Game& game) {
-    auto puzzle = std::make_unique<Puzzle>(game);
-    if (JobRuns(game)) puzzle->IslandGrid = puzzle->GivenGrid;
-    return puzzle;
-}
-
 void CopyPicture(Game& game, RenderMode mode, std::string_view kind, const std::string& done) {
-    const auto puzzle = PuzzleToDraw(game);
-    const RenderRequest request =
-        PictureRequest(mode, PrintTitle(kind, game.PuzzleNumber, game.CollectionPath), game.PrintLineWidth);
-    const bool copied =
-        game.clipboard.SetPicture([&](Surface& surface) { return RenderPuzzle(*puzzle, surface, request); });
-    game.window.SetText(Control::pb, copied ? done : "The picture could not be copied to clipboard");
+    const std::string title = PrintTitle(kind, game.collection.PuzzleNumber, game.collection.CollectionPath);
+    const RenderRequest request = PictureRequest(mode, title, game.options.PrintLineWidth);
+    // The window may ask for the picture again when the board holds another puzzle.
+    const bool copied = game.clipboard.SetPicture(
+        [puzzle = game.board.puzzle, request](Surface& surface) { return RenderPuzzle(puzzle, surface, request); });
+    game.window.SetText(WindowText::Status, copied ? done : "The picture could not be copied to clipboard");
 }
 
-void DrawPage(const Puzzle& puzzle, int number, const std::string& path, int lineWidth, Surface& page,
-              const Surface::Area& printable) {
-    RenderPuzzle(puzzle, page, PageRequest(PrintTitle("Puzzle#", number, path), lineWidth, printable));
+/// The page of the puzzle on the board.
+PuzzlePage CurrentPage(const Game& game) {
+    return {game.board.puzzle, PrintTitle("Puzzle#", game.collection.PuzzleNumber, game.collection.CollectionPath)};
 }
 
 /// The printer for the next document: the last choice as long as it is there, else the system's.
@@ -78,13 +70,10 @@ std::unique_ptr<PrintDocument> BeginDocument(Game& game) {
 /// True when there is a puzzle that may be printed now; else the player is told.
 bool CanPrintCurrent(Game& game) {
     if (RefuseWhileBusy(game)) return false;
-    if (game.PuzzleNumber >= 1) return true;
+    if (game.collection.PuzzleNumber >= 1) return true;
     game.prompts.Show("No puzzle to print", "vbinformation+vbok");
     return false;
 }
-
-/// How the printing of a range ended.
-enum class RangeEnd { Printed, Cancelled, Failed };
 
 struct PrintRange {
     std::string path;
@@ -93,67 +82,60 @@ struct PrintRange {
     int Count() const { return end - start + 1; }
 };
 
-/// Draws a page for each puzzle of the range; one that cannot be read leaves it empty. The current puzzle is not
-/// touched: each page has a puzzle of its own. `error` tells why the printing failed.
-RangeEnd PrintPages(Game& game, const PrintRange& range, PrintDocument& document, std::string& error) {
-    const auto puzzle = std::make_unique<Puzzle>();
-    for (int done = 0; done < range.Count(); ++done) {
+/// Draws a page for each puzzle of the range. The current puzzle is not touched: each page has a puzzle of its own.
+PrintEnd PrintRangePages(Game& game, const PrintRange& range, PrintDocument& document) {
+    const auto page = [&](int number) {
+        CloseFiles(game);
+        game.window.SetProgress(number, range.Count());
+        return PageOf(range.path, range.start + number);
+    };
+    const auto mayGoOn = [&] {
         PollEvents(game);
-        if (CancelRequested(game)) return RangeEnd::Cancelled;
-        game.window.SetProgress(done, range.Count());
-        const int number = range.start + done;
-        // The page comes before the puzzle, so that the last one is not followed by an empty sheet.
-        if (done > 0 && !document.NewPage()) {
-            error = document.Error();
-            return RangeEnd::Failed;
-        }
-        if (ReadPuzzle(game.files, range.path, number, *puzzle)) {
-            DrawPage(*puzzle, number, range.path, game.PrintLineWidth, document.Page(), document.Printable());
-        }
-    }
-    if (document.End()) return RangeEnd::Printed;
-    error = document.Error();
-    return RangeEnd::Failed;
+        return !game.job.MustStop();
+    };
+    return PrintPages(document, range.Count(), game.options.PrintLineWidth, page, mayGoOn);
 }
 
-void ShowRangeEnd(Game& game, const PrintRange& range, RangeEnd end, const std::string& error) {
-    if (end == RangeEnd::Printed) {
-        game.prompts.Show("Printed" + Str(range.Count()) + " puzzles from file:\r\n" + range.path,
-                          "vbinformation+vbok");
-    } else if (end == RangeEnd::Failed) {
-        ShowPrintError(game, error);
-    } else {
-        game.window.SetText(Control::pb, "Printing cancelled");
+void ShowRangeEnd(Game& game, const PrintRange& range, PrintEnd end, const std::string& error) {
+    switch (end) {
+        case PrintEnd::Printed:
+            game.prompts.Show("Printed" + Str(range.Count()) + " puzzles from file:\r\n" + range.path,
+                              "vbinformation+vbok");
+            break;
+        case PrintEnd::Failed:
+            ShowPrintError(game, error);
+            break;
+        case PrintEnd::Cancelled:
+            game.window.SetText(WindowText::Status, "Printing cancelled");
+            break;
     }
 }
 
 /// Prints the range and brings the puzzle that was current back.
 void PrintFromFile(Game& game, const PrintRange& range) {
-    const std::string oldPath = game.CollectionPath;
-    const int oldNumber = game.PuzzleNumber;
+    const Collection before = game.collection;
     auto document = BeginDocument(game);
     if (!document) return;
-    RangeEnd end = RangeEnd::Failed;
+    PrintEnd end = PrintEnd::Failed;
     bool replaced = false;
-    std::string error;
     {
         const BusyPointer busy(game);
         const Job job(game);
-        end = PrintPages(game, range, *document, error);
-        replaced = job.Superseded();
+        end = PrintRangePages(game, range, *document);
+        replaced = game.job.Superseded();
     }
+    const std::string error = end == PrintEnd::Failed ? document->Error() : "";
     // What was not printed to its end goes away before anything is said about it.
     document.reset();
-    game.CancelFlag = NoValue;
-    if (game.ending) return;
+    game.job.TakeBackCancel();
+    if (game.job.Ending()) return;
     // Another puzzle that the player has gone to meanwhile is the current one now.
-    if (!replaced && oldNumber >= 1) LoadPuzzle(game, oldPath, oldNumber);
+    if (!replaced && before.PuzzleNumber >= 1) LoadPuzzle(game, before.CollectionPath, before.PuzzleNumber);
     ShowRangeEnd(game, range, end, error);
 }
 
-bool TellNoPuzzles(Game& game, const std::string& path) {
+void TellNoPuzzles(Game& game, const std::string& path) {
     game.prompts.Show("No puzzles in this file: " + path, "vbcritical+vbok");
-    return false;
 }
 
 }  // namespace
@@ -171,15 +153,15 @@ void mnuprintcurrent_Click(Game& game) {
     if (game.prompts.Show("Print Current Puzzle and its Solution?", "vbquestion+vbyesno") != kYes) return;
     auto document = BeginDocument(game);
     if (!document) return;
-    std::string error;
+    PrintEnd end = PrintEnd::Failed;
     {
         const BusyPointer busy(game);
-        DrawPage(game, game.PuzzleNumber, game.CollectionPath, game.PrintLineWidth, document->Page(),
-                 document->Printable());
-        if (!document->End()) error = document->Error();
+        end = PrintPages(
+            *document, 1, game.options.PrintLineWidth, [&](int) { return CurrentPage(game); }, WithoutEnd);
     }
+    const std::string error = document->Error();
     document.reset();
-    if (error.empty()) {
+    if (end == PrintEnd::Printed) {
         game.prompts.Show("Printed", "vbinformation+vbok");
     } else {
         ShowPrintError(game, error);
@@ -189,48 +171,49 @@ void mnuprintcurrent_Click(Game& game) {
 void mnuprintpreview_Click(Game& game) {
     if (!CanPrintCurrent(game)) return;
     game.printers.Preview(CurrentPrinter(game), [&game](Surface& page, const Surface::Area& printable) {
-        DrawPage(game, game.PuzzleNumber, game.CollectionPath, game.PrintLineWidth, page, printable);
+        DrawPage(CurrentPage(game), game.options.PrintLineWidth, page, printable);
     });
 }
 
 void control27_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
-    Form5Fields fields;
-    fields.FileNow = game.CollectionPath;
-    game.form5.ShowModal(fields);
-    if (fields.Tag != "Y" || JobRuns(game) || game.ending) return;
-    PrintFromFile(game, {fields.FileNow, RoundedVal(fields.Text1), RoundedVal(fields.Text2)});
+    PrintRequest request;
+    request.collection = game.collection.CollectionPath;
+    if (!game.questions.AskPrint(request) || game.job.BusyFlag() || game.job.Ending()) return;
+    PrintFromFile(game, {request.collection, RoundedVal(request.first), RoundedVal(request.last)});
 }
 
-void Form5_Activate(Game& game, Form5Fields& fields) {
-    fields.printers = game.printers.Names();
-    fields.Combo1 = CurrentPrinter(game);
-    fields.count = CountLines(game, fields.FileNow);
-    fields.Text1 = "1";
-    fields.Text2 = NumText(fields.count);
+void Form5_Activate(Game& game, PrintRequest& request) {
+    request.printers = game.printers.Names();
+    request.printer = CurrentPrinter(game);
+    request.puzzleCount = CountPuzzles(game, request.collection);
+    request.first = "1";
+    request.last = NumText(request.puzzleCount);
 }
 
-void Form5_gf1_Click(Game& game, Form5Fields& fields) {
+void Form5_gf1_Click(Game& game, PrintRequest& request) {
     const std::string path = PickFile(game, {"Select a Puzzle file to print", "*.tdw;*.txt;*.dat", "Tidewalk Files",
                                              game.AppFolder, FileRequest::Mode::Open});
     if (path.empty()) return;
-    fields.FileNow = path;
-    fields.count = CountLines(game, path);
-    fields.Text2 = NumText(fields.count);
-    if (fields.count == 0) TellNoPuzzles(game, path);
+    request.collection = path;
+    request.puzzleCount = CountPuzzles(game, path);
+    request.last = NumText(request.puzzleCount);
+    if (request.puzzleCount == 0) TellNoPuzzles(game, path);
 }
 
-bool Form5_Command1_Click(Game& game, Form5Fields& fields) {
-    game.printerName = fields.Combo1;
-    fields.count = CountLines(game, fields.FileNow);
-    if (fields.count == 0) return TellNoPuzzles(game, fields.FileNow);
-    const int start = RoundedVal(fields.Text1);
-    const int end = RoundedVal(fields.Text2);
-    if (end < start || start < 1 || end > fields.count) {
+bool Form5_Command1_Click(Game& game, PrintRequest& request) {
+    game.printerName = request.printer;
+    request.puzzleCount = CountPuzzles(game, request.collection);
+    if (request.puzzleCount == 0) {
+        TellNoPuzzles(game, request.collection);
+        return false;
+    }
+    const int start = RoundedVal(request.first);
+    const int end = RoundedVal(request.last);
+    if (end < start || start < 1 || end > request.puzzleCount) {
         game.prompts.Show("Incorrect start or end puzzle number", "vbcritical+vbok");
         return false;
     }
-    fields.Tag = "Y";
     return true;
 }
 

@@ -2,7 +2,7 @@
 // Copying the puzzle to the clipboard, printing it, and printing puzzles out of a file.
 #pragma once
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 
@@ -20,13 +20,13 @@ void mnuprintpreview_Click(Game& game);
 /// A puzzle that cannot be read leaves its page empty.
 void control27_Click(Game& game);
 
-/// Fills the window's numbers and printers when it appears.
-void Form5_Activate(Game& game, Form5Fields& fields);
+/// The window appears: counts the puzzles, suggests all of them, and offers the printers.
+void Form5_Activate(Game& game, PrintRequest& request);
 
 /// The file picker of the window: takes the chosen file and counts its puzzles, and says so when there are none.
-void Form5_gf1_Click(Game& game, Form5Fields& fields);
+void Form5_gf1_Click(Game& game, PrintRequest& request);
 
-/// OK: checks the fields. Returns true when the window is to close with the tag "Y"; else the player was told why not.
-bool Form5_Command1_Click(Game& game, Form5Fields& fields);
+/// OK: checks what was typed. True when the window is to close; else the player was told why not.
+bool Form5_Command1_Click(Game& game, PrintRequest& request);
 
 }  // namespace tidewalk

@@ -1,200 +1,131 @@
 // SPDX-License-Identifier: MIT
 #include "board/drawing.h"
 
-#include <utility>
-
-#include "board/check_bridges.h"
-#include "board/layout.h"
-#include "model/contrast.h"
+#include "drawing/contrast.h"
+#include "drawing/double_line.h"
 #include "model/numbers.h"
 
 namespace tidewalk {
 
-namespace {
-
-void DrawLine(Game& game, CellNumber a, CellNumber b, Colour colour) {
-    game.pictures.Picture1().Line(game.IslandX[a], game.IslandY[a], game.IslandX[b], game.IslandY[b], colour);
+void BoardDrawing::DrawLine(CellNumber a, CellNumber b, Colour colour) {
+    const Point from = board_.At(a);
+    const Point to = board_.At(b);
+    picture_.Line(from.x, from.y, to.x, to.y, colour);
 }
 
-void DrawDouble(Game& game, CellNumber a, CellNumber b, Colour colour) {
-    DrawDoubleLine(game.pictures.Picture1(), game.IslandX[a], game.IslandY[a], game.IslandX[b], game.IslandY[b],
-                   game.DoubleGap, colour);
+void BoardDrawing::DrawDouble(CellNumber a, CellNumber b, Colour colour) {
+    const Point from = board_.At(a);
+    const Point to = board_.At(b);
+    DrawDoubleLine(picture_, from.x, from.y, to.x, to.y, board_.layout.DoubleGap, colour);
 }
 
-/// The lines to the islands that the solver still holds for open.
-void DrawOpenNeighbours(Game& game) {
-    for (CellNumber id = 1; id <= game.CellCount; ++id) {
-        if (game.IslandAt(id) <= 0) continue;
-        for (const CellNumber neighbour : game.OpenNeighbours(game.CellRow[id], game.CellCol[id])) {
-            DrawLine(game, id, neighbour, game.GridColour);
+/// The lines to the islands that the solver still held for open.
+void BoardDrawing::DrawOpenNeighbours() {
+    for (CellNumber id = 1; id <= board_.puzzle.CellCount(); ++id) {
+        if (board_.puzzle.IslandAt(id) <= 0) continue;
+        for (const CellNumber neighbour : board_.OpenNeighbours[id])
+            DrawLine(id, neighbour, options_.GridColour);
+    }
+}
+
+void BoardDrawing::DrawLinks() {
+    for (const Link& link : board_.puzzle.LinkList) {
+        if (!showsSolution_ || link.Bridges() == 1) {
+            DrawLinkLine(link.first, link.second);
+        } else if (link.Bridges() == 2) {
+            DrawDouble(link.first, link.second, options_.GridColour);
         }
     }
-}
-
-void DrawLinks(Game& game, bool showSolution) {
-    for (int i = 1; i <= game.LinkCount(); ++i) {
-        const Link& link = game.LinkList[i];
-        if (!showSolution || link.state == 1) {
-            DrawLinkLine(game, link.first, link.second);
-        } else if (link.state == 0) {
-            DrawDouble(game, link.first, link.second, game.GridColour);
-        }
-    }
-}
-
-void DrawPlacedBridge(Game& game, CellNumber a, CellNumber b) {
-    const int bridges = game.BridgeState(a, b);
-    if (bridges == 0 || game.IslandAt(a) < 1 || game.IslandAt(b) < 1) return;
-    Surface& picture = game.pictures.Picture1();
-    picture.SetDrawWidth(2 * game.LineWidth);
-    if (bridges == 1) {
-        // What was a double bridge a move ago leaves its second stroke.
-        DrawDouble(game, a, b, game.Picture1BackColor);
-        DrawLine(game, a, b, game.ChainColour);
-    } else {
-        DrawDouble(game, a, b, game.ChainColour);
-    }
-    DrawIsland(game, a);
-    DrawIsland(game, b);
 }
 
 /// The island's shape around its position, `half` twips to each side of a circle and three quarters of that of a
 /// square.
-void DrawShape(Game& game, CellNumber id, double half, Colour colour) {
-    Surface& picture = game.pictures.Picture1();
-    const double x = game.IslandX[id];
-    const double y = game.IslandY[id];
-    if (game.NodeShape == 1) {
-        picture.Circle(x, y, half, colour, colour);
+void BoardDrawing::DrawShape(CellNumber id, double half, Colour colour) {
+    const auto [x, y] = board_.At(id);
+    if (options_.NodeShape == 1) {
+        picture_.Circle(x, y, half, colour, colour);
     } else {
         const double side = half - half / 4;
-        picture.FilledBox(x - side, y - side, x + side, y + side, colour);
+        picture_.FilledBox(x - side, y - side, x + side, y + side, colour);
     }
 }
 
 /// What the number stands on, after the island's shape is drawn: the shape's colour, or that of the pale inside which
-/// the player may wish for islands that have all their bridges. The rim stays, so that a later move covers all of it.
-Colour DrawIslandShape(Game& game, CellNumber id) {
-    DrawShape(game, id, game.HalfCell, game.NodeColour);
-    if (game.ShowFinished == 0 || CountBridges(game, id) != game.IslandAt(id)) return game.NodeColour;
+/// the player may wish for islands that have all their bridges. The stored solution has nothing to do with how far the
+/// player is.
+Colour BoardDrawing::DrawIslandShape(CellNumber id) {
+    const double half = board_.layout.HalfCell;
+    DrawShape(id, half, options_.NodeColour);
+    if (options_.ShowFinished == 0 || showsSolution_) return options_.NodeColour;
+    if (board_.BridgeState.CountAt(id) != board_.puzzle.IslandAt(id)) return options_.NodeColour;
     constexpr double kRim = 0.12;
     constexpr double kPaleness = 0.8;
-    const Colour pale = Mixed(game.NodeColour, game.Picture1BackColor, kPaleness);
-    DrawShape(game, id, game.HalfCell * (1 - kRim), pale);
+    const Colour pale = Mixed(options_.NodeColour, options_.BoardBackground(), kPaleness);
+    DrawShape(id, half * (1 - kRim), pale);
     return pale;
 }
 
 /// A number in the very colour of its island would be invisible, and the default options make both black. On the pale
 /// inside of a finished island hardly any of the players' colours can be read.
-Colour NumberColour(const Game& game, Colour under) {
-    if (under != game.NodeColour) return LegibleOn(under, game.NodeColour, kShapeContrast);
-    return game.GivenColour == under ? LegibleOn(under, game.GivenColour) : game.GivenColour;
+Colour BoardDrawing::NumberColour(Colour under) const {
+    if (under != options_.NodeColour) return LegibleOn(under, options_.NodeColour, kShapeContrast);
+    return options_.GivenColour == under ? LegibleOn(under, options_.GivenColour) : options_.GivenColour;
 }
 
-}  // namespace
-
-void RedrawBoard(Game& game, bool showSolution) {
-    Surface& picture = game.pictures.Picture1();
-    // The stored solution has nothing to do with how far the player is.
-    const int finished = std::exchange(game.ShowFinished, showSolution ? 0 : game.ShowFinished);
-    picture.Clear(game.Picture1BackColor);
-    DrawCellOutlines(game);
-    DrawOpenNeighbours(game);
-    DrawLinks(game, showSolution);
-    for (CellNumber id = 1; id <= game.CellCount; ++id)
-        DrawIsland(game, id);
-    if (!showSolution) DrawPlacedBridges(game);
-    game.ShowFinished = finished;
+void BoardDrawing::RedrawBoard(bool showSolution) {
+    showsSolution_ = showSolution;
+    picture_.SetFontSize(board_.layout.fontSize);
+    picture_.Clear(options_.BoardBackground());
+    DrawCellOutlines();
+    DrawOpenNeighbours();
+    DrawLinks();
+    for (CellNumber id = 1; id <= board_.puzzle.CellCount(); ++id)
+        DrawIsland(id);
+    if (!showSolution) DrawPlacedBridges();
 }
 
-void ShowSolution(Game& game) {
-    const int shown = std::exchange(game.ShowLines, 1);
-    RedrawBoard(game, true);
-    game.ShowLines = shown;
-}
-
-void DrawCellOutlines(Game& game) {
-    Surface& picture = game.pictures.Picture1();
-    picture.SetDrawWidth(1);
-    for (CellNumber id = 1; id <= game.CellCount; ++id) {
-        const int x = game.IslandX[id];
-        const int y = game.IslandY[id];
-        picture.Box(x - game.HalfCell, y - game.HalfCell, x + game.HalfCell, y + game.HalfCell,
-                    game.SchemeColours[kOutlineEntry]);
+void BoardDrawing::DrawCellOutlines() {
+    picture_.SetDrawWidth(1);
+    const int half = board_.layout.HalfCell;
+    for (CellNumber id = 1; id <= board_.puzzle.CellCount(); ++id) {
+        const auto [x, y] = board_.At(id);
+        picture_.Box(x - half, y - half, x + half, y + half, options_.SchemeColours[kOutlineEntry]);
     }
-    picture.SetDrawWidth(game.LineWidth);
+    picture_.SetDrawWidth(board_.layout.LineWidth);
 }
 
-void DrawIsland(Game& game, CellNumber id) {
-    const int number = game.IslandAt(id);
+void BoardDrawing::DrawIsland(CellNumber id) {
+    const int number = board_.puzzle.IslandAt(id);
     if (number <= 0) return;
-    Surface& picture = game.pictures.Picture1();
     const std::string text = NumText(number);
-    const Surface::Extent extent = picture.TextExtent(text);
-    const int dx = RoundHalfEven((game.CellSize - extent.width) / 2 - game.HalfCell);
-    const int dy = RoundHalfEven((game.CellSize - extent.height) / 2 - game.HalfCell);
-    const Colour under = DrawIslandShape(game, id);
-    picture.Print(game.IslandX[id] + dx, game.IslandY[id] + dy, text, NumberColour(game, under));
+    const Surface::Extent extent = picture_.TextExtent(text);
+    const BoardLayout& layout = board_.layout;
+    const int dx = RoundHalfEven((layout.CellSize - extent.width) / 2 - layout.HalfCell);
+    const int dy = RoundHalfEven((layout.CellSize - extent.height) / 2 - layout.HalfCell);
+    const Colour under = DrawIslandShape(id);
+    const auto [x, y] = board_.At(id);
+    picture_.Print(x + dx, y + dy, text, NumberColour(under));
 }
 
-void DrawLinkLine(Game& game, CellNumber a, CellNumber b) {
-    if (game.ShowLines != 0) DrawLine(game, a, b, game.GridColour);
+/// The view of the solution shows all its lines, whether or not lines are to be shown otherwise.
+void BoardDrawing::DrawLinkLine(CellNumber a, CellNumber b) {
+    if (options_.ShowLines != 0 || showsSolution_) DrawLine(a, b, options_.GridColour);
 }
 
-void DrawDoubleLine(Surface& target, double x1, double y1, double x2, double y2, double gap, Colour colour) {
-    if (x1 == x2) {
-        target.Line(x1, y1, x1, y2, colour);
-        target.Line(x1 + gap, y1, x1 + gap, y2, colour);
-    }
-    if (y1 == y2) {
-        target.Line(x1, y1, x2, y1, colour);
-        target.Line(x1, y1 + gap, x2, y1 + gap, colour);
-    }
-}
-
-void DrawPlacedBridges(Game& game) {
-    for (CellNumber a = 1; a <= game.CellCount; ++a) {
-        const auto [row, col] = game.PlaceOf(a);
-        for (int other = 1; other < row; ++other)
-            DrawPlacedBridge(game, a, game.CellId(other, col));
-        for (int other = 1; other <= game.Cols; ++other) {
-            if (other != col) DrawPlacedBridge(game, a, game.CellId(row, other));
+void BoardDrawing::DrawPlacedBridges() {
+    picture_.SetDrawWidth(2 * board_.layout.LineWidth);
+    for (const auto& [a, b, bridges] : board_.BridgeState.InBothOrders()) {
+        if (bridges == 1) {
+            // The strip where the second stroke of a double bridge would lie is wiped.
+            DrawDouble(a, b, options_.BoardBackground());
+            DrawLine(a, b, options_.ChainColour);
+        } else {
+            DrawDouble(a, b, options_.ChainColour);
         }
-        for (int other = row + 1; other <= game.Rows; ++other)
-            DrawPlacedBridge(game, a, game.CellId(other, col));
+        DrawIsland(a);
+        DrawIsland(b);
     }
-    game.pictures.Picture1().SetDrawWidth(game.LineWidth);
-}
-
-void DrawBridge(Game& game, CellNumber a, CellNumber b, int bridges) {
-    Surface& picture = game.pictures.Picture1();
-    picture.SetDrawWidth(2 * game.LineWidth);
-    if (bridges == 1) {
-        DrawLine(game, a, b, game.ChainColour);
-    } else {
-        DrawDouble(game, a, b, game.ChainColour);
-    }
-    picture.SetDrawWidth(game.LineWidth);
-}
-
-void EraseBridge(Game& game, CellNumber a, CellNumber b) {
-    Surface& picture = game.pictures.Picture1();
-    picture.SetDrawWidth(3 * game.LineWidth);
-    DrawDouble(game, a, b, game.Picture1BackColor);
-    picture.SetDrawWidth(game.LineWidth);
-    DrawLinkLine(game, a, b);
-}
-
-void DrawnBoard::LayoutBoard(Game& game) {
-    tidewalk::LayoutBoard(game);
-}
-
-void DrawnBoard::RedrawBoard(Game& game, bool showSolution) {
-    tidewalk::RedrawBoard(game, showSolution);
-}
-
-void DrawnBoard::ShowSolution(Game& game) {
-    tidewalk::ShowSolution(game);
+    picture_.SetDrawWidth(board_.layout.LineWidth);
 }
 
 }  // namespace tidewalk

@@ -34,6 +34,11 @@ struct Wishes {
     std::function<int(Console&)> command;  ///< the one that was chosen
 };
 
+/// The puzzles that RANGE means; nothing for a text that is none.
+std::optional<PuzzleRange> RangeOf(const std::string& text) {
+    return text == "all" ? PuzzleRange{} : ParsePuzzleRange(text);
+}
+
 /// Declares the commands. `Wishes` has to outlive the parser.
 class Parser {
  public:
@@ -42,9 +47,8 @@ class Parser {
           app_("Lists, solves, checks and makes bridges puzzles in collection files.", "tidewalk-cli") {
         app_.set_version_flag("-v,--version", "tidewalk-cli " TIDEWALK_VERSION);
         app_.require_subcommand(1);
-        app_.footer(
-            "A file name of \"-\" is the standard input or output.\n"
-            "Exit code: 0 done, 1 something failed or was refused, 2 wrong usage, 130 stopped with Ctrl-C.");
+        app_.footer(R"(A file name of "-" is the standard input or output.)"
+                    "\nExit code: 0 done, 1 something failed or was refused, 2 wrong usage, 130 stopped with Ctrl-C.");
         AddReaders();
         AddCreate();
         AddShow();
@@ -87,7 +91,7 @@ class Parser {
         CLI::App* const solve = Command("solve", "Solve puzzles", wishes_.solve, SolvePuzzles);
         AddFile(solve, wishes_.solve.file);
         solve->add_option("RANGE", wishes_.range, "Which puzzles: N, A-B or all")->check([](const std::string& text) {
-            return ParsePuzzleRange(text) ? "" : "\"" + text + "\" is no number, no range A-B and not \"all\"";
+            return RangeOf(text) ? "" : "\"" + text + "\" is no number, no range A-B and not \"all\"";
         });
         solve->add_option("--out", wishes_.solve.out, "Write the solved records to this file")->type_name("FILE");
         wishes_.solve.maxTrials = kDefaultTrials;
@@ -225,7 +229,7 @@ int RunCommandLine(Console& console, std::vector<std::string> arguments) {
             if (error.get_exit_code() != 0) return WrongUsage(console, error.what());
             return parser.App().exit(error, console.out, console.err);
         }
-        wishes.solve.range = ParsePuzzleRange(wishes.range).value_or(PuzzleRange{});
+        wishes.solve.range = RangeOf(wishes.range).value_or(PuzzleRange{});
         if (const std::string wrong = Contradiction(wishes); !wrong.empty()) return WrongUsage(console, wrong);
         return wishes.command(console);
     } catch (const std::exception& error) {

@@ -5,121 +5,79 @@
 #include <sstream>
 #include <utility>
 
+#include "cli/collection_lines.h"
 #include "cli/commands.h"
-#include "cli/line_reader.h"
 #include "cli/ordered_work.h"
 #include "cli/puzzle_facts.h"
 #include "cli/report.h"
-#include "model/load_puzzle.h"
 #include "solver/count_solutions.h"
 
 namespace tidewalk {
 
 namespace {
 
-struct Checked {
-    int number = 0;
-    double part = -1;
-    bool isRecord = false;
-    std::string lineStart;
-    int rows = 0;
-    int cols = 0;
-    std::string stored;          ///< "none", "valid" or "wrong"
-    std::optional<int> counted;  ///< 0, 1, or 2 for more; nothing when there was no time to tell
-};
+/// How many solutions there are: 0, 1, or 2 for more; nothing when there was no time to tell.
+using SolutionCount = std::optional<int>;
 
 /// Counts the solutions up to two, for as long as there is time.
-std::optional<int> CountInTime(Console& console, const Puzzle& puzzle, double seconds) {
+SolutionCount CountInTime(const Puzzle& puzzle, double seconds, const MayGoOn& mayGoOn) {
     using Clock = std::chrono::steady_clock;
     const auto start = Clock::now();
-    const auto mayGoOn = [&] {
-        // The results' stream belongs to another thread, so only the signal is looked at.
-        return console.stopSignal == 0 && std::chrono::duration<double>(Clock::now() - start).count() < seconds;
-    };
-    return CountSolutionsWhile(puzzle.GivenGrid, puzzle.Rows, puzzle.Cols, 2, mayGoOn);
+    return CountSolutionsWhile(
+        puzzle, 2, [&] { return mayGoOn() && std::chrono::duration<double>(Clock::now() - start).count() < seconds; });
 }
 
-Checked CheckLine(Console& console, Puzzle& puzzle, const NumberedLine& line, double seconds) {
-    Checked checked;
-    checked.number = line.number;
-    checked.part = line.part;
-    checked.isRecord = ReadPuzzleRecord(line.text, puzzle);
-    if (!checked.isRecord) return checked;
-    checked.lineStart = LineStart(line.number, puzzle);
-    checked.rows = puzzle.Rows;
-    checked.cols = puzzle.Cols;
-    checked.stored = FactsOf(puzzle).solution;
-    checked.counted = CountInTime(console, puzzle, seconds);
-    return checked;
+std::string Word(SolutionCount count) {
+    if (!count) return "undecided";
+    return *count == 0 ? "none" : *count == 1 ? "one" : "several";
 }
 
-std::string SolutionsWord(const Checked& checked) {
-    if (!checked.counted) return "undecided";
-    return *checked.counted == 0 ? "none" : *checked.counted == 1 ? "one" : "several";
-}
-
-/// What is wrong with the puzzle; "" when nothing is.
-std::string FaultOf(const Checked& checked, double seconds) {
-    if (!checked.isRecord) return kNoRecord;
-    std::string fault = checked.stored == "wrong" ? "the stored bridges are no solution" : "";
+/// What is wrong with a puzzle; "" when nothing is.
+std::string FaultOf(StoredSolution stored, SolutionCount count, double seconds) {
+    std::string fault = stored == StoredSolution::Wrong ? "the stored bridges are no solution" : "";
     const auto add = [&fault](const std::string& text) { fault += (fault.empty() ? "" : "; ") + text; };
-    if (!checked.counted) {
+    if (!count) {
         std::ostringstream text;
         text << "undecided after " << seconds << " s";
         add(text.str());
-    } else if (*checked.counted != 1) {
-        add(*checked.counted == 0 ? "there is no solution" : "there is more than one solution");
+    } else if (*count != 1) {
+        add(*count == 0 ? "there is no solution" : "there is more than one solution");
     }
     return fault;
 }
 
-Json JsonOf(const Checked& checked, const std::string& fault) {
-    Json object{{"number", checked.number}};
-    if (checked.isRecord) {
-        object["rows"] = checked.rows;
-        object["cols"] = checked.cols;
-        object["stored"] = checked.stored;
-        object["solutions"] = SolutionsWord(checked);
-        object["unique"] = checked.counted ? Json(*checked.counted == 1) : Json(nullptr);
-    }
-    if (!fault.empty()) object["error"] = fault;
-    return object;
-}
-
-std::string TextOf(const Checked& checked) {
-    if (!checked.isRecord) return "";
-    return checked.lineStart + "  stored " + Padded(checked.stored, -5) + "  solutions " + SolutionsWord(checked);
+PuzzleReport Checked(const NumberedLine& line, double seconds, const MayGoOn& mayGoOn) {
+    constexpr int kStoredWidth = 5;
+    PuzzleReport report;
+    const std::optional<Puzzle> puzzle = BeginReport(line, report);
+    if (!puzzle) return report;
+    const StoredSolution stored = JudgeStored(*puzzle);
+    const SolutionCount count = CountInTime(*puzzle, seconds, mayGoOn);
+    report.fault = FaultOf(stored, count, seconds);
+    report.line += "  stored " + Padded(Word(stored), -kStoredWidth) + "  solutions " + Word(count);
+    report.fields.emplace_back("stored", Word(stored));
+    report.fields.emplace_back("solutions", Word(count));
+    report.fields.emplace_back("unique", count ? JsonValue(*count == 1) : JsonValue(nullptr));
+    return report;
 }
 
 }  // namespace
 
 int CheckPuzzles(Console& console, const CheckOptions& options) {
-    LineReader lines(console, options.file);
-    Progress progress(console, true);
-    std::vector<Puzzle> puzzles(static_cast<std::size_t>(options.jobs));
-    int failures = 0;
-    {
-        Report report(console, options.json);
-        WorkSteps<NumberedLine, Checked> steps;
-        steps.next = [&](NumberedLine& line) { return lines.Next(line); };
-        steps.work = [&](int worker, NumberedLine& line) {
-            return CheckLine(console, puzzles[static_cast<std::size_t>(worker)], line, options.seconds);
-        };
-        steps.take = [&](Checked& checked) {
-            if (console.Stopped()) return false;
-            const std::string fault = FaultOf(checked, options.seconds);
-            if (!fault.empty()) {
-                ++failures;
-                progress.Hide();
-                SayOfPuzzle(console, options.file, checked.number, fault);
-            }
-            report.Add(TextOf(checked), JsonOf(checked, fault));
-            progress.Show(checked.part, std::to_string(checked.number) + " puzzles");
-            return true;
-        };
-        OrderedWork<NumberedLine, Checked>(std::move(steps)).Run(options.jobs);
-    }
-    return ExitCodeOf(console, failures);
+    CollectionLines lines(console, options.file);
+    CollectionReport report(console, options.file, options.json);
+    const MayGoOn mayGoOn = UntilStopSignal(console);
+    WorkSteps<NumberedLine, PuzzleReport> steps;
+    steps.next = [&](NumberedLine& line) { return lines.Next(line); };
+    steps.work = [&](int /*worker*/, NumberedLine& line) { return Checked(line, options.seconds, mayGoOn); };
+    steps.take = [&](PuzzleReport& checked) {
+        if (!report.Add(checked)) return false;
+        report.ShowProgress(checked.part, std::to_string(checked.number) + " puzzles");
+        return true;
+    };
+    OrderedWork<NumberedLine, PuzzleReport>(std::move(steps)).Run(options.jobs);
+    report.End();
+    return ExitCodeOf(console, report.Failures());
 }
 
 }  // namespace tidewalk

@@ -2,9 +2,8 @@
 #include "cli/console.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
-
-#include "model/clock.h"
 
 namespace tidewalk {
 
@@ -20,7 +19,17 @@ std::string Printable(std::string text) {
     return text;
 }
 
+/// Since some moment before the program began.
+long long Milliseconds() {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+}
+
 }  // namespace
+
+MayGoOn UntilStopSignal(const Console& console) {
+    return [&stopSignal = console.stopSignal] { return stopSignal == 0; };
+}
 
 void Say(Console& console, const std::string& message) {
     console.err << "tidewalk-cli: " << Printable(message) << '\n' << std::flush;
@@ -52,7 +61,7 @@ Progress::~Progress() {
 
 void Progress::Show(double part, const std::string& text) {
     if (!enabled_) return;
-    const long long now = SystemClock().Milliseconds();
+    const long long now = Milliseconds();
     if (lastShown_ != 0 && now - lastShown_ < kShowMilliseconds) return;
     lastShown_ = now;
     std::string line = "\r";

@@ -7,6 +7,8 @@
 #include <ostream>
 #include <string>
 
+#include "model/may_go_on.h"
+
 namespace tidewalk {
 
 /// How a run ends. One that a signal stopped ends with 128 and the signal's number.
@@ -24,6 +26,10 @@ struct Console {
     /// True when the run is to end: it was asked to, or nobody takes its results any more.
     bool Stopped() const { return stopSignal != 0 || !out; }
 };
+
+/// For long work on any thread: lets it go on until a signal asks the run to end. The stream of the results, which
+/// `Stopped` looks at, belongs to one thread.
+MayGoOn UntilStopSignal(const Console& console);
 
 /// The name that stands for the standard input or output.
 inline constexpr const char* kStandard = "-";

@@ -3,18 +3,19 @@
 #include <array>
 #include <atomic>
 #include <chrono>
+#include <cstdint>
 #include <random>
 #include <utility>
+#include <vector>
 
 #include "cli/commands.h"
 #include "cli/ordered_work.h"
 #include "cli/record_output.h"
 #include "cli/report.h"
-#include "cli/workers.h"
 #include "generator/create_puzzle.h"
-#include "generator/new_puzzle.h"
+#include "generator/grid_size.h"
 #include "model/numbers.h"
-#include "model/write_puzzle_record.h"
+#include "model/puzzle_record.h"
 #include "solver/count_solutions.h"
 #include "solver/valid_solution.h"
 
@@ -24,11 +25,6 @@ namespace {
 
 /// So many puzzles are made in search of one that is good enough.
 constexpr int kMostTries = 10000;
-
-struct Created {
-    int number = 0;
-    std::string record;  ///< "" for none that was good enough
-};
 
 /// A seed of its own for every try at every puzzle, so that it does not matter which thread makes which.
 std::uint64_t SeedOfTry(std::uint64_t base, int number, int attempt) {
@@ -44,88 +40,121 @@ std::uint64_t SeedFromClock() {
     return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
-bool HasOneSolution(const Game& game) {
-    return CountSolutions(game.IslandGrid, game.Rows, game.Cols, 2) == 1;
+WantedSize SizeFromArgument(const std::string& text) {
+    return ParseGridSize(LowerCase(Trim(text)) == "random" ? "" : text);
 }
 
-/// Makes puzzles until one is good enough.
-Created CreateOne(Game& game, const WantedSize& size, int number, std::uint64_t base, bool unique,
-                  std::atomic<long long>& tried) {
-    Created created;
-    created.number = number;
-    for (int attempt = 1; attempt <= kMostTries && !game.ending; ++attempt) {
-        const Job job(game);
-        game.random.UseSeed(SeedOfTry(base, number, attempt));
-        game.Rows = size.random ? DrawRandomSide(game) : size.rows;
-        game.Cols = size.random ? DrawRandomSide(game) : size.cols;
-        int grade = 0;
-        int failed = 0;
-        CreatePuzzle(game, grade, failed);
-        if (game.ending) break;
-        ++tried;
-        if (failed != 0 || !IsValidSolution(game) || (unique && !HasOneSolution(game))) continue;
-        created.record = PuzzleRecord(game);
-        break;
+/// Makes the puzzles of one run.
+class PuzzleMaker {
+ public:
+    PuzzleMaker(Console& console, const CreateOptions& options, const WantedSize& size)
+        : console_(console),
+          options_(options),
+          size_(size),
+          seed_(options.seed.value_or(SeedFromClock())),
+          mayGoOn_(UntilStopSignal(console)),
+          output_(console, options.out),
+          progress_(console, options.out == kStandard) {}
+
+    /// Makes them all and appends them to their file. Returns how many of them did not come about.
+    int Run() {
+        std::vector<SolverBoard> boards(static_cast<std::size_t>(options_.jobs));
+        WorkSteps<int, Made> steps;
+        steps.next = [this, last = 0](int& number) mutable {
+            number = ++last;
+            return number <= options_.count && mayGoOn_();
+        };
+        steps.work = [&](int worker, int& number) {
+            return Made{number, MakeRecord(boards[static_cast<std::size_t>(worker)], number)};
+        };
+        steps.take = [this](Made& made) { return Take(made); };
+        steps.idle = [this] { ShowProgress(); };
+        OrderedWork<int, Made>(std::move(steps)).Run(options_.jobs);
+        progress_.Hide();
+        return failures_;
     }
-    return created;
-}
+
+    /// Tells what was made.
+    void Report() const {
+        const std::string text = std::to_string(written_) + " of " + std::to_string(options_.count) +
+                                 " puzzles written to " + options_.out + ", " + std::to_string(tried_) +
+                                 " tried, seed " + std::to_string(seed_);
+        ReportOnce(console_, options_.json, text,
+                   {{"file", options_.out},
+                    {"wanted", options_.count},
+                    {"written", written_},
+                    {"tried", tried_.load()},
+                    {"seed", seed_}});
+    }
+
+ private:
+    struct Made {
+        int number = 0;
+        std::string record;  ///< "" for none that was good enough
+    };
+
+    /// Makes puzzles until one is good enough. Any thread may ask for one.
+    std::string MakeRecord(SolverBoard& board, int number) {
+        for (int attempt = 1; attempt <= kMostTries && mayGoOn_(); ++attempt) {
+            RandomSource random(SeedOfTry(seed_, number, attempt));
+            const BoardSize size = SizeOf(size_, random);
+            const CreatedPuzzle created = CreatePuzzle(board, size, random, mayGoOn_);
+            if (!mayGoOn_()) break;
+            ++tried_;
+            if (created.solved && IsGoodEnough(created.puzzle)) return PuzzleRecord(created.puzzle);
+        }
+        return "";
+    }
+
+    bool IsGoodEnough(const Puzzle& puzzle) const {
+        return IsValidSolution(puzzle) && (!options_.unique || CountSolutions(puzzle, 2) == 1);
+    }
+
+    /// Writes what was made; false when the run is to end.
+    bool Take(const Made& made) {
+        if (console_.Stopped()) return false;
+        if (made.record.empty()) {
+            ++failures_;
+            progress_.Hide();
+            Say(console_, "puzzle " + std::to_string(made.number) + ": none came out right in " +
+                              std::to_string(kMostTries) + " tries");
+        } else {
+            output_.Add(made.record);
+            ++written_;
+        }
+        ShowProgress();
+        return true;
+    }
+
+    void ShowProgress() {
+        progress_.Show(static_cast<double>(written_) / options_.count, std::to_string(written_) + " of " +
+                                                                           std::to_string(options_.count) + " made, " +
+                                                                           std::to_string(tried_) + " tried");
+    }
+
+    Console& console_;
+    const CreateOptions& options_;
+    WantedSize size_;
+    std::uint64_t seed_;
+    MayGoOn mayGoOn_;
+    AppendedRecords output_;
+    Progress progress_;
+    std::atomic<std::int64_t> tried_ = 0;
+    int written_ = 0;
+    int failures_ = 0;
+};
 
 }  // namespace
 
 int CreatePuzzles(Console& console, const CreateOptions& options) {
-    const WantedSize size = ParseGridSize(LowerCase(Trim(options.size)) == "random" ? "" : options.size);
-    if (!size.random && !IsCreatableSize(size.rows, size.cols)) {
+    const WantedSize size = SizeFromArgument(options.size);
+    if (!size.random && !IsCreatableSize(size.size)) {
         Say(console, "a puzzle has 7 to 25 rows and columns, not " + options.size);
         return kWrongUsage;
     }
-    const std::uint64_t seed = options.seed.value_or(SeedFromClock());
-    AppendedRecords output(console, options.out);
-    WorkerGames games(console, options.jobs);
-    Progress progress(console, options.out == kStandard);
-    std::atomic<long long> tried = 0;
-    int next = 0;
-    int written = 0;
-    int failures = 0;
-    const auto showProgress = [&] {
-        progress.Show(static_cast<double>(written) / options.count, std::to_string(written) + " of " +
-                                                                        std::to_string(options.count) + " made, " +
-                                                                        std::to_string(tried) + " tried");
-    };
-    WorkSteps<int, Created> steps;
-    steps.next = [&](int& number) {
-        number = ++next;
-        return number <= options.count && console.stopSignal == 0;
-    };
-    steps.work = [&](int worker, int& number) {
-        return CreateOne(games[worker], size, number, seed, options.unique, tried);
-    };
-    steps.take = [&](Created& created) {
-        if (console.Stopped()) return false;
-        if (created.record.empty()) {
-            ++failures;
-            progress.Hide();
-            Say(console, "puzzle " + std::to_string(created.number) + ": none came out right in " +
-                             std::to_string(kMostTries) + " tries");
-        } else {
-            output.Add(created.record);
-            ++written;
-        }
-        showProgress();
-        return true;
-    };
-    steps.idle = showProgress;
-    OrderedWork<int, Created>(std::move(steps)).Run(options.jobs);
-    progress.Hide();
-    const std::string text = std::to_string(written) + " of " + std::to_string(options.count) + " puzzles written to " +
-                             options.out + ", " + std::to_string(tried) + " tried, seed " + std::to_string(seed);
-    if (options.out != kStandard) {
-        ReportOnce(console, options.json, text,
-                   {{"file", options.out},
-                    {"wanted", options.count},
-                    {"written", written},
-                    {"tried", tried.load()},
-                    {"seed", seed}});
-    }
+    PuzzleMaker maker(console, options, size);
+    const int failures = maker.Run();
+    if (options.out != kStandard) maker.Report();
     return ExitCodeOf(console, failures);
 }
 

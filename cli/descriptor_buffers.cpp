@@ -7,9 +7,8 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 
-#include "model/numbered_files.h"
+#include "model/file_error.h"
 
 namespace tidewalk {
 
@@ -19,10 +18,6 @@ constexpr std::size_t kInputBytes = 128 * 1024;
 
 /// So long a wait goes on before the next look at whether to stop. The signal itself may reach any other thread.
 constexpr int kWaitMilliseconds = 50;
-
-[[noreturn]] void Fail(const std::string& name, int reason) {
-    throw FileError(name + ": " + std::strerror(reason));
-}
 
 int OpenForReading(const std::string& path) {
     // Without O_NONBLOCK a pipe that nobody writes to yet would not even open.
@@ -78,7 +73,7 @@ InputDescriptor::int_type InputDescriptor::underflow() {
 }
 
 OutputDescriptor::OutputDescriptor(int descriptor, const std::atomic<int>& stopSignal)
-    : descriptor_(descriptor), stopSignal_(stopSignal), buffer_{} {
+    : descriptor_(descriptor), stopSignal_(stopSignal) {
     setp(buffer_.data(), buffer_.data() + buffer_.size());
 }
 

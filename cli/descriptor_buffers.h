@@ -57,7 +57,7 @@ class OutputDescriptor final : public std::streambuf {
     int descriptor_;
     const std::atomic<int>& stopSignal_;
     int failure_ = 0;
-    std::array<char, 4096> buffer_;
+    std::array<char, 4096> buffer_{};
 };
 
 }  // namespace tidewalk

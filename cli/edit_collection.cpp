@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
 // The commands "append", "delete", "export" and "import", which move single puzzles.
-#include <algorithm>
-#include <memory>
+#include <optional>
 
+#include "cli/collection_lines.h"
 #include "cli/commands.h"
-#include "cli/line_reader.h"
-#include "cli/puzzle_facts.h"
 #include "cli/record_output.h"
 #include "cli/report.h"
 #include "cli/temporary_files.h"
-#include "model/collection_edit.h"
-#include "model/load_puzzle.h"
+#include "model/collection_file.h"
+#include "model/line_reader.h"
 #include "model/paths.h"
-#include "model/read_grid_file.h"
+#include "model/plain_grid.h"
+#include "model/puzzle_record.h"
 #include "model/replace_file.h"
-#include "model/write_puzzle_record.h"
-#include "program/headless.h"
 
 namespace tidewalk {
 
@@ -25,39 +22,43 @@ namespace {
 int AppendTo(Console& console, const std::string& target, const Puzzle& puzzle, bool json) {
     AppendedRecords(console, target).Add(PuzzleRecord(puzzle));
     if (target == kStandard) return ExitCodeOf(console, 0);
-    const auto game = std::make_unique<HeadlessGame>();
-    const int number = CountLines(*game, target);
+    const int number = CountLines(target);
     ReportOnce(console, json, "puzzle " + std::to_string(number) + " appended to " + target,
                {{"file", target}, {"number", number}});
     return ExitCodeOf(console, 0);
 }
 
-/// The message that a player would have seen, in one line.
-std::string InOneLine(std::string message) {
-    for (std::size_t at = 0; (at = message.find("\r\n", at)) != std::string::npos;)
-        message.replace(at, 2, " ");
-    return message;
+/// What is wrong with a grid file; "" when the grid was read and is a puzzle.
+std::string FaultOfGrid(GridResult result, const Puzzle& puzzle, const ImportOptions& options) {
+    switch (result) {
+        case GridResult::NotFound:
+            return "Grid " + std::to_string(options.number) + " not found";
+        case GridResult::Failed:
+            return "Error reading grid from: " + options.grid;
+        case GridResult::Read:
+            break;
+    }
+    return puzzle.IslandCount() == 0 ? "there are no islands in the grid" : "";
 }
 
 }  // namespace
 
 int AppendPuzzle(Console& console, const AppendOptions& options) {
-    const auto puzzle = std::make_unique<Puzzle>();
-    if (!ReadOnePuzzle(console, options.file, options.number, *puzzle)) return ExitCodeOf(console, 1);
+    const std::optional<Puzzle> puzzle = ReadOnePuzzle(console, options.file, options.number);
+    if (!puzzle) return ExitCodeOf(console, 1);
     return AppendTo(console, options.target, *puzzle, options.json);
 }
 
 int DeletePuzzle(Console& console, const DeleteOptions& options) {
     const InputFile file(console, options.file);
-    const auto game = std::make_unique<HeadlessGame>();
-    const int count = CountLines(*game, file.Path());
+    const int count = CountLines(file.Path());
     if (SayIfMissing(console, options.file, {options.number, options.number}, count) > 0) return kFailed;
     if (count == 1) {
         Say(console, options.file + ": there is only one puzzle in this file");
         return kFailed;
     }
     const TemporaryFile work;
-    const int left = DeleteLine(*game, file.Path(), options.number, work.Path());
+    const int left = DeleteLine(file.Path(), options.number, work.Path());
     ReportOnce(console, options.json,
                "puzzle " + std::to_string(options.number) + " deleted from " + options.file + ", " +
                    std::to_string(left) + " left",
@@ -66,9 +67,8 @@ int DeletePuzzle(Console& console, const DeleteOptions& options) {
 }
 
 int ExportGrid(Console& console, const ExportOptions& options) {
-    constexpr const char* kLineEnd = "\r\n";
-    const auto puzzle = std::make_unique<Puzzle>();
-    if (!ReadOnePuzzle(console, options.file, options.number, *puzzle)) return ExitCodeOf(console, 1);
+    const std::optional<Puzzle> puzzle = ReadOnePuzzle(console, options.file, options.number);
+    if (!puzzle) return ExitCodeOf(console, 1);
     const auto write = [&](std::ostream& out) {
         for (const std::string& row : PlainGrid(*puzzle))
             out << row << kLineEnd;
@@ -91,16 +91,13 @@ int ExportGrid(Console& console, const ExportOptions& options) {
 int ImportGrid(Console& console, const ImportOptions& options) {
     const InputFile file(console, options.grid);
     if (console.Stopped()) return ExitCodeOf(console, 1);
-    const auto game = std::make_unique<HeadlessGame>();
-    if (ReadGridFile(*game, file.Path(), options.number) == YesValue) {
-        Say(console, options.grid + ": " + InOneLine(game->LastMessage()));
+    Puzzle puzzle;
+    const GridResult result = ReadGridFrom(file.Path(), options.number, puzzle);
+    if (const std::string fault = FaultOfGrid(result, puzzle, options); !fault.empty()) {
+        Say(console, options.grid + ": " + fault);
         return kFailed;
     }
-    if (IslandCount(*game) == 0) {
-        Say(console, options.grid + ": there are no islands in the grid");
-        return kFailed;
-    }
-    return AppendTo(console, options.target, *game, options.json);
+    return AppendTo(console, options.target, puzzle, options.json);
 }
 
 }  // namespace tidewalk

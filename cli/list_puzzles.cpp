@@ -1,46 +1,50 @@
 // SPDX-License-Identifier: MIT
 // The command "list".
-#include <memory>
+#include <optional>
 
+#include "cli/collection_lines.h"
 #include "cli/commands.h"
-#include "cli/line_reader.h"
 #include "cli/puzzle_facts.h"
 #include "cli/report.h"
-#include "model/load_puzzle.h"
 
 namespace tidewalk {
 
+namespace {
+
+/// The stored bridges; a double bridge counts 2.
+int BridgeCount(const Puzzle& puzzle) {
+    int bridges = 0;
+    for (const Link& link : puzzle.LinkList)
+        bridges += link.Bridges();
+    return bridges;
+}
+
+PuzzleReport Listed(const NumberedLine& line) {
+    constexpr int kCountWidth = 3;
+    PuzzleReport report;
+    const std::optional<Puzzle> puzzle = BeginReport(line, report);
+    if (!puzzle) return report;
+    const int islands = puzzle->IslandCount();
+    const int bridges = BridgeCount(*puzzle);
+    const std::string solution = Word(JudgeStored(*puzzle));
+    report.line += "  " + Padded(std::to_string(islands), kCountWidth) + " islands  " +
+                   Padded(std::to_string(bridges), kCountWidth) + " bridges  solution " + solution;
+    report.fields.emplace_back("islands", islands);
+    report.fields.emplace_back("bridges", bridges);
+    report.fields.emplace_back("solution", solution);
+    return report;
+}
+
+}  // namespace
+
 int ListPuzzles(Console& console, const ListOptions& options) {
-    LineReader lines(console, options.file);
-    Progress progress(console, true);
-    const auto puzzle = std::make_unique<Puzzle>();
-    int failures = 0;
-    {
-        Report report(console, options.json);
-        NumberedLine line;
-        while (lines.Next(line)) {
-            Json object{{"number", line.number}};
-            if (!ReadPuzzleRecord(line.text, *puzzle)) {
-                ++failures;
-                progress.Hide();
-                SayOfPuzzle(console, options.file, line.number, kNoRecord);
-                object["error"] = kNoRecord;
-                report.Add("", object);
-                continue;
-            }
-            const PuzzleFacts facts = FactsOf(*puzzle);
-            AddSize(object, *puzzle);
-            object["islands"] = facts.islands;
-            object["bridges"] = facts.bridges;
-            object["solution"] = facts.solution;
-            report.Add(LineStart(line.number, *puzzle) + "  " + Padded(std::to_string(facts.islands), 3) +
-                           " islands  " + Padded(std::to_string(facts.bridges), 3) + " bridges  solution " +
-                           facts.solution,
-                       object);
-            progress.Show(line.part, std::to_string(line.number) + " puzzles");
-        }
-    }
-    return ExitCodeOf(console, failures);
+    CollectionLines lines(console, options.file);
+    CollectionReport report(console, options.file, options.json);
+    NumberedLine line;
+    while (lines.Next(line) && report.Add(Listed(line)))
+        report.ShowProgress(line.part, std::to_string(line.number) + " puzzles");
+    report.End();
+    return ExitCodeOf(console, report.Failures());
 }
 
 }  // namespace tidewalk

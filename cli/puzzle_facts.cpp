@@ -1,40 +1,38 @@
 // SPDX-License-Identifier: MIT
 #include "cli/puzzle_facts.h"
 
+#include "model/puzzle_record.h"
 #include "solver/valid_solution.h"
 
 namespace tidewalk {
 
-PuzzleFacts FactsOf(const Puzzle& puzzle) {
-    PuzzleFacts facts;
-    facts.islands = IslandCount(puzzle);
-    for (int i = 1; i <= puzzle.LinkCount(); ++i)
-        facts.bridges += 2 - puzzle.LinkList[i].state;
-    facts.solution = puzzle.LinkCount() == 0 ? "none" : IsValidSolution(puzzle) ? "valid" : "wrong";
-    return facts;
+StoredSolution JudgeStored(const Puzzle& puzzle) {
+    if (puzzle.LinkCount() == 0) return StoredSolution::None;
+    return IsValidSolution(puzzle) ? StoredSolution::Valid : StoredSolution::Wrong;
 }
 
-int IslandCount(const Puzzle& puzzle) {
-    int islands = 0;
-    for (CellNumber id = 1; id <= puzzle.CellCount; ++id) {
-        if (puzzle.IslandAt(id) > 0) ++islands;
-    }
-    return islands;
+std::string Word(StoredSolution stored) {
+    return stored == StoredSolution::None ? "none" : stored == StoredSolution::Valid ? "valid" : "wrong";
 }
 
-std::string SizeText(const Puzzle& puzzle) {
-    return std::to_string(puzzle.Rows) + "x" + std::to_string(puzzle.Cols);
+JsonFields SizeFields(const Puzzle& puzzle) {
+    return {{"rows", puzzle.Rows}, {"cols", puzzle.Cols}};
 }
 
-std::string LineStart(int number, const Puzzle& puzzle) {
+std::optional<Puzzle> BeginReport(const NumberedLine& line, PuzzleReport& report) {
     constexpr int kNumberWidth = 6;
     constexpr int kSizeWidth = 5;
-    return Padded(std::to_string(number), kNumberWidth) + "  " + Padded(SizeText(puzzle), kSizeWidth);
-}
-
-void AddSize(Json& object, const Puzzle& puzzle) {
-    object["rows"] = puzzle.Rows;
-    object["cols"] = puzzle.Cols;
+    report.number = line.number;
+    report.part = line.part;
+    std::optional<Puzzle> puzzle = ParsePuzzleRecord(line.text);
+    if (!puzzle) {
+        report.fault = kNoRecord;
+        return puzzle;
+    }
+    const std::string size = std::to_string(puzzle->Rows) + "x" + std::to_string(puzzle->Cols);
+    report.line = Padded(std::to_string(line.number), kNumberWidth) + "  " + Padded(size, kSizeWidth);
+    report.fields = SizeFields(*puzzle);
+    return puzzle;
 }
 
 }  // namespace tidewalk

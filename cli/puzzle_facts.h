@@ -2,34 +2,28 @@
 // What several commands tell of a puzzle.
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "cli/collection_lines.h"
 #include "cli/report.h"
 #include "model/puzzle.h"
 
 namespace tidewalk {
 
-/// What is said of a line that could not be read.
-inline constexpr const char* kNoRecord = "the line is no puzzle record";
+/// What the stored bridges are.
+enum class StoredSolution { None, Valid, Wrong };
 
-struct PuzzleFacts {
-    int islands = 0;
-    int bridges = 0;       ///< stored ones; a double bridge counts 2
-    std::string solution;  ///< of the stored bridges: "none", "valid" or "wrong"
-};
+StoredSolution JudgeStored(const Puzzle& puzzle);
 
-PuzzleFacts FactsOf(const Puzzle& puzzle);
+/// "none", "valid" or "wrong".
+std::string Word(StoredSolution stored);
 
-/// How many islands the puzzle has.
-int IslandCount(const Puzzle& puzzle);
+/// Its rows and columns.
+JsonFields SizeFields(const Puzzle& puzzle);
 
-/// Rows and columns as "7x9".
-std::string SizeText(const Puzzle& puzzle);
-
-/// The beginning of every line about a puzzle: its number and size, in columns.
-std::string LineStart(int number, const Puzzle& puzzle);
-
-/// Adds the rows and columns to an object about a puzzle.
-void AddSize(Json& object, const Puzzle& puzzle);
+/// Reads the puzzle of a line and begins the report on it with its number and size, in columns. A line that is no
+/// record is a fault, and nothing is returned.
+std::optional<Puzzle> BeginReport(const NumberedLine& line, PuzzleReport& report);
 
 }  // namespace tidewalk

@@ -17,7 +17,6 @@ std::optional<int> ParseNumber(std::string_view text) {
 }  // namespace
 
 std::optional<PuzzleRange> ParsePuzzleRange(std::string_view text) {
-    if (text == "all") return PuzzleRange{};
     const std::size_t dash = text.find('-');
     const auto first = ParseNumber(text.substr(0, dash));
     const auto last = dash == std::string_view::npos ? first : ParseNumber(text.substr(dash + 1));

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-// Which puzzles of a collection are meant: "7", "3-9" or "all".
+// Which puzzles of a collection are meant: "7" or "3-9".
 #pragma once
 
 #include <limits>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace tidewalk {
 
+/// All puzzles, unless it is told otherwise.
 struct PuzzleRange {
     static constexpr int kEnd = std::numeric_limits<int>::max();
 

@@ -7,16 +7,15 @@
 #include <string_view>
 
 #include "cli/console.h"
-#include "model/numbered_files.h"
 
 namespace tidewalk {
 
 /// Collects records and makes them the new content of a file at the end. For "-" each goes out at once.
-class RecordOutput {
+class ReplacedRecords {
  public:
     /// Without a path the records are dropped. Throws FileError for a path that no file can have, to say so before
     /// hours of work are spent.
-    RecordOutput(Console& console, std::optional<std::string> path);
+    ReplacedRecords(Console& console, std::optional<std::string> path);
 
     void Add(std::string_view record);
 
@@ -32,7 +31,8 @@ class RecordOutput {
 /// Appends records to a file, each as a whole before the next is made.
 class AppendedRecords {
  public:
-    /// `path` "-" is the standard output. Throws FileError when the file cannot be written.
+    /// `path` "-" is the standard output. A file that is not there is made. Throws FileError when the file cannot be
+    /// written, to say so before hours of work are spent.
     AppendedRecords(Console& console, std::string path);
 
     /// Throws FileError when the record could not be written.
@@ -41,7 +41,6 @@ class AppendedRecords {
  private:
     Console& console_;
     std::string path_;
-    NumberedFiles files_;
 };
 
 }  // namespace tidewalk

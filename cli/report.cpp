@@ -2,32 +2,72 @@
 #include "cli/report.h"
 
 #include <cstdlib>
+#include <nlohmann/json.hpp>
 
 namespace tidewalk {
 
-std::string JsonText(const Json& value) {
-    return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+namespace {
+
+/// Keeps its keys in the order in which they were added.
+using Json = nlohmann::ordered_json;
+
+void AddFields(Json& object, const JsonFields& fields) {
+    for (const auto& [name, field] : fields)
+        std::visit([&, &key = name](const auto& value) { object[key] = value; }, field);
 }
 
-Report::Report(Console& console, bool json, bool silent) : console_(console), json_(json), silent_(silent) {
+/// The object in one line. Bytes that are no UTF-8, as file names may hold, are replaced.
+std::string JsonText(const Json& object) {
+    return object.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+std::string JsonText(const PuzzleReport& puzzle) {
+    Json object{{"number", puzzle.number}};
+    AddFields(object, puzzle.fields);
+    if (!puzzle.fault.empty()) object["error"] = puzzle.fault;
+    return JsonText(object);
+}
+
+}  // namespace
+
+CollectionReport::CollectionReport(Console& console, std::string file, bool json, bool silent)
+    : console_(console), file_(std::move(file)), json_(json), silent_(silent), progress_(console, true) {
     if (json_ && !silent_) console_.out << '[' << std::flush;
 }
 
-Report::~Report() {
-    if (json_ && !silent_) console_.out << (objects_ > 0 ? "\n]\n" : "]\n") << std::flush;
+CollectionReport::~CollectionReport() {
+    End();
 }
 
-void Report::Add(const std::string& line, const Json& object) {
-    if (silent_) return;
-    if (!json_) {
-        if (!line.empty()) PrintLine(console_, line);
-        return;
+bool CollectionReport::Add(const PuzzleReport& puzzle) {
+    if (console_.Stopped()) return false;
+    const bool first = successes_ + failures_ == 0;
+    ++(puzzle.fault.empty() ? successes_ : failures_);
+    if (!puzzle.fault.empty()) {
+        progress_.Hide();
+        SayOfPuzzle(console_, file_, puzzle.number, puzzle.fault);
     }
-    console_.out << (objects_++ > 0 ? ",\n" : "\n") << JsonText(object) << std::flush;
+    if (silent_) return true;
+    if (json_) {
+        console_.out << (first ? "\n" : ",\n") << JsonText(puzzle) << std::flush;
+    } else if (!puzzle.line.empty()) {
+        PrintLine(console_, puzzle.line);
+    }
+    return true;
 }
 
-void ReportOnce(Console& console, bool json, const std::string& line, const Json& object) {
-    PrintLine(console, json ? JsonText(object) : line);
+void CollectionReport::End() {
+    if (ended_) return;
+    ended_ = true;
+    progress_.Hide();
+    if (json_ && !silent_) console_.out << (successes_ + failures_ > 0 ? "\n]\n" : "]\n") << std::flush;
+}
+
+void ReportOnce(Console& console, bool json, const std::string& text, const JsonFields& fields) {
+    if (!json) return PrintLine(console, text);
+    Json object;
+    AddFields(object, fields);
+    PrintLine(console, JsonText(object));
 }
 
 std::string Padded(const std::string& text, int width) {

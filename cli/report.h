@@ -1,43 +1,70 @@
 // SPDX-License-Identifier: MIT
-// What a command reports of each puzzle: a line of text, or an object of one JSON array.
+// What a command reports: a line of text, or an object in JSON.
 #pragma once
 
-#include <nlohmann/json.hpp>
+#include <cstddef>
+#include <cstdint>
 #include <string>
+#include <utility>
+#include <variant>
+#include <vector>
 
 #include "cli/console.h"
 
 namespace tidewalk {
 
-/// Keeps its keys in the order in which they were added.
-using Json = nlohmann::ordered_json;
+/// The values that a JSON object may have here.
+using JsonValue =
+    std::variant<std::nullptr_t, bool, std::int64_t, std::uint64_t, double, std::string, std::vector<std::string>>;
 
-/// The text of a JSON value in one line. Bytes that are no UTF-8, as file names may hold, are replaced.
-std::string JsonText(const Json& value);
+/// The names and values of a JSON object, in the order in which they are printed.
+using JsonFields = std::vector<std::pair<std::string, JsonValue>>;
 
-/// A report that grows puzzle by puzzle. Whatever ends it, what was printed is whole.
-class Report {
+/// What is told of one line of a collection.
+struct PuzzleReport {
+    int number = 0;     ///< of the line
+    double part = -1;   ///< how much of the file there is up to here, 0..1, or -1 where its end is not known
+    std::string fault;  ///< what is wrong with the puzzle; "" when nothing is
+    std::string line;   ///< "" for a line that is no record
+    JsonFields fields;  ///< but for the number and the fault
+};
+
+/// The report on the puzzles of a collection: a line each, or one JSON array. Whatever ends it, what was printed is
+/// whole. What is wrong with a puzzle becomes a message, too.
+class CollectionReport {
  public:
-    /// `silent` prints nothing, for commands whose results are records on the standard output.
-    Report(Console& console, bool json, bool silent = false);
-    ~Report();
-    Report(const Report&) = delete;
-    Report& operator=(const Report&) = delete;
+    /// `silent` prints messages alone, for commands whose results are records on the standard output.
+    CollectionReport(Console& console, std::string file, bool json, bool silent = false);
+    ~CollectionReport();
+    CollectionReport(const CollectionReport&) = delete;
+    CollectionReport& operator=(const CollectionReport&) = delete;
 
-    bool IsJson() const { return json_; }
+    /// Reports on the next puzzle; false, with nothing reported, when the run is to end.
+    bool Add(const PuzzleReport& puzzle);
 
-    /// Adds a puzzle: its line, or its object. An empty line is not printed.
-    void Add(const std::string& line, const Json& object);
+    /// Shows how far the run is, with a text about what was done, where the report itself does not.
+    void ShowProgress(double part, const std::string& text) { progress_.Show(part, text); }
+
+    /// Ends the report; nothing may be added any more.
+    void End();
+
+    /// The puzzles that were reported without a fault, and those with one.
+    int Successes() const { return successes_; }
+    int Failures() const { return failures_; }
 
  private:
     Console& console_;
+    std::string file_;
     bool json_;
     bool silent_;
-    int objects_ = 0;
+    bool ended_ = false;
+    Progress progress_;
+    int successes_ = 0;
+    int failures_ = 0;
 };
 
-/// Reports what a command did as a whole: a line of text, or one JSON object.
-void ReportOnce(Console& console, bool json, const std::string& line, const Json& object);
+/// Reports what a command did as a whole: text, or one JSON object.
+void ReportOnce(Console& console, bool json, const std::string& text, const JsonFields& fields);
 
 /// `text` brought to `width` characters with blanks before it, or behind it where the width is negative.
 std::string Padded(const std::string& text, int width);

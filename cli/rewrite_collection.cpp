@@ -3,18 +3,17 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <memory>
+#include <optional>
 #include <vector>
 
+#include "cli/collection_lines.h"
 #include "cli/commands.h"
-#include "cli/line_reader.h"
 #include "cli/report.h"
 #include "cli/temporary_files.h"
-#include "generator/shuffle.h"
+#include "generator/shuffle_lines.h"
 #include "model/convert_layout.h"
-#include "model/load_puzzle.h"
+#include "model/puzzle_record.h"
 #include "model/replace_file.h"
-#include "program/headless.h"
 
 namespace tidewalk {
 
@@ -39,20 +38,32 @@ struct Converted {
 
 /// Reads the converted collection and says which of its lines are no puzzles.
 Converted CountRecords(Console& console, const std::string& file, const std::string& path) {
-    LineReader lines(console, path);
+    CollectionLines lines(console, path);
     NumberedLine line;
     std::vector<int> unreadable;
-    const auto puzzle = std::make_unique<Puzzle>();
     while (lines.Next(line)) {
         // A record of today's layout that is taken for a header brings its own semicolons.
         const bool isHeaderKindAndRows = std::count(line.text.begin(), line.text.end(), ';') == 2;
-        if (!isHeaderKindAndRows || !ReadPuzzleRecord(line.text, *puzzle)) unreadable.push_back(line.number);
+        if (!isHeaderKindAndRows || !ParsePuzzleRecord(line.text)) unreadable.push_back(line.number);
     }
     const Converted counts{lines.Number(), lines.Number() - static_cast<int>(unreadable.size())};
     if (counts.puzzles == 0) return counts;
     for (const int number : unreadable)
         SayOfPuzzle(console, file, number, "it did not become a puzzle record");
     return counts;
+}
+
+/// Shuffles with a progress bar; false when that was stopped.
+bool ShuffleWithProgress(Console& console, const std::string& input, const std::string& output, RandomSource random,
+                         ShuffleCounts& counts) {
+    Progress progress(console, false);
+    const auto step = [&](const ShuffleCounts& now) {
+        const bool writing = now.written > 0;
+        progress.Show(writing ? static_cast<double>(now.written) / static_cast<double>(now.Kept()) : -1,
+                      std::to_string(writing ? now.written : now.lines) + (writing ? " written" : " lines read"));
+        return !console.Stopped();
+    };
+    return !console.Stopped() && ShuffleLines(input, output, random, counts, step);
 }
 
 }  // namespace
@@ -62,21 +73,13 @@ int ShuffleCollection(Console& console, const ShuffleOptions& options) {
     const std::string name = piped ? "" : ShuffledName(FullPath(options.file));
     if (!piped && name.empty()) return RefuseName(console, options.file);
     const InputFile input(console, options.file);
-    const TemporaryFile passed;
-    const std::string output = piped ? passed.Path() : name;
-    Progress progress(console, false);
-    const auto game = std::make_unique<HeadlessGame>();
-    if (options.seed) game->random.UseSeed(*options.seed);
+    std::optional<TemporaryFile> passedOn;
+    const std::string output = piped ? passedOn.emplace().Path() : name;
     ShuffleCounts counts;
-    const auto step = [&](const ShuffleCounts& now) {
-        const bool writing = now.written > 0;
-        progress.Show(writing ? static_cast<double>(now.written) / static_cast<double>(now.Kept()) : -1,
-                      std::to_string(writing ? now.written : now.lines) + (writing ? " written" : " lines read"));
-        return !console.Stopped();
-    };
-    const bool complete = !console.Stopped() && ShuffleLines(input.Path(), output, game->random, counts, step);
-    progress.Hide();
-    if (!complete) return ExitCodeOf(console, 1);
+    if (!ShuffleWithProgress(console, input.Path(), output, options.seed ? RandomSource(*options.seed) : RandomSource(),
+                             counts)) {
+        return ExitCodeOf(console, 1);
+    }
     if (piped) {
         CopyToOutput(console, output);
     } else {
@@ -94,8 +97,7 @@ int ConvertCollection(Console& console, const ConvertOptions& options) {
     if (!piped && output.empty()) return RefuseName(console, options.file);
     const InputFile input(console, options.file);
     const TemporaryFile converted;
-    const auto game = std::make_unique<HeadlessGame>();
-    ConvertLayout(*game, input.Path(), converted.Path());
+    ConvertLayout(input.Path(), converted.Path());
     if (console.Stopped()) return ExitCodeOf(console, 1);
     const Converted counts = CountRecords(console, options.file, converted.Path());
     if (counts.puzzles == 0) {

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The command "show": a puzzle drawn with box characters.
 #include <algorithm>
-#include <memory>
-#include <string_view>
+#include <optional>
 #include <vector>
 
+#include "cli/collection_lines.h"
 #include "cli/commands.h"
-#include "cli/line_reader.h"
 #include "cli/puzzle_facts.h"
 #include "cli/report.h"
 
@@ -21,7 +20,7 @@ class Drawing {
         const auto rows = static_cast<std::size_t>(puzzle.Rows);
         const auto fields = static_cast<std::size_t>(2 * puzzle.Cols - 1);
         fields_.assign(rows, std::vector<std::string>(fields, " "));
-        for (CellNumber id = 1; id <= puzzle.CellCount; ++id) {
+        for (CellNumber id = 1; id <= puzzle.CellCount(); ++id) {
             const auto [row, col] = puzzle.PlaceOf(id);
             const int number = puzzle.IslandAt(id);
             At(row, 2 * col) = number > 0 ? std::to_string(number) : kWater;
@@ -31,7 +30,7 @@ class Drawing {
     void DrawBridge(const Link& link) {
         const auto [fromRow, fromCol] = puzzle_.PlaceOf(std::min(link.first, link.second));
         const auto [toRow, toCol] = puzzle_.PlaceOf(std::max(link.first, link.second));
-        const bool isDouble = link.state == 0;
+        const bool isDouble = link.Bridges() == 2;
         if (fromRow == toRow) {
             for (int field = 2 * fromCol + 1; field < 2 * toCol; ++field)
                 Stroke(fromRow, field, isDouble ? "═" : "─");
@@ -70,27 +69,30 @@ class Drawing {
     std::vector<std::vector<std::string>> fields_;
 };
 
+/// The lines with LF between them.
+std::string InOneText(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines)
+        text += (text.empty() ? "" : "\n") + line;
+    return text;
+}
+
 }  // namespace
 
 int ShowPuzzle(Console& console, const ShowOptions& options) {
-    const auto puzzle = std::make_unique<Puzzle>();
-    if (!ReadOnePuzzle(console, options.file, options.number, *puzzle)) return ExitCodeOf(console, 1);
-    const bool lacksSolution = options.solution && puzzle->LinkCount() == 0;
+    const std::optional<Puzzle> puzzle = ReadOnePuzzle(console, options.file, options.number);
+    if (!puzzle) return ExitCodeOf(console, 1);
     Drawing drawing(*puzzle);
     if (options.solution) {
-        for (int i = 1; i <= puzzle->LinkCount(); ++i)
-            drawing.DrawBridge(puzzle->LinkList[i]);
+        for (const Link& link : puzzle->LinkList)
+            drawing.DrawBridge(link);
     }
-    if (options.json) {
-        Json object{{"number", options.number}};
-        AddSize(object, *puzzle);
-        object["islands"] = IslandCount(*puzzle);
-        object["drawing"] = drawing.Lines();
-        PrintLine(console, JsonText(object));
-    } else {
-        for (const std::string& line : drawing.Lines())
-            PrintLine(console, line);
-    }
+    JsonFields fields = SizeFields(*puzzle);
+    fields.insert(fields.begin(), {"number", options.number});
+    fields.emplace_back("islands", puzzle->IslandCount());
+    fields.emplace_back("drawing", drawing.Lines());
+    ReportOnce(console, options.json, InOneText(drawing.Lines()), fields);
+    const bool lacksSolution = options.solution && puzzle->LinkCount() == 0;
     if (lacksSolution) SayOfPuzzle(console, options.file, options.number, "there are no stored bridges");
     return ExitCodeOf(console, lacksSolution ? 1 : 0);
 }

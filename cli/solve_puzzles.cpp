@@ -5,19 +5,17 @@
 #include <cstdio>
 #include <filesystem>
 #include <map>
-#include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
+#include "cli/collection_lines.h"
 #include "cli/commands.h"
-#include "cli/line_reader.h"
 #include "cli/ordered_work.h"
 #include "cli/puzzle_facts.h"
 #include "cli/record_output.h"
-#include "cli/workers.h"
-#include "model/load_puzzle.h"
-#include "model/work_areas.h"
-#include "model/write_puzzle_record.h"
+#include "cli/report.h"
+#include "model/puzzle_record.h"
 #include "solver/difficulty.h"
 #include "solver/solve_puzzle.h"
 #include "solver/valid_solution.h"
@@ -26,27 +24,59 @@ namespace tidewalk {
 
 namespace {
 
-struct Solved {
-    int number = 0;
-    double part = -1;
-    std::string lineStart;  ///< "" for a line that is no record
-    int rows = 0;
-    int cols = 0;
-    std::string failure;  ///< "" for a puzzle that was solved
+/// What came of one puzzle.
+struct Outcome {
+    std::string failure;  ///< why it was not solved; "" when it was
     int trials = 0;
     double milliseconds = 0;
-    std::vector<std::string> links;
-    std::string record;
+    Puzzle solution;
 };
 
+/// A line of the collection, solved if that could be done.
+struct SolvedLine {
+    PuzzleReport report;
+    std::string record;  ///< with the solution
+};
+
+/// Solves the puzzle on `board`, whatever that held before.
+Outcome Solve(SolverBoard& board, const Puzzle& puzzle, int maxTrials, const MayGoOn& mayGoOn) {
+    Outcome outcome;
+    if (puzzle.IslandCount() == 0) {
+        outcome.failure = "the puzzle has no islands";
+        return outcome;
+    }
+    board.Reset(puzzle);
+    // The search stops at its bound, so one more than may be tried.
+    const SolveResult result = SolvePuzzle(board, {maxTrials, maxTrials + 1}, mayGoOn);
+    outcome.trials = std::min(result.trials, maxTrials);
+    outcome.solution = PuzzleOf(board);
+    if (result.solved && CheckLinkTotals(outcome.solution)) return outcome;
+    if (maxTrials == 0) {
+        outcome.failure = "the rules alone do not solve it";
+    } else if (result.trials <= maxTrials) {
+        outcome.failure = "no solution was found";
+    } else {
+        outcome.failure = "given up after " + std::to_string(maxTrials) + " trials";
+    }
+    return outcome;
+}
+
+Outcome TimedSolve(SolverBoard& board, const Puzzle& puzzle, int maxTrials, const MayGoOn& mayGoOn) {
+    using Clock = std::chrono::steady_clock;
+    const auto start = Clock::now();
+    Outcome outcome = Solve(board, puzzle, maxTrials, mayGoOn);
+    outcome.milliseconds = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
+    return outcome;
+}
+
 /// The laid bridges as "id-id:count", in order of the ids.
-std::vector<std::string> LaidBridgeTexts(const Puzzle& puzzle) {
+std::vector<std::string> BridgeTexts(const Puzzle& puzzle) {
     std::map<std::pair<int, int>, int> laid;
-    for (int i = 1; i <= puzzle.LinkCount(); ++i) {
-        const Link& link = puzzle.LinkList[i];
-        if (link.state < 2) laid[std::minmax<int>(link.first, link.second)] += 2 - link.state;
+    for (const Link& link : puzzle.LinkList) {
+        if (link.Bridges() > 0) laid[std::minmax<int>(link.first, link.second)] += link.Bridges();
     }
     std::vector<std::string> texts;
+    texts.reserve(laid.size());
     for (const auto& [islands, count] : laid) {
         texts.push_back(std::to_string(islands.first) + "-" + std::to_string(islands.second) + ":" +
                         std::to_string(count));
@@ -54,77 +84,83 @@ std::vector<std::string> LaidBridgeTexts(const Puzzle& puzzle) {
     return texts;
 }
 
-/// Solves what the game holds; returns why it could not, or "".
-std::string SolveGame(Game& game, int maxTrials, int& trials) {
-    if (IslandCount(game) == 0) return "the puzzle has no islands";
-    const Job job(game);
-    // The search stops at its bound, so one more than may be tried.
-    game.TrialLimit = maxTrials + 1;
-    const int failed = SolvePuzzle(game, maxTrials, trials);
-    if (failed == NoValue && CheckLinkTotals(game) == NoValue) return "";
-    if (maxTrials == 0) return "the rules alone do not solve it";
-    if (trials <= maxTrials) return "no solution was found";
-    trials = maxTrials;
-    return "given up after " + std::to_string(maxTrials) + " trials";
+std::string Grade(const Outcome& outcome) {
+    return std::string(DifficultyName(outcome.trials));
 }
 
-Solved SolveLine(Game& game, const NumberedLine& line, const SolveOptions& options) {
-    Solved solved;
-    solved.number = line.number;
-    solved.part = line.part;
-    if (!ReadPuzzleRecord(line.text, game)) {
-        solved.failure = kNoRecord;
-        return solved;
-    }
-    // The tables are those of the line that was solved before.
-    NumberNewBoard(game);
-    game.OpenNeighbours.Fill({});
-    solved.lineStart = LineStart(line.number, game);
-    solved.rows = game.Rows;
-    solved.cols = game.Cols;
-    const auto start = std::chrono::steady_clock::now();
-    solved.failure = SolveGame(game, options.maxTrials, solved.trials);
-    solved.milliseconds = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-    if (!solved.failure.empty()) return solved;
-    if (options.links) solved.links = LaidBridgeTexts(game);
-    if (options.out) solved.record = PuzzleRecord(game);
-    return solved;
-}
-
-std::string TextOf(const Solved& solved) {
-    if (solved.lineStart.empty()) return "";
-    const bool done = solved.failure.empty();
+/// What follows the puzzle's number and size on its line.
+std::string OutcomeText(const Outcome& outcome, const std::vector<std::string>& bridges) {
+    constexpr int kTrialsWidth = 5;
+    constexpr int kGradeWidth = 5;
+    constexpr int kTimeWidth = 9;
+    const bool solved = outcome.failure.empty();
     char time[32];
-    std::snprintf(time, sizeof time, "%.3f", solved.milliseconds);
-    std::string text = solved.lineStart + "  " + (done ? "solved  " : "unsolved") + "  " +
-                       Padded(std::to_string(solved.trials), 5) + " trials  " +
-                       Padded(done ? std::string(DifficultyName(solved.trials)) : "-", -5) + "  " + Padded(time, 9) +
-                       " ms";
-    if (!solved.links.empty()) text += " ";
-    for (const std::string& link : solved.links)
-        text += " " + link;
+    std::snprintf(time, sizeof time, "%.3f", outcome.milliseconds);
+    std::string text = std::string(solved ? "solved  " : "unsolved") + "  " +
+                       Padded(std::to_string(outcome.trials), kTrialsWidth) + " trials  " +
+                       Padded(solved ? Grade(outcome) : "-", -kGradeWidth) + "  " + Padded(time, kTimeWidth) + " ms";
+    if (!bridges.empty()) text += " ";
+    for (const std::string& bridge : bridges)
+        text += " " + bridge;
     return text;
 }
 
-Json JsonOf(const Solved& solved, bool links) {
-    Json object{{"number", solved.number}};
-    if (!solved.lineStart.empty()) {
-        object["rows"] = solved.rows;
-        object["cols"] = solved.cols;
-        object["solved"] = solved.failure.empty();
-        object["trials"] = solved.trials;
-        object["grade"] = solved.failure.empty() ? Json(DifficultyName(solved.trials)) : Json(nullptr);
-        object["milliseconds"] = solved.milliseconds;
-    }
-    if (!solved.failure.empty()) object["error"] = solved.failure;
-    if (links && solved.failure.empty()) object["links"] = solved.links;
-    return object;
+/// Adds what came of the puzzle; with `links`, the bridges too.
+void AddOutcome(PuzzleReport& report, const Outcome& outcome, bool links) {
+    const bool solved = outcome.failure.empty();
+    const auto bridges = solved && links ? BridgeTexts(outcome.solution) : std::vector<std::string>();
+    report.fault = outcome.failure;
+    report.line += "  " + OutcomeText(outcome, bridges);
+    report.fields.emplace_back("solved", solved);
+    report.fields.emplace_back("trials", outcome.trials);
+    report.fields.emplace_back("grade", solved ? JsonValue(Grade(outcome)) : JsonValue(nullptr));
+    report.fields.emplace_back("milliseconds", outcome.milliseconds);
+    if (solved && links) report.fields.emplace_back("links", bridges);
+}
+
+SolvedLine SolveLine(SolverBoard& board, const NumberedLine& line, const SolveOptions& options,
+                     const MayGoOn& mayGoOn) {
+    SolvedLine solved;
+    const std::optional<Puzzle> puzzle = BeginReport(line, solved.report);
+    if (!puzzle) return solved;
+    const Outcome outcome = TimedSolve(board, *puzzle, options.maxTrials, mayGoOn);
+    AddOutcome(solved.report, outcome, options.links);
+    if (options.out && outcome.failure.empty()) solved.record = PuzzleRecord(outcome.solution);
+    return solved;
 }
 
 /// True when the solved records would replace the collection that they come from, and with it what is not solved.
 bool WouldReplaceItself(const SolveOptions& options) {
     std::error_code error;
     return options.out && *options.out != kStandard && std::filesystem::equivalent(options.file, *options.out, error);
+}
+
+/// Takes the next line that is to be solved; false when there is none.
+bool NextWanted(CollectionLines& lines, const PuzzleRange& range, NumberedLine& line) {
+    while (lines.Number() < range.last && lines.Next(line)) {
+        if (range.Holds(line.number)) return true;
+    }
+    return false;
+}
+
+/// Solves the lines on so many threads; solved records go to `output`.
+void SolveAll(Console& console, const SolveOptions& options, CollectionLines& lines, ReplacedRecords& output,
+              CollectionReport& report) {
+    const MayGoOn mayGoOn = UntilStopSignal(console);
+    std::vector<SolverBoard> boards(static_cast<std::size_t>(options.jobs));
+    WorkSteps<NumberedLine, SolvedLine> steps;
+    steps.next = [&](NumberedLine& line) { return NextWanted(lines, options.range, line); };
+    steps.work = [&](int worker, NumberedLine& line) {
+        return SolveLine(boards[static_cast<std::size_t>(worker)], line, options, mayGoOn);
+    };
+    steps.take = [&](SolvedLine& solved) {
+        if (!report.Add(solved.report)) return false;
+        if (solved.report.fault.empty()) output.Add(solved.record);
+        report.ShowProgress(solved.report.part, std::to_string(report.Successes()) + " solved, " +
+                                                    std::to_string(report.Failures()) + " not");
+        return true;
+    };
+    OrderedWork<NumberedLine, SolvedLine>(std::move(steps)).Run(options.jobs);
 }
 
 }  // namespace
@@ -134,39 +170,12 @@ int SolvePuzzles(Console& console, const SolveOptions& options) {
         Say(console, options.file + ": the solved records must not replace the collection itself");
         return kFailed;
     }
-    LineReader lines(console, options.file);
-    RecordOutput output(console, options.out);
-    Progress progress(console, true);
-    WorkerGames games(console, options.jobs);
-    int failures = 0;
-    int solvedCount = 0;
-    {
-        const bool silent = options.out == kStandard;
-        Report report(console, options.json, silent);
-        WorkSteps<NumberedLine, Solved> steps;
-        steps.next = [&](NumberedLine& line) {
-            while (lines.Number() < options.range.last && lines.Next(line)) {
-                if (options.range.Holds(line.number)) return true;
-            }
-            return false;
-        };
-        steps.work = [&](int worker, NumberedLine& line) { return SolveLine(games[worker], line, options); };
-        steps.take = [&](Solved& solved) {
-            if (console.Stopped()) return false;
-            if (solved.failure.empty()) {
-                ++solvedCount;
-                output.Add(solved.record);
-            } else {
-                ++failures;
-                progress.Hide();
-                SayOfPuzzle(console, options.file, solved.number, solved.failure);
-            }
-            report.Add(options.json ? "" : TextOf(solved), options.json ? JsonOf(solved, options.links) : Json());
-            progress.Show(solved.part, std::to_string(solvedCount) + " solved, " + std::to_string(failures) + " not");
-            return true;
-        };
-        OrderedWork<NumberedLine, Solved>(std::move(steps)).Run(options.jobs);
-    }
+    CollectionLines lines(console, options.file);
+    ReplacedRecords output(console, options.out);
+    CollectionReport report(console, options.file, options.json, options.out == kStandard);
+    SolveAll(console, options, lines, output, report);
+    report.End();
+    int failures = report.Failures();
     if (!console.Stopped()) {
         failures += SayIfMissing(console, options.file, options.range, lines.Number());
         output.Finish();

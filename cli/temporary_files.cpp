@@ -6,20 +6,15 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
 
 #include "cli/descriptor_buffers.h"
-#include "model/numbered_files.h"
+#include "model/file_error.h"
 
 namespace tidewalk {
 
 namespace {
-
-[[noreturn]] void Fail(const std::string& path, int reason) {
-    throw FileError(path + ": " + std::strerror(reason != 0 ? reason : EIO));
-}
 
 /// Copies until the end, until the run is to stop, or until nobody takes any more.
 void Copy(Console& console, std::streambuf& from, std::ostream& to) {
@@ -54,7 +49,7 @@ InputFile::InputFile(Console& console, const std::string& path) : path_(path) {
         const InputDescriptor file(path, console.stopSignal);
         return;
     }
-    path_ = copy_.Path();
+    path_ = copy_.emplace().Path();
     errno = 0;
     std::ofstream file(path_, std::ios::binary);
     Copy(console, *console.in.rdbuf(), file);

@@ -2,6 +2,7 @@
 // Files that exist only while a command runs, in the system's folder for such files.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "cli/console.h"
@@ -32,7 +33,7 @@ class InputFile {
     const std::string& Path() const { return path_; }
 
  private:
-    TemporaryFile copy_;
+    std::optional<TemporaryFile> copy_;
     std::string path_;
 };
 

@@ -1,52 +1,63 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include "board/check_bridges.h"
-#include "fuzz/scratch.h"
 #include "fuzz/targets.h"
-#include "model/load_puzzle.h"
-#include "model/write_puzzle_record.h"
+#include "model/collection_file.h"
+#include "model/puzzle_record.h"
+#include "solver/count_solutions.h"
+#include "solver/solve_puzzle.h"
 #include "solver/valid_solution.h"
+#include "support/temp_folder.h"
 
 namespace tidewalk::fuzz {
 
 namespace {
 
-/// What is loaded can be drawn and judged, and its record gives the same puzzle again.
-void UseLoaded(Scratch& scratch) {
-    Game& game = scratch.game();
-    ShowSolution(game);
-    const bool valid = IsValidSolution(game);
-    CheckBridgeCounts(game);
-    DemandWhole(game);
-    const auto given = game.GivenGrid;
-    WritePuzzleRecord(game, scratch.Path("again.tdw"), 0);
-    Demand(LoadPuzzle(game, scratch.Path("again.tdw"), 1) == 0, "a record of our own is not read");
+bool IsOnBoard(const Puzzle& puzzle, const Link& link) {
+    const auto isCell = [&](CellNumber id) { return id >= 1 && id <= puzzle.CellCount(); };
+    return isCell(link.first) && isCell(link.second) && puzzle.IslandAt(link.first) > 0 && link.state < 2 &&
+           (puzzle.CellRow(link.first) == puzzle.CellRow(link.second)) !=
+               (puzzle.CellCol(link.first) == puzzle.CellCol(link.second));
+}
+
+/// What was read is a puzzle, and its record gives the same one again.
+void DemandWhole(const Puzzle& puzzle) {
+    Demand(puzzle.Rows >= 1 && puzzle.Rows <= kMaxSide && puzzle.Cols >= 1 && puzzle.Cols <= kMaxSide, "its size");
+    for (CellNumber id = 1; id <= puzzle.CellCount(); ++id)
+        Demand(puzzle.IslandAt(id) <= 9, "a number");
+    Demand(std::all_of(puzzle.LinkList.begin(), puzzle.LinkList.end(),
+                       [&](const Link& link) { return IsOnBoard(puzzle, link); }),
+           "a bridge that leads nowhere");
+    const auto again = ParsePuzzleRecord(PuzzleRecord(puzzle));
+    Demand(again && WithoutLinks(*again) == WithoutLinks(puzzle), "a record of our own gives other numbers");
     // Bridges over islands have no form in a record, so only a solution has to come back as it was.
-    if (!valid) return;
-    Demand(game.GivenGrid == given, "the numbers come back as others");
-    Demand(IsValidSolution(game), "a solution does not come back");
+    Demand(!IsValidSolution(puzzle) || IsValidSolution(*again), "a solution does not come back");
+}
+
+/// The solver and the count of solutions do not contradict each other.
+void DemandOneAnswer(const Puzzle& puzzle) {
+    constexpr int kMostTrials = 300;
+    SolverBoard board(puzzle);
+    const SolveResult result = SolvePuzzle(board, {1, kMostTrials}, WithoutEnd);
+    if (puzzle.IslandCount() == 0) return;
+    Demand(!result.solved || IsValidSolution(PuzzleOf(board)), "the solver's solution is none");
+    const auto count = CountSolutions(puzzle, 1, kMostTrials);
+    if (result.trials < kMostTrials && count) Demand(result.solved == (*count == 1), "solved without a solution");
 }
 
 }  // namespace
 
 void ReadCollection(std::string_view bytes) {
     constexpr int kMost = 2;
-    Scratch scratch;
-    Game& game = scratch.game();
-    const std::string path = scratch.Write("collection.tdw", bytes);
-    const int count = CountLines(game, path);
-    const auto beside = std::make_unique<Puzzle>();
+    const test::TempFolder folder;
+    const std::string path = folder.Write("collection.tdw", std::string(bytes));
+    const int count = CountLines(path);
     for (int number = 0; number <= std::min(count, kMost) + 1; ++number) {
-        const bool read = ReadPuzzle(game.files, path, number, *beside);
-        game.files.CloseAll();
-        const bool loaded = LoadPuzzle(game, path, number) == 0;
-        Demand(read == loaded, "the two readers do not agree");
-        Demand(!read || (number >= 1 && number <= count), "a puzzle comes from no line");
-        DemandWhole(game);
-        if (!loaded) continue;
-        Demand(beside->GivenGrid == game.GivenGrid, "the two readers read other numbers");
-        UseLoaded(scratch);
+        const auto puzzle = ReadPuzzle(path, number);
+        if (!puzzle) continue;
+        Demand(number >= 1 && number <= count, "a puzzle comes from no line");
+        DemandWhole(*puzzle);
+        DemandOneAnswer(*puzzle);
     }
 }
 

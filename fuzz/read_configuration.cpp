@@ -1,26 +1,25 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/scratch.h"
 #include "fuzz/targets.h"
-#include "model/config_file.h"
+#include "model/configuration.h"
+#include "support/test_game.h"
 
 namespace tidewalk::fuzz {
 
 void ReadConfiguration(std::string_view bytes) {
-    Scratch scratch;
-    Game& game = scratch.game();
-    scratch.Write("tide.cfg", bytes);
-    ReadcfgFile(game);
-    constexpr int kSmallest = 200;
-    constexpr int kLargest = 700;
-    Demand(game.CellSize >= kSmallest && game.CellSize <= kLargest, "a cell size out of range");
-    Demand(game.PuzzleNumber >= 1, "no puzzle has this number");
-    Demand(game.NodeColour <= kWhite && game.GivenColour <= kWhite && game.ChainColour <= kWhite &&
-               game.GridColour <= kWhite,
-           "a colour out of range");
-    Demand(SavecfgFile(game) == 0, "the configuration is not written");
-    const std::string written = scratch.Read("tide.cfg");
-    ReadcfgFile(game);
-    Demand(SavecfgFile(game) == 0 && scratch.Read("tide.cfg") == written, "what is read again is something else");
+    test::TestGame game;
+    game.world.AnswerAll(kOk);
+    game.folder.Write("tide.cfg", std::string(bytes));
+    std::string written;
+    for (const bool again : {false, true}) {
+        game.Run(ReadcfgFile);
+        const int cellSize = game.board.layout.CellSize;
+        Demand(cellSize >= kSmallestCell && cellSize <= kLargestCell, "a cell size out of range");
+        Demand(game.collection.PuzzleNumber >= 1, "no puzzle has this number");
+        Demand(game.Run(SavecfgFile), "the configuration is not written");
+        Demand(!again || game.folder.Read("tide.cfg") == written, "what is read again is something else");
+        written = game.folder.Read("tide.cfg");
+    }
+    Demand(!testing::Test::HasFailure(), "the game is not whole");
 }
 
 }  // namespace tidewalk::fuzz

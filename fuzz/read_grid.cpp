@@ -1,31 +1,23 @@
 // SPDX-License-Identifier: MIT
-#include "fuzz/scratch.h"
 #include "fuzz/targets.h"
-#include "model/number_grid.h"
-#include "model/read_grid_file.h"
+#include "model/plain_grid.h"
+#include "support/temp_folder.h"
 
 namespace tidewalk::fuzz {
 
 void ReadGrid(std::string_view bytes) {
     constexpr int kMost = 3;
-    Scratch scratch;
-    Game& game = scratch.game();
-    const std::string path = scratch.Write("grid.txt", bytes);
+    const test::TempFolder folder;
+    const std::string path = folder.Write("grid.txt", std::string(bytes));
     for (int number = 0; number <= kMost; ++number) {
-        const bool taken = ReadGridFile(game, path, number) == 0;
-        DemandWhole(game);
-        GridText text;
-        const bool read = ReadGridText(game.files, path, number, text) == GridResult::Read;
-        Demand(read == taken, "the two readers do not agree");
-        if (!read) continue;
-        NumberGrid editor;
-        editor.Take(text);
-        // What the editor holds is a grid that the reader takes without a change.
-        const std::string again = scratch.Write("again.grd", editor.Text());
-        NumberGrid second;
-        Demand(ReadGridText(game.files, again, 1, text) == GridResult::Read, "the editor's own file is not read");
-        second.Take(text);
-        Demand(second.Text() == editor.Text(), "the editor's file comes back as another");
+        Puzzle puzzle;
+        if (ReadGridFrom(path, number, puzzle) != GridResult::Read) continue;
+        Demand(number >= 1 && puzzle.CellCount() >= 1 && puzzle.LinkCount() == 0, "a grid out of nothing");
+        // What is written is a grid that the reader takes without a change.
+        Puzzle again;
+        const std::string written = folder.Write("again.grd", MarkedGrid(puzzle));
+        Demand(ReadGridFrom(written, 1, again) == GridResult::Read, "a grid of our own is not read");
+        Demand(again == puzzle, "a grid of our own comes back as another");
     }
 }
 

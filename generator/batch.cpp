@@ -3,29 +3,26 @@
 
 #include <functional>
 
-#include "generator/create_puzzle.h"
+#include "game/job.h"
+#include "game/pick_file.h"
+#include "generator/grid_size.h"
 #include "generator/new_puzzle.h"
-#include "model/job.h"
-#include "model/navigation.h"
+#include "model/collection_file.h"
+#include "model/file_error.h"
+#include "model/load_puzzle.h"
 #include "model/numbers.h"
 #include "model/paths.h"
-#include "model/write_puzzle_record.h"
 
 namespace tidewalk {
 
 namespace {
 
-struct Size {
-    int rows;
-    int cols;
-};
-
 /// A batch to make.
 struct Batch {
     int count;
-    std::string path;                              ///< the file that the puzzles are appended to
-    std::function<Size()> sizeOfNext;              ///< asked once for every puzzle
-    std::function<std::string(int, Size)> status;  ///< the status line for the puzzle of that number
+    std::string path;                                   ///< the file that the puzzles are appended to
+    std::function<BoardSize()> sizeOfNext;              ///< asked once for every puzzle
+    std::function<std::string(int, BoardSize)> status;  ///< the status line for the puzzle of that number
 };
 
 /// Keeps the board out of the player's reach and off the screen for as long as it lives.
@@ -46,32 +43,29 @@ class FrozenBoard {
     Game& game_;
 };
 
-/// Makes one puzzle of the size, again from the start when another puzzle was loaded in the middle. Whether it was
-/// solved is not asked: the record of a failure holds its last layout.
-void CreateInBatch(Game& game, Job& job, Size size) {
-    do {
+/// Makes one puzzle of the size, again from the start when another puzzle was loaded in the middle.
+Puzzle CreateInBatch(Game& game, Job& job, BoardSize size) {
+    for (;;) {
         job.Adopt();
-        game.Rows = size.rows;
-        game.Cols = size.cols;
-        int grade = 0;
-        int failed = 0;
-        CreatePuzzle(game, grade, failed);
-    } while (job.Superseded() && !game.ending);
-    game.BusyFlag = YesValue;
+        CreatedPuzzle created = CreateInJob(game, size);
+        // Whether it was solved is not asked: the record of a failure holds its last layout.
+        if (!game.job.Superseded() || game.job.Ending()) return std::move(created.puzzle);
+    }
 }
 
 /// Makes the puzzles, appends each and counts them in `written`. Throws FileError when one cannot be.
 void MakePuzzles(Game& game, Job& job, const Batch& batch, int& written) {
     while (written < batch.count) {
-        const Size size = batch.sizeOfNext();
-        game.window.SetText(Control::pb, batch.status(written + 1, size));
+        const BoardSize size = batch.sizeOfNext();
+        game.window.SetText(WindowText::Status, batch.status(written + 1, size));
         game.window.SetProgress(written, batch.count);
-        CreateInBatch(game, job, size);
-        if (game.ending) return;
-        WritePuzzleRecord(game, batch.path, 1);
+        const Puzzle puzzle = CreateInBatch(game, job, size);
+        if (game.job.Ending()) return;
+        CloseFiles(game);
+        WritePuzzleRecord(batch.path, puzzle, WriteMode::Append);
         ++written;
         PollEvents(game);
-        if (game.ending) return;
+        if (game.job.Ending()) return;
     }
 }
 
@@ -83,24 +77,23 @@ bool RunBatch(Game& game, const Batch& batch) {
         const BusyPointer pointer(game);
         {
             Job job(game);
-            game.pictures.Picture1().Clear(game.Picture1BackColor);
+            game.pictures.Picture().Clear(game.options.BoardBackground());
             game.events.DoEvents();
             const FrozenBoard frozen(game);
             try {
                 MakePuzzles(game, job, batch, written);
             } catch (const FileError& error) {
-                game.files.CloseAll();
                 failure = error.what();
             }
         }
-        if (game.ending) return false;
-        ReloadPuzzle(game, game.CollectionPath, game.PuzzleNumber);
+        if (game.job.Ending()) return false;
+        ReloadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber);
     }
     if (failure.empty()) return true;
     game.prompts.Show("The puzzles could not all be written:\r\n" + failure + "\r\n\r\n" + NumText(written) + " of" +
                           Str(batch.count) + " puzzles were written.",
                       "vbcritical+vbok");
-    game.window.SetText(Control::pb, "");
+    game.window.SetText(WindowText::Status, "");
     return false;
 }
 
@@ -109,11 +102,11 @@ void AddTextExtension(std::string& path) {
     if (FileNameOf(path).find('.') == std::string::npos) path += ".txt";
 }
 
-bool IsCreatable(int count, Size size) {
-    return count >= 1 && IsCreatableSize(size.rows, size.cols);
+bool IsCreatable(int count, BoardSize size) {
+    return count >= 1 && IsCreatableSize(size);
 }
 
-Size SizeOf(const BatchRequest& request) {
+BoardSize SizeOf(const BatchRequest& request) {
     return {RoundedVal(request.rows), RoundedVal(request.cols)};
 }
 
@@ -146,34 +139,31 @@ void Form3_gf1_Click(Game& game, BatchRequest& request) {
 void mnucreatemany_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     BatchRequest request;
-    if (!game.batchWindow.Ask(request)) return;
+    if (!game.questions.AskBatch(request)) return;
     const int count = RoundedVal(request.count);
-    const Size size = SizeOf(request);
+    const BoardSize size = SizeOf(request);
     const std::string& path = request.outputFile;
     if (!IsCreatable(count, size)) return;
     const std::string question = "Create" + Str(count) + Str(size.rows) + "x" + NumText(size.cols) + " puzzles\r\n" +
                                  "Output file: " + path + "\r\n\r\nProceed?";
     if (game.prompts.Show(question, "vbquestion+vbyesno") != kYes) return;
 
-    const auto status = [&](int number, Size) { return "Creating puzzle" + Str(number) + " of" + Str(count); };
+    const auto status = [&](int number, BoardSize) { return "Creating puzzle" + Str(number) + " of" + Str(count); };
     if (!RunBatch(game, {count, path, [&] { return size; }, status})) return;
     game.prompts.Show("Created" + Str(count) + " puzzles in file:\r\n" + path, "vbinformation+vbok");
-    game.window.SetText(Control::pb, "");
+    game.window.SetText(WindowText::Status, "");
 }
 
 void Command4_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     constexpr int kCount = 1200;
-    const auto drawSize = [&] {
-        const int rows = DrawRandomSide(game);
-        return Size{rows, DrawRandomSide(game)};
-    };
-    const auto status = [](int number, Size size) {
+    const auto drawSize = [&] { return DrawRandomSize(game.random); };
+    const auto status = [](int number, BoardSize size) {
         return Format(size.rows, "00") + Format(size.cols, "00") + Str(number) + " of" + Str(kCount);
     };
     if (!RunBatch(game, {kCount, "rand1.txt", drawSize, status})) return;
     game.prompts.SystemBox("done", SystemButtons::Ok);
-    game.window.SetText(Control::pb, "");
+    game.window.SetText(WindowText::Status, "");
 }
 
 }  // namespace tidewalk

@@ -2,7 +2,7 @@
 // Making many puzzles in a row and appending each to a file.
 #pragma once
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 

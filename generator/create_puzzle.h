@@ -2,19 +2,24 @@
 // Making one random puzzle.
 #pragma once
 
-#include "model/game.h"
+#include "model/may_go_on.h"
+#include "model/puzzle.h"
+#include "model/random_source.h"
+#include "solver/solver_board.h"
 
 namespace tidewalk {
 
-/// Makes a puzzle of the current `Rows` by `Cols`, each 7..25. A `Job` has to be running.
-///
-/// `failed` is 0 when `IslandGrid` holds the new puzzle and `LinkList` its solution; `BusyFlag` then stays set. `grade`
-/// is the number of trials that the solver needed. `failed` is 1 after five layouts that the solver did not solve, or
-/// when the job is to stop; `BusyFlag` is then clear. `IslandGrid` holds the numbers of the last layout and `LinkList`
-/// is empty, unless the window was closed or another puzzle was loaded meanwhile, which is then left alone.
-void CreatePuzzle(Game& game, int& grade, int& failed);
+/// What came of making a puzzle.
+struct CreatedPuzzle {
+    bool solved = false;  ///< the solver has solved it
+    int grade = 0;        ///< the number of trials that the solver needed
+    Puzzle puzzle;        ///< with its solution; when it was not solved, the numbers of the last layout
+};
 
-/// A random number of rows or columns: 7..24, never 25.
-int DrawRandomSide(Game& game);
+/// Makes a puzzle of this size, each side 7..25, and solves it on `board`, whatever that held before.
+///
+/// Up to five layouts are grown until the solver solves one. When `mayGoOn` says no, there is no further one; the first
+/// is grown in any case.
+CreatedPuzzle CreatePuzzle(SolverBoard& board, BoardSize size, RandomSource& random, const MayGoOn& mayGoOn);
 
 }  // namespace tidewalk

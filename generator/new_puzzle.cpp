@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "generator/new_puzzle.h"
 
-#include "generator/create_puzzle.h"
-#include "model/job.h"
+#include <memory>
+
+#include "board/show_board.h"
+#include "game/job.h"
+#include "generator/grid_size.h"
+#include "model/collection_file.h"
+#include "model/file_error.h"
 #include "model/load_puzzle.h"
 #include "model/numbers.h"
-#include "model/work_areas.h"
-#include "model/write_puzzle_record.h"
 
 namespace tidewalk {
 
@@ -16,12 +19,6 @@ constexpr const char* kPuzzleFile = "temp.txt";
 constexpr const char* kCanceling = " Canceling...";
 constexpr const char* kFailed = "Could not create new puzzle";
 
-/// Where a puzzle lies.
-struct PuzzlePlace {
-    std::string path;
-    int number;
-};
-
 /// How the command ended.
 enum class Outcome {
     Created,
@@ -30,31 +27,28 @@ enum class Outcome {
 };
 
 /// Writes the new puzzle to its file and loads it from there.
-Outcome WriteAndLoad(Game& game, std::string& message) {
+Outcome WriteAndLoad(Game& game, const Puzzle& puzzle, std::string& message) {
+    CloseFiles(game);
     try {
-        WritePuzzleRecord(game, kPuzzleFile, 0);
+        WritePuzzleRecord(kPuzzleFile, puzzle, WriteMode::Replace);
     } catch (const FileError& error) {
-        game.files.CloseAll();
         message += "\r\n" + std::string(error.what());
         return Outcome::Failed;
     }
-    return LoadPuzzle(game, kPuzzleFile, 1) == 0 ? Outcome::Created : Outcome::Failed;
+    return LoadPuzzle(game, kPuzzleFile, 1) ? Outcome::Created : Outcome::Failed;
 }
 
-/// Makes the puzzle and makes it the current one, or loads the one `before` again.
-Outcome MakePuzzle(Game& game, int rows, int cols, const PuzzlePlace& before, std::string& message) {
+/// Makes the puzzle and makes it the current one, or loads the one that is current again.
+Outcome MakePuzzle(Game& game, BoardSize size, std::string& message) {
+    const BusyPointer pointer(game);
+    const Collection before = game.collection;
     const Job job(game);
-    game.Rows = rows;
-    game.Cols = cols;
-    game.window.SetText(Control::pb, " Creating" + Str(rows) + "x" + NumText(cols) + " puzzle ...");
+    game.window.SetText(WindowText::Status, " Creating" + Str(size.rows) + "x" + NumText(size.cols) + " puzzle ...");
     game.pictures.SetEnabled(false);
-    game.pictures.Picture1().Clear(game.Picture1BackColor);
-    int grade = 0;
-    int failed = 0;
-    CreatePuzzle(game, grade, failed);
-    if (game.ending || job.Superseded()) return Outcome::Abandoned;
-    Outcome outcome = failed == 0 ? WriteAndLoad(game, message) : Outcome::Failed;
-    if (outcome == Outcome::Failed) ReloadPuzzle(game, before.path, before.number);
+    const CreatedPuzzle created = CreateInJob(game, size);
+    if (game.job.Ending() || game.job.Superseded()) return Outcome::Abandoned;
+    const Outcome outcome = created.solved ? WriteAndLoad(game, created.puzzle, message) : Outcome::Failed;
+    if (outcome == Outcome::Failed) ReloadPuzzle(game, before.CollectionPath, before.PuzzleNumber);
     return outcome;
 }
 
@@ -63,17 +57,17 @@ void Report(Game& game, Outcome outcome, const std::string& message) {
     switch (outcome) {
         case Outcome::Created:
             game.pictures.SetEnabled(true);
-            game.window.SetText(Control::pb, "Puzzle created");
+            game.window.SetText(WindowText::Status, "Puzzle created");
             game.events.DoEvents();
             return;
         case Outcome::Failed:
             game.pictures.SetVisible(true);
-            game.window.SetText(Control::pb, kFailed);
+            game.window.SetText(WindowText::Status, kFailed);
             game.prompts.Show(message, "vbinformation+vbok");
             game.events.DoEvents();
             break;
         case Outcome::Abandoned:
-            game.window.SetText(Control::pb, "");
+            game.window.SetText(WindowText::Status, "");
             break;
     }
     game.pictures.SetEnabled(true);
@@ -81,36 +75,26 @@ void Report(Game& game, Outcome outcome, const std::string& message) {
 
 }  // namespace
 
-WantedSize ParseGridSize(std::string_view text) {
-    const std::string size = LowerCase(Trim(text));
-    if (size.empty()) return {true, 0, 0};
-    const std::size_t x = size.find('x');
-    if (x == std::string::npos) return {false, RoundedVal(size), RoundedVal(size)};
-    return {false, RoundedVal(std::string_view(size).substr(0, x)), RoundedVal(std::string_view(size).substr(x + 1))};
-}
-
-bool IsCreatableSize(int rows, int cols) {
-    return rows >= kMinSide && rows <= kMaxSide && cols >= kMinSide && cols <= kMaxSide;
+CreatedPuzzle CreateInJob(Game& game, BoardSize size) {
+    game.job.TakeBackCancel();
+    game.pictures.Picture().Clear(game.options.BoardBackground());
+    LayoutNewBoard(game, size);
+    const auto solver = std::make_unique<SolverBoard>();
+    CreatedPuzzle created = CreatePuzzle(*solver, size, game.random, Watched(game, *solver));
+    ShowWorkLists(game, *solver);
+    return created;
 }
 
 void cmdnew1_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
-    const PuzzlePlace before{game.CollectionPath, game.PuzzleNumber};
-    WantedSize size = ParseGridSize(game.window.Text(Control::GridSize));
-    if (size.random) {
-        size.rows = DrawRandomSide(game);
-        size.cols = DrawRandomSide(game);
-    }
-    if (!IsCreatableSize(size.rows, size.cols)) {
+    const WantedSize wanted = ParseGridSize(game.window.Text(WindowText::BoardSize));
+    const BoardSize size = SizeOf(wanted, game.random);
+    if (!IsCreatableSize(size)) {
         game.prompts.Show("Puzzle size must be 7 to " + Str(kMaxSide), "vbcritical+vbok");
         return;
     }
-    Outcome outcome = Outcome::Failed;
     std::string message = kFailed;
-    {
-        const BusyPointer pointer(game);
-        outcome = MakePuzzle(game, size.rows, size.cols, before, message);
-    }
+    const Outcome outcome = MakePuzzle(game, size, message);
     Report(game, outcome, message);
 }
 
@@ -119,32 +103,18 @@ void mnunewpuzx_Click(Game& game) {
 }
 
 void cmdcancel_Click(Game& game) {
-    if (game.window.Text(Control::pb) == kCanceling) return;
-    if (!JobRuns(game)) {
-        game.window.SetText(Control::pb, "");
+    if (game.window.Text(WindowText::Status) == kCanceling) return;
+    if (!game.job.BusyFlag()) {
+        game.window.SetText(WindowText::Status, "");
         return;
     }
-    game.CancelFlag = YesValue;
-    game.window.SetText(Control::pb, kCanceling);
+    game.job.Cancel();
+    game.window.SetText(WindowText::Status, kCanceling);
     game.events.DoEvents();
 }
 
 void GridSize_MouseDown(Game& game, MouseButton button) {
-    if (button == MouseButton::Right) game.window.SetText(Control::GridSize, "");
-}
-
-void ShowEmptyBoard(Game& game) {
-    ResetWorkAreas(game);
-    NumberNewBoard(game);
-    game.board.LayoutBoard(game);
-    game.board.RedrawBoard(game, false);
-}
-
-void ReloadPuzzle(Game& game, const std::string& path, int number) {
-    game.files.CloseAll();
-    if (LoadPuzzle(game, path, number) == 0) return;
-    game.files.CloseAll();
-    ShowEmptyBoard(game);
+    if (button == MouseButton::Right) game.window.SetText(WindowText::BoardSize, "");
 }
 
 }  // namespace tidewalk

@@ -76,9 +76,8 @@ class IdList {
 /// are scanned: lower column, higher column, lower row, higher row.
 using NeighbourList = IdList<4>;
 
-/// The islands that an island is joined to, in the order in which they were joined. An island shares its row and its
-/// column with at most 48 other cells.
-using JoinedList = IdList<2 * (kMaxSide - 1)>;
+/// The islands that an island is joined to, in the order in which they were joined. Its text has another form.
+struct JoinedList : IdList<4> {};
 
 /// The list as four characters an entry, the id in three digits and a blank: "012 045 ".
 std::string Text(const NeighbourList& list);

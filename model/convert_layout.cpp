@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "model/convert_layout.h"
 
-#include "model/job.h"
+#include <cerrno>
+#include <fstream>
+
+#include "model/file_error.h"
+#include "model/line_reader.h"
 #include "model/numbers.h"
 
 namespace tidewalk {
@@ -10,23 +14,23 @@ namespace {
 
 constexpr int kMostRows = 1000;  ///< a puzzle without an end is ended there
 
-/// The lines of file 1 but the last.
+/// The lines of a file but the last.
 class UsableLines {
  public:
-    explicit UsableLines(NumberedFiles& files) : files_(files) { hasNext_ = files_.ReadLine(1, next_); }
+    explicit UsableLines(const std::string& path) : lines_(path), hasNext_(lines_.Next(next_)) {}
 
     /// The next line, or false when only the last line of the file is left.
     bool Take(std::string& line) {
         line.swap(next_);
-        const bool usable = hasNext_ && files_.ReadLine(1, next_);
+        const bool usable = hasNext_ && lines_.Next(next_);
         hasNext_ = usable;
         return usable;
     }
 
  private:
-    NumberedFiles& files_;
+    LineReader lines_;
     std::string next_;
-    bool hasNext_ = false;
+    bool hasNext_;
 };
 
 /// The first letter of the first word.
@@ -52,47 +56,22 @@ std::string ConvertedPath(const std::string& collectionPath) {
     return dot == std::string::npos ? "" : collectionPath.substr(0, dot) + "-newformat.txt";
 }
 
-void ConvertLayout(Game& game, const std::string& from, const std::string& to) {
-    game.files.CloseAll();
-    game.files.Open(1, from, FileMode::Input);
-    game.files.Open(2, to, FileMode::Output);
-    UsableLines lines(game.files);
+void ConvertLayout(const std::string& from, const std::string& to) {
+    UsableLines lines(from);
+    DemandWritable(to);
+    errno = 0;
+    std::ofstream out(to, std::ios::binary);
+    if (!out) Fail(to, errno);
     std::string kind;
     std::string header;
     bool more = lines.Take(header);
     while (more && lines.Take(kind) && lines.Take(header)) {
         std::string record = header + ";" + KindOf(kind) + ";";
         more = TakeRows(lines, record);
-        game.files.Print(2, record);
+        out << record << kLineEnd;
     }
-    game.files.Close(1);
-    game.files.Close(2);
-}
-
-void Command3_Click(Game& game) {
-    if (RefuseWhileBusy(game)) return;
-    const std::string to = ConvertedPath(game.CollectionPath);
-    if (to.empty()) return;
-    try {
-        ConvertLayout(game, game.CollectionPath, to);
-    } catch (const FileError& error) {
-        game.files.CloseAll();
-        game.prompts.SystemBox(std::string("The collection could not be converted.\r\n") + error.what(),
-                               SystemButtons::Ok);
-        return;
-    }
-    game.prompts.SystemBox(to + " done", SystemButtons::Ok);
-}
-
-void FindMarkedLine(Game& game, int index, int& number, int& failed) {
-    std::string line;
-    for (int marked = 0; game.files.ReadLine(1, line);) {
-        if (!line.starts_with('#')) continue;
-        if (marked++ < index) continue;
-        number = RoundedVal(std::string_view(line).substr(1));
-        return;
-    }
-    failed = -1;
+    out.close();
+    if (!out) Fail(to, errno);
 }
 
 }  // namespace tidewalk

@@ -4,26 +4,17 @@
 
 #include <string>
 
-#include "model/game.h"
-
 namespace tidewalk {
 
 /// Where the conversion of a collection is written: its path cut before the first ".", then "-newformat.txt". "" for a
 /// path without a ".", which is not converted.
 std::string ConvertedPath(const std::string& collectionPath);
 
-/// Reads the older layout from `from` and writes a record a line to `to`, which is created or emptied. Both files are
-/// closed in the end. Throws FileError when reading or writing fails.
+/// Reads the older layout from `from` and writes a record a line to `to`, which is created or emptied.
+/// Throws FileError when reading or writing fails.
 ///
 /// The first line is passed over. A puzzle is a line whose first letter is the kind, a line that is the header, and
 /// rows up to a line that begins with "#". The last line of the file is never used: the files end with such a line.
-void ConvertLayout(Game& game, const std::string& from, const std::string& to);
-
-/// The maintenance command: converts the current collection.
-void Command3_Click(Game& game);
-
-/// Passes over lines of the open file 1 up to the one that is the `index`-th, from 0, of those beginning with "#".
-/// `number` becomes the value behind its "#"; at the end of the file `failed` becomes -1.
-void FindMarkedLine(Game& game, int index, int& number, int& failed);
+void ConvertLayout(const std::string& from, const std::string& to);
 
 }  // namespace tidewalk

@@ -16,6 +16,22 @@ inline constexpr int kMaxCells = kMaxSide * kMaxSide;
 /// The id of a board cell, 1..625, row by row; 0 stands for no cell.
 using CellNumber = int;
 
+/// Where a cell lies, 1-based.
+struct CellPlace {
+    int row = 0;
+    int col = 0;
+
+    bool operator==(const CellPlace&) const = default;
+};
+
+/// How many rows and columns a board has.
+struct BoardSize {
+    int rows = 0;
+    int cols = 0;
+
+    bool operator==(const BoardSize&) const = default;
+};
+
 /// One value a cell, with two spare cells on every side so that a look past the border needs no test.
 ///
 /// Rows and columns run from -2 to 27, row first; the board itself lies in 1..25 of both. In memory the row index
@@ -32,22 +48,14 @@ class Grid {
     /// Sets every cell, margin included.
     void Fill(const T& value) { values_.fill(value); }
 
-    /// Sets the cells of the largest board, 1..25 both ways, and leaves the margin alone.
-    void FillBoard(const T& value) {
-        for (int col = 1; col <= kMaxSide; ++col) {
-            for (int row = 1; row <= kMaxSide; ++row)
-                (*this)(row, col) = value;
-        }
-    }
-
     bool operator==(const Grid&) const = default;
 
  private:
-    static constexpr int kExtent = kLast - kFirst + 1;
+    static constexpr std::size_t kExtent = kLast - kFirst + 1;
 
     static std::size_t Place(int row, int col) {
         CheckIndex(row >= kFirst && row <= kLast && col >= kFirst && col <= kLast);
-        return static_cast<std::size_t>((row - kFirst) + (col - kFirst) * kExtent);
+        return static_cast<std::size_t>(row - kFirst) + static_cast<std::size_t>(col - kFirst) * kExtent;
     }
 
     std::array<T, kExtent * kExtent> values_{};

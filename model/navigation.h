@@ -2,11 +2,9 @@
 // Moving through a collection and opening another one.
 #pragma once
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
-
-enum class MouseButton { Left, Right, Middle };
 
 /// The key code of Enter, as key-press handlers receive it.
 inline constexpr int kEnterKey = 13;
@@ -20,8 +18,5 @@ void PuzNumNow_KeyPress(Game& game, int key);
 /// Asks for a collection file and loads its first puzzle.
 void mnuloadpuz_Click(Game& game);
 void cmdload_Click(Game& game);
-
-/// Asks for a file name and keeps the current directory, which a file dialog may change. "" when nothing was chosen.
-std::string PickFile(Game& game, const FileRequest& request);
 
 }  // namespace tidewalk

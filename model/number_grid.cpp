@@ -3,12 +3,12 @@
 
 #include <algorithm>
 
-#include "model/collection_edit.h"
-#include "model/job.h"
-#include "model/navigation.h"
-#include "model/numbers.h"
+#include "game/job.h"
+#include "game/pick_file.h"
+#include "model/file_error.h"
+#include "model/import_grid.h"
 #include "model/paths.h"
-#include "model/read_grid_file.h"
+#include "model/plain_grid.h"
 #include "model/replace_file.h"
 
 namespace tidewalk {
@@ -22,7 +22,7 @@ FileRequest GridRequest(const Game& game, std::string title, FileRequest::Mode m
 /// Writes the grid to `path`; says why when that fails.
 bool WriteGridFile(Game& game, const NumberGrid& grid, const std::string& path) {
     try {
-        ReplaceFile(path, [&](std::ostream& out) { out << grid.Text(); });
+        ReplaceFile(path, [&](std::ostream& out) { out << MarkedGrid(grid.Numbers()); });
     } catch (const FileError& error) {
         game.prompts.Show("The grid could not be written:\r\n" + std::string(error.what()), "vbcritical+vbok");
         return false;
@@ -33,32 +33,29 @@ bool WriteGridFile(Game& game, const NumberGrid& grid, const std::string& path) 
 }  // namespace
 
 void NumberGrid::Resize(int rows, int cols) {
-    rows_ = std::clamp(rows, 1, kMaxSide);
-    cols_ = std::clamp(cols, 1, kMaxSide);
-    for (int row = 1; row <= kMaxSide; ++row) {
-        for (int col = 1; col <= kMaxSide; ++col) {
-            if (row > rows_ || col > cols_) numbers_(row, col) = 0;
-        }
-    }
+    Puzzle resized({std::clamp(rows, 1, kMaxSide), std::clamp(cols, 1, kMaxSide)});
+    for (CellNumber id = 1; id <= resized.CellCount(); ++id)
+        resized.SetIsland(id, At(resized.CellRow(id), resized.CellCol(id)));
+    puzzle_ = resized;
     MoveTo(cursor_.row, cursor_.col);
 }
 
 void NumberGrid::Clear() {
-    numbers_.Fill(0);
+    puzzle_ = Puzzle(puzzle_.Size());
     MoveTo(1, 1);
 }
 
 void NumberGrid::MoveTo(int row, int col) {
-    cursor_ = {std::clamp(row, 1, rows_), std::clamp(col, 1, cols_)};
+    cursor_ = {std::clamp(row, 1, Rows()), std::clamp(col, 1, Cols())};
 }
 
 bool NumberGrid::Type(char key) {
     const bool isIsland = key >= '1' && key <= '8';
     if (!isIsland && key != '0' && key != '.' && key != ' ') return false;
-    numbers_(cursor_.row, cursor_.col) = isIsland ? key - '0' : 0;
-    if (cursor_.col < cols_) {
+    Set(isIsland ? key - '0' : 0);
+    if (cursor_.col < Cols()) {
         MoveBy(0, 1);
-    } else if (cursor_.row < rows_) {
+    } else if (cursor_.row < Rows()) {
         MoveTo(cursor_.row + 1, 1);
     }
     return true;
@@ -66,44 +63,30 @@ bool NumberGrid::Type(char key) {
 
 void NumberGrid::Backspace() {
     // In the last cell the cursor had nowhere to go on to: what was typed there is still under it.
-    const bool isLast = cursor_.row == rows_ && cursor_.col == cols_;
-    if (!isLast || numbers_(cursor_.row, cursor_.col) == 0) {
+    const bool isLast = cursor_.row == Rows() && cursor_.col == Cols();
+    if (!isLast || At(cursor_.row, cursor_.col) == 0) {
         if (cursor_.col > 1) {
             MoveBy(0, -1);
         } else if (cursor_.row > 1) {
-            MoveTo(cursor_.row - 1, cols_);
+            MoveTo(cursor_.row - 1, Cols());
         }
     }
     Delete();
 }
 
-void NumberGrid::Take(const GridText& grid) {
-    Clear();
-    Resize(grid.rows, grid.cols);
-    for (int row = 1; row <= rows_; ++row) {
-        for (int col = 1; col <= cols_; ++col)
-            numbers_(row, col) = grid.At(row, col);
-    }
-}
-
-std::string NumberGrid::Text() const {
-    std::string text = "#" + Format(rows_, "00") + Format(cols_, "00") + "\r\n";
-    for (int row = 1; row <= rows_; ++row) {
-        for (int col = 1; col <= cols_; ++col)
-            text += At(row, col) > 0 ? NumText(At(row, col)) : ".";
-        text += "\r\n";
-    }
-    return text;
+void NumberGrid::Take(const Puzzle& puzzle) {
+    puzzle_ = WithoutLinks(puzzle);
+    cursor_ = {1, 1};
+    // Before the first load the puzzle on the board has no cells at all.
+    Resize(puzzle.Rows, puzzle.Cols);
 }
 
 bool LoadNumberGrid(Game& game, NumberGrid& grid) {
     const std::string path = PickFile(game, GridRequest(game, "Select a grid file", FileRequest::Mode::Open));
     if (path.empty()) return false;
-    // The program's numbered files may be in use by a job.
-    NumberedFiles files;
-    GridText text;
-    if (ReportGridResult(game, ReadGridText(files, path, 1, text), path, 1) == YesValue) return false;
-    grid.Take(text);
+    Puzzle puzzle;
+    if (!ReportGridResult(game, ReadGridFrom(path, 1, puzzle), path, 1)) return false;
+    grid.Take(puzzle);
     return true;
 }
 
@@ -117,20 +100,11 @@ bool SaveNumberGrid(Game& game, const NumberGrid& grid) {
 bool UseNumberGrid(Game& game, const NumberGrid& grid) {
     if (RefuseWhileBusy(game)) return false;
     const std::string workFile = "tempeditpuzzle.txt";
-    return WriteGridFile(game, grid, workFile) && ReadGridFile(game, workFile, 1) == NoValue;
+    return WriteGridFile(game, grid, workFile) && ReadGridFile(game, workFile, 1);
 }
 
 void EditCurrentPuzzle(const Game& game, NumberGrid& grid) {
-    GridText text;
-    text.rows = game.Rows;
-    text.cols = game.Cols;
-    // The numbers as given: a job may be counting the others down.
-    for (int row = 1; row <= text.rows; ++row) {
-        std::string& line = text.lines.emplace_back();
-        for (int col = 1; col <= text.cols; ++col)
-            line += NumText(std::max(game.GivenGrid(row, col), 0));
-    }
-    grid.Take(text);
+    grid.Take(game.board.puzzle);
 }
 
 }  // namespace tidewalk

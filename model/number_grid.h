@@ -4,18 +4,18 @@
 
 #include <string>
 
-#include "model/game.h"
-#include "model/grid_text.h"
+#include "game/game.h"
 
 namespace tidewalk {
 
 /// The numbers that are being typed. Rows and columns are 1-based.
 class NumberGrid {
  public:
-    int Rows() const { return rows_; }
-    int Cols() const { return cols_; }
+    int Rows() const { return puzzle_.Rows; }
+    int Cols() const { return puzzle_.Cols; }
     /// The number in a cell, 0 for water.
-    int At(int row, int col) const { return numbers_(row, col); }
+    int At(int row, int col) const { return puzzle_.IslandGrid(row, col); }
+    const Puzzle& Numbers() const { return puzzle_; }
     CellPlace Cursor() const { return cursor_; }
 
     /// Makes the grid larger or smaller, 1..25 both ways. Numbers that lie outside now are gone.
@@ -33,18 +33,16 @@ class NumberGrid {
     /// Goes back one cell in reading order and makes it water.
     void Backspace();
     /// Makes the cell under the cursor water.
-    void Delete() { numbers_(cursor_.row, cursor_.col) = 0; }
+    void Delete() { Set(0); }
 
-    /// Takes the size and the numbers of a grid that was read.
-    void Take(const GridText& grid);
-    /// The grid as its file holds it: "#RRCC" and the rows, each line with its end.
-    std::string Text() const;
+    /// Takes the size and the numbers of a puzzle.
+    void Take(const Puzzle& puzzle);
 
  private:
-    int rows_ = kMinSide;
-    int cols_ = kMinSide;
+    void Set(int number) { puzzle_.SetIsland(puzzle_.CellId(cursor_), number); }
+
+    Puzzle puzzle_{BoardSize{kMinSide, kMinSide}};
     CellPlace cursor_{1, 1};
-    Grid<int> numbers_;
 };
 
 /// Asks for a file and takes its first grid; nothing changes when that fails. True when a grid was read.

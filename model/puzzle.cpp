@@ -1,23 +1,26 @@
 // SPDX-License-Identifier: MIT
 #include "model/puzzle.h"
 
-#include <algorithm>
-
 namespace tidewalk {
 
-void NumberCells(Puzzle& puzzle) {
-    puzzle.CellCount = puzzle.Rows * puzzle.Cols;
-    puzzle.MaxDim = std::max(puzzle.Rows, puzzle.Cols);
-    puzzle.CellId.Fill(0);
-    CellNumber id = 0;
-    for (int row = 1; row <= puzzle.Rows; ++row) {
-        for (int col = 1; col <= puzzle.Cols; ++col) {
-            ++id;
-            puzzle.CellId(row, col) = id;
-            puzzle.CellRow[id] = row;
-            puzzle.CellCol[id] = col;
-        }
-    }
+int Puzzle::NumberTotal() const {
+    int total = 0;
+    for (CellNumber id = 1; id <= CellCount(); ++id)
+        total += IslandAt(id);
+    return total;
+}
+
+int Puzzle::IslandCount() const {
+    int count = 0;
+    for (CellNumber id = 1; id <= CellCount(); ++id)
+        count += IslandAt(id) > 0 ? 1 : 0;
+    return count;
+}
+
+Puzzle WithoutLinks(const Puzzle& puzzle) {
+    Puzzle bare = puzzle;
+    bare.LinkList.clear();
+    return bare;
 }
 
 }  // namespace tidewalk

@@ -1,62 +1,61 @@
 // SPDX-License-Identifier: MIT
-// The current puzzle: its board, its islands, its links and its place in a collection.
+// A puzzle as a value: its size, the numbers of its islands and the bridges that are stored with it.
 #pragma once
 
-#include <string>
+#include <algorithm>
+#include <cstdint>
+#include <vector>
 
 #include "model/grid.h"
-#include "model/link_table.h"
+#include "model/link.h"
 
 namespace tidewalk {
 
-/// Flags and routine results are compared with these; a routine that fails returns 1.
-inline constexpr int YesValue = 1;
-inline constexpr int NoValue = 0;
+/// A puzzle that belongs to nobody: cheap to copy, and equal to another one that holds the same.
+///
+/// Cells have ids that run row by row from 1 at the upper left corner.
+class Puzzle {
+ public:
+    /// No puzzle: a board without cells.
+    Puzzle() = default;
+    /// A board of nothing but water, 1..25 cells either way.
+    explicit Puzzle(BoardSize size) : Rows(size.rows), Cols(size.cols) {}
 
-inline constexpr std::string_view AppTitle = "Tidewalk";
+    int Rows = 0;
+    int Cols = 0;
 
-/// Where a cell lies, 1-based.
-struct CellPlace {
-    int row = 0;
-    int col = 0;
+    /// The stored bridges, a link each; of a puzzle that the solver solved, every candidate link.
+    std::vector<Link> LinkList;
 
-    bool operator==(const CellPlace&) const = default;
-};
-
-/// The state that makes up the current puzzle.
-struct Puzzle {
-    int Rows = 0;       ///< 1..25; created puzzles have at least 7
-    int Cols = 0;       ///< 1..25; created puzzles have at least 7
-    int CellCount = 0;  ///< `Rows` times `Cols`
-    int MaxDim = 0;     ///< the larger of `Rows` and `Cols`
-
-    /// The number of an island, 0 (or, in the solver, -1) for water, -1 off the board within 1..25, 0 in the margin.
-    /// While the solver works, what an island still needs.
-    Grid<int> IslandGrid;
-    Grid<int> GivenGrid;  ///< the numbers as read, in the same form; 0 or less is water
-    Grid<int> CellId;     ///< the id of every board cell, 0 off the board
-    PerCell<int> CellRow;
-    PerCell<int> CellCol;
-
-    LinkTable LinkList;
-    int LinkCount() const { return LinkList.Count(); }
-
-    int NumberTotal = 0;         ///< the sum of all island numbers of the loaded puzzle
-    int PuzzleNumber = 0;        ///< 1-based line of the current puzzle in its collection; 0 before the first load
-    int PuzzleCount = 0;         ///< lines of the current collection
-    std::string CollectionPath;  ///< the current collection
-
-    CellPlace PlaceOf(CellNumber id) const { return {CellRow[id], CellCol[id]}; }
+    BoardSize Size() const { return {Rows, Cols}; }
+    int CellCount() const { return Rows * Cols; }
+    int MaxDim() const { return std::max(Rows, Cols); }
+    int LinkCount() const { return static_cast<int>(LinkList.size()); }
+    /// The sum of all numbers, twice the bridges of a solution.
+    int NumberTotal() const;
+    int IslandCount() const;
 
     bool OnBoard(int row, int col) const { return row >= 1 && row <= Rows && col >= 1 && col <= Cols; }
+    /// The id of a cell on the board.
+    CellNumber CellId(int row, int col) const { return (row - 1) * Cols + col; }
+    CellNumber CellId(CellPlace place) const { return CellId(place.row, place.col); }
+    int CellRow(CellNumber id) const { return (id - 1) / Cols + 1; }
+    int CellCol(CellNumber id) const { return (id - 1) % Cols + 1; }
+    CellPlace PlaceOf(CellNumber id) const { return {CellRow(id), CellCol(id)}; }
 
-    /// What `IslandGrid` holds at the cell `id`.
-    int& IslandAt(CellNumber id) { return IslandGrid(CellRow[id], CellCol[id]); }
-    int IslandAt(CellNumber id) const { return IslandGrid(CellRow[id], CellCol[id]); }
+    /// The number of the island on a cell of the board, 1..9 (no puzzle with a 9 has a solution), or 0 for water.
+    int IslandAt(CellNumber id) const { return numbers_[id]; }
+    /// The same by row and column, which may lie anywhere; 0 off the board.
+    int IslandGrid(int row, int col) const { return OnBoard(row, col) ? numbers_[CellId(row, col)] : 0; }
+    void SetIsland(CellNumber id, int number) { numbers_[id] = static_cast<std::uint8_t>(number); }
+
+    bool operator==(const Puzzle&) const = default;
+
+ private:
+    PerCell<std::uint8_t> numbers_;
 };
 
-/// Numbers the cells of a `Rows` by `Cols` board row by row, with ids of 0 off the board, and sets `CellCount` and
-/// `MaxDim`.
-void NumberCells(Puzzle& puzzle);
+/// A puzzle with the same islands and no links.
+Puzzle WithoutLinks(const Puzzle& puzzle);
 
 }  // namespace tidewalk

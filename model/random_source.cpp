@@ -2,6 +2,8 @@
 #include "model/random_source.h"
 
 #include <bit>
+#include <chrono>
+#include <utility>
 
 namespace tidewalk {
 
@@ -17,8 +19,14 @@ std::uint64_t Mix(std::uint64_t x) {
 
 }  // namespace
 
-RandomSource::RandomSource(Clock& clock)
-    : clock_(clock), state_(Mix(static_cast<std::uint64_t>(clock.Milliseconds()))) {}
+double SystemTimeOfDay() {
+    using Seconds = std::chrono::duration<double>;
+    const auto now = std::chrono::system_clock::now();
+    return Seconds(now - std::chrono::floor<std::chrono::days>(now)).count();
+}
+
+RandomSource::RandomSource(TimeOfDay timeOfDay)
+    : timeOfDay_(std::move(timeOfDay)), state_(Mix(std::bit_cast<std::uint64_t>(timeOfDay_()))) {}
 
 void RandomSource::UseSeed(std::uint64_t seed) {
     state_ = Mix(seed);
@@ -32,7 +40,7 @@ void RandomSource::Reseed() {
         // Reading the clock costs more than all the rest of a draw, and draws come by the thousand within one tick.
         constexpr int kDrawsPerReading = 16;
         untilClock_ = kDrawsPerReading - 1;
-        time_ = std::bit_cast<std::uint64_t>(clock_.Timer());
+        time_ = std::bit_cast<std::uint64_t>(timeOfDay_());
     }
     state_ = Mix(state_ ^ time_);
 }

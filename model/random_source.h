@@ -3,11 +3,16 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 
-#include "model/clock.h"
-
 namespace tidewalk {
+
+/// Seconds since midnight, with a fraction, 0 <= t < 86400.
+using TimeOfDay = std::function<double()>;
+
+/// The machine's own clock, by universal time.
+double SystemTimeOfDay();
 
 /// A source of uniform numbers that is reseeded from the time of day before each draw.
 ///
@@ -15,7 +20,10 @@ namespace tidewalk {
 /// With a seed of its own the clock is replaced by a counter: the same seed gives the same draws on every machine.
 class RandomSource {
  public:
-    explicit RandomSource(Clock& clock);
+    /// Draws that differ from run to run.
+    explicit RandomSource(TimeOfDay timeOfDay = SystemTimeOfDay);
+    /// Draws that depend on `seed` alone.
+    explicit RandomSource(std::uint64_t seed) { UseSeed(seed); }
 
     /// From now on draws depend on `seed` alone.
     void UseSeed(std::uint64_t seed);
@@ -33,8 +41,8 @@ class RandomSource {
     }
 
  private:
-    Clock& clock_;
-    std::uint64_t state_;
+    TimeOfDay timeOfDay_;
+    std::uint64_t state_ = 0;
     std::optional<std::uint64_t> counter_;
     int untilClock_ = 0;
     std::uint64_t time_ = 0;

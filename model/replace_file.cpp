@@ -3,19 +3,16 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <fstream>
+
+#include "model/file_error.h"
 
 namespace tidewalk {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-[[noreturn]] void Fail(const fs::path& path, int reason) {
-    throw FileError(path.string() + ": " + std::strerror(reason != 0 ? reason : EIO));
-}
 
 /// What is behind the links at `path`, even where the last one leads to no file yet.
 fs::path BehindLinks(fs::path path) {

@@ -6,8 +6,6 @@
 #include <ostream>
 #include <string>
 
-#include "model/numbered_files.h"
-
 namespace tidewalk {
 
 /// Makes what `write` puts into the stream the new content of the file at `path`, which may not exist yet.

@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <optional>
 
-#include "model/contrast.h"
+#include "drawing/contrast.h"
+#include "model/file_error.h"
+#include "model/line_reader.h"
 #include "model/numbers.h"
 
 namespace tidewalk {
@@ -25,42 +27,39 @@ std::optional<Colour> ReadColour(std::string_view line) {
                channel(blue.substr(0, blue.find(';'))));
 }
 
-/// Passes over everything up to the line that is `name`; false when there is none. The file stays open.
-bool FindScheme(NumberedFiles& files, const std::string& path, const std::string& name) {
-    try {
-        files.Open(1, path, FileMode::Input);
-        std::string line;
-        while (files.ReadLine(1, line)) {
-            if (line == name) return true;
-        }
-    } catch (const FileError&) {
-        // A file that cannot be read holds no scheme.
+/// Reads the lines behind the scheme's name. A scheme that is cut short ends at the first line that is no colour, for
+/// that may be the name of the next one.
+void ReadEntries(LineReader& lines, Colour& backColour, Options& options) {
+    std::string line;
+    for (std::size_t i = 0; i < kReadEntries && lines.Next(line); ++i) {
+        const auto colour = ReadColour(line);
+        if (!colour) return;
+        options.SchemeColours[i] = *colour;
+        if (i == kBackgroundEntry) backColour = *colour;
     }
-    return false;
 }
 
-/// Reads the lines behind the name. A scheme that is cut short ends at the first line that is no colour, for that may
-/// be the name of the next one.
-void ReadEntries(NumberedFiles& files, Colour& backColour, Options& options) {
+/// Reads the scheme called `name`, as far as it can be read; false when there is none.
+bool ReadScheme(const std::string& path, const std::string& name, Colour& backColour, Options& options) {
+    bool found = false;
     try {
+        LineReader lines(path);
         std::string line;
-        for (std::size_t i = 0; i < kReadEntries && files.ReadLine(1, line); ++i) {
-            const auto colour = ReadColour(line);
-            if (!colour) return;
-            options.SchemeColours[i] = *colour;
-            if (i == kBackgroundEntry) backColour = *colour;
-        }
+        while (!found && lines.Next(line))
+            found = line == name;
+        if (found) ReadEntries(lines, backColour, options);
     } catch (const FileError&) {
-        // What was read so far is used.
+        // What was read so far is used; a file that cannot be read holds no scheme.
     }
+    return found;
 }
 
 /// What "default.col" does before the windows are painted: the desktop's colours, and the board's own.
 void TakeDesktopColours(Game& game) {
-    game.SchemeColours[kBackgroundEntry] = game.window.Desktop(DesktopColour::WindowFace);
-    game.SchemeColours[kOutlineEntry] = game.window.Desktop(DesktopColour::ListBackground);
-    game.SchemeColours[kFaceEntry] = kWhite;
-    game.ChainColour = BoardDefaultsOn(game.SchemeColours[kBackgroundEntry]).chain;
+    game.options.SchemeColours[kBackgroundEntry] = game.window.Desktop(DesktopColour::WindowFace);
+    game.options.SchemeColours[kOutlineEntry] = game.window.Desktop(DesktopColour::ListBackground);
+    game.options.SchemeColours[kFaceEntry] = kWhite;
+    game.options.ChainColour = BoardDefaultsOn(game.options.SchemeColours[kBackgroundEntry]).chain;
 }
 
 }  // namespace
@@ -77,9 +76,7 @@ void ReadColourScheme(Game& game, const std::string& Name, Colour& BackColour, O
         colours[kOutlineEntry] = game.window.Desktop(DesktopColour::WindowFace);
         return;
     }
-    // The program's numbered files may be in use by a job while the options window is open.
-    NumberedFiles files;
-    if (FindScheme(files, game.ColourListPath, Name)) return ReadEntries(files, BackColour, options);
+    if (ReadScheme(game.ColourListPath, Name, BackColour, options)) return;
     game.prompts.Show("Color Scheme: " + Name + " not found", "vbcritical+vbok");
     game.events.DoEvents();
     BackColour = 0;
@@ -87,24 +84,24 @@ void ReadColourScheme(Game& game, const std::string& Name, Colour& BackColour, O
 }
 
 void LoadColourScheme(Game& game, const std::string& Name, Colour& BackColour) {
-    ReadColourScheme(game, Name, BackColour, game);
+    ReadColourScheme(game, Name, BackColour, game.options);
 }
 
 void ApplyColourScheme(Game& game) {
-    const bool isDefault = IsDefaultScheme(game.ColourSchemeName);
-    auto& colours = game.SchemeColours;
-    game.AdjustIndex = static_cast<int>(kFaceEntry);
+    Options& options = game.options;
+    const bool isDefault = IsDefaultScheme(options.ColourSchemeName);
+    auto& colours = options.SchemeColours;
+    options.AdjustIndex = static_cast<int>(kFaceEntry);
     if (isDefault) TakeDesktopColours(game);
     if (colours[kAdjustedEntry] == 0) colours[kAdjustedEntry] = colours[kFaceEntry];
     if (colours[kAdjustedEntry] > 0) colours[kFaceEntry] = colours[kAdjustedEntry];
     if (isDefault) {
         const BoardDefaults defaults = BoardDefaultsOn(colours[kBackgroundEntry]);
-        game.NodeColour = game.GridColour = defaults.node;
-        game.ChainColour = defaults.chain;
+        options.NodeColour = options.GridColour = defaults.node;
+        options.ChainColour = defaults.chain;
         // Numbers that were chosen for dark islands are lost on light ones.
-        if (defaults.node != kDefaultNodeColour) game.GivenColour = LegibleOn(defaults.node, game.GivenColour);
+        if (defaults.node != kDefaultNodeColour) options.GivenColour = LegibleOn(defaults.node, options.GivenColour);
     }
-    game.Picture1BackColor = colours[kBackgroundEntry];
     game.window.ApplyColours();
 }
 

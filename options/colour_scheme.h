@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 

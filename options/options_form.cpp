@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "model/contrast.h"
-#include "model/job.h"
+#include "board/show_board.h"
+#include "drawing/contrast.h"
 #include "model/numbers.h"
 #include "options/colour_scheme.h"
 
@@ -63,20 +63,21 @@ void TakeScheme(Game& game, OptionsForm& form, const std::string& name) {
 
 OptionsForm OpenOptions(const Game& game) {
     OptionsForm form;
-    form.draft = game;
-    form.schemes = game.schemeNames;
-    form.Combo1 = WithoutEnding(game.ColourSchemeName);
+    const Options& options = game.options;
+    form.draft = game.options;
+    form.schemes = options.schemeNames;
+    form.Combo1 = WithoutEnding(options.ColourSchemeName);
     if (std::find(form.schemes.begin(), form.schemes.end(), form.Combo1) == form.schemes.end()) {
         form.schemes.push_back(form.Combo1);
     }
-    form.Line1 = game.ChainColour;
-    form.Line2 = game.GridColour;
-    form.Label1 = game.GivenColour;
-    form.Label2 = game.NodeColour;
-    form.Text3 = NumText(game.PrintLineWidth);
-    form.Option2 = game.NodeShape == 1;
-    form.Check1 = game.ShowLines != 0;
-    form.Check2 = game.ShowFinished != 0;
+    form.Line1 = options.ChainColour;
+    form.Line2 = options.GridColour;
+    form.Label1 = options.GivenColour;
+    form.Label2 = options.NodeColour;
+    form.Text3 = NumText(options.PrintLineWidth);
+    form.Option2 = options.NodeShape == 1;
+    form.Check1 = options.ShowLines != 0;
+    form.Check2 = options.ShowFinished != 0;
     return form;
 }
 
@@ -107,19 +108,20 @@ bool cmdnodecol_Click(OptionsForm& form, std::optional<Colour> picked) {
 }
 
 void command1_Click(Game& game, const OptionsForm& form) {
-    game.ColourSchemeName = form.draft.ColourSchemeName;
-    game.SchemeColours = form.draft.SchemeColours;
-    game.ChainColour = form.Line1;
-    game.GridColour = form.Line2;
-    game.GivenColour = form.Label1;
-    game.NodeColour = form.Label2;
-    game.NodeShape = form.Option2 ? 1 : 0;
-    game.ShowLines = form.Check1 ? 1 : 0;
-    game.ShowFinished = form.Check2 ? 1 : 0;
+    Options& options = game.options;
+    options.ColourSchemeName = form.draft.ColourSchemeName;
+    options.SchemeColours = form.draft.SchemeColours;
+    options.ChainColour = form.Line1;
+    options.GridColour = form.Line2;
+    options.GivenColour = form.Label1;
+    options.NodeColour = form.Label2;
+    options.NodeShape = form.Option2 ? 1 : 0;
+    options.ShowLines = form.Check1 ? 1 : 0;
+    options.ShowFinished = form.Check2 ? 1 : 0;
     const int width = RoundedVal(form.Text3);
-    if (width >= 1) game.PrintLineWidth = std::min(width, kWidestPrintLine);
+    if (width >= 1) options.PrintLineWidth = std::min(width, kWidestPrintLine);
     ApplyColourScheme(game);
-    if (!JobRuns(game)) game.board.RedrawBoard(game, false);
+    if (!game.job.BusyFlag()) RedrawBoard(game, false);
 }
 
 void reset_Click(Game& game, OptionsForm& form) {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "model/game.h"
+#include "game/game.h"
 #include "options/window_colours.h"
 
 namespace tidewalk {
@@ -25,8 +25,6 @@ struct OptionsForm {
     bool Check1 = true;                ///< show the lines between cells
     bool Check2 = false;               ///< draw islands with all their bridges paler
 
-    /// What the board's background would be.
-    Colour BoardBackground() const { return draft.SchemeColours[kBackgroundEntry]; }
     /// The back colour of `Combo1`: the entry that the brightness buttons change.
     Colour AdjustedColour() const { return draft.SchemeColours[static_cast<std::size_t>(draft.AdjustIndex)]; }
 };

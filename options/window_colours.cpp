@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "options/window_colours.h"
 
-#include "model/contrast.h"
+#include "drawing/contrast.h"
 #include "model/numbers.h"
 #include "options/colour_scheme.h"
 

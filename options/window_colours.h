@@ -2,8 +2,8 @@
 // The colours that the windows wear: what a scheme says, made legible whatever it says.
 #pragma once
 
-#include "model/options.h"
-#include "model/seams.h"
+#include "game/main_window.h"
+#include "options/options.h"
 
 namespace tidewalk {
 

@@ -7,7 +7,7 @@
 namespace tidewalk {
 
 void can2_Click(Game& game) {
-    if (!DropSelection(game)) cmdcancel_Click(game);
+    if (!LetGo(game)) cmdcancel_Click(game);
 }
 
 }  // namespace tidewalk

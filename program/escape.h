@@ -2,7 +2,7 @@
 // The Escape key.
 #pragma once
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "program/exit.h"
 
-#include "model/config_file.h"
+#include "model/configuration.h"
+#include "model/load_puzzle.h"
 
 namespace tidewalk {
 
 void cmdexit_Click(Game& game) {
-    if (game.prompts.Show("Exit?", "vbYesNo+vbexit") != kYes || game.ending) return;
-    game.files.CloseAll();
+    if (game.prompts.Show("Exit?", "vbYesNo+vbexit") != kYes || game.job.Ending()) return;
+    CloseFiles(game);
     SavecfgFile(game);
     Form_QueryUnload(game);
 }
@@ -15,8 +16,7 @@ void cmdexit_Click(Game& game) {
 void Form_QueryUnload(Game& game) {
     game.window.EndProgram();
     // A job that is on its way sees this and stops.
-    game.ending = true;
-    game.CancelFlag = YesValue;
+    game.job.EndProgram();
 }
 
 }  // namespace tidewalk

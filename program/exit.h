@@ -2,7 +2,7 @@
 // The two ways out of the program.
 #pragma once
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 

@@ -2,7 +2,7 @@
 // A collection for a start that finds none.
 #pragma once
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 

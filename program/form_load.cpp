@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "program/form_load.h"
 
-#include "model/config_file.h"
+#include "model/configuration.h"
+#include "model/file_error.h"
+#include "model/line_reader.h"
 #include "model/load_puzzle.h"
 #include "model/paths.h"
 #include "options/colour_scheme.h"
@@ -13,17 +15,15 @@ namespace {
 
 /// Fills the list of scheme names from "all.col"; returns what to tell the player when that cannot be done.
 std::optional<std::string> ReadSchemeNames(Game& game) {
-    game.schemeNames.clear();
+    game.options.schemeNames.clear();
     try {
-        game.files.Open(1, game.ColourListPath, FileMode::Input);
+        LineReader lines(game.ColourListPath);
         std::string line;
-        while (game.files.ReadLine(1, line)) {
+        while (lines.Next(line)) {
             const std::size_t ending = line.find(".col");
-            if (ending != std::string::npos) game.schemeNames.push_back(line.substr(0, ending));
+            if (ending != std::string::npos) game.options.schemeNames.push_back(line.substr(0, ending));
         }
-        game.files.Close(1);
     } catch (const FileError& error) {
-        game.files.CloseAll();
         return "The colour schemes could not be read:\n" + std::string(error.what()) +
                "\n\nInstall Tidewalk again, or copy the file \"all.col\" that came with it to this folder.";
     }
@@ -33,17 +33,17 @@ std::optional<std::string> ReadSchemeNames(Game& game) {
 /// Loads what the command line asks for; true when that was done.
 bool LoadRequested(Game& game, const StartRequest& request) {
     if (request.collection.empty()) return false;
-    if (LoadPuzzle(game, request.collection, request.puzzleNumber.value_or(1)) == 0) return true;
-    game.files.CloseAll();
+    if (LoadPuzzle(game, request.collection, request.puzzleNumber.value_or(1))) return true;
+    CloseFiles(game);
     return false;
 }
 
 /// Until a scheme is read, messages wear the desktop's colours.
 void TakeFirstColours(Game& game) {
-    game.SchemeColours[kBackgroundEntry] = game.window.Desktop(DesktopColour::ListBackground);
-    game.SchemeColours[kOutlineEntry] = game.window.Desktop(DesktopColour::WindowFace);
-    game.SchemeColours[kFaceEntry] = game.window.Desktop(DesktopColour::ButtonFace);
-    game.SchemeColours[kHighlightEntry] = game.window.Desktop(DesktopColour::Highlight);
+    game.options.SchemeColours[kBackgroundEntry] = game.window.Desktop(DesktopColour::ListBackground);
+    game.options.SchemeColours[kOutlineEntry] = game.window.Desktop(DesktopColour::WindowFace);
+    game.options.SchemeColours[kFaceEntry] = game.window.Desktop(DesktopColour::ButtonFace);
+    game.options.SchemeColours[kHighlightEntry] = game.window.Desktop(DesktopColour::Highlight);
 }
 
 }  // namespace
@@ -57,15 +57,15 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
 
     ReadcfgFile(game);
     Colour backColour = 0;
-    LoadColourScheme(game, game.ColourSchemeName, backColour);
+    LoadColourScheme(game, game.options.ColourSchemeName, backColour);
     ApplyColourScheme(game);
 
     if (LoadRequested(game, request)) return std::nullopt;
-    if (FileLength(game.CollectionPath) == 0) {
-        game.CollectionPath = game.AppFolder + "puzzles.txt";
-        game.PuzzleNumber = 1;
+    if (FileLength(game.collection.CollectionPath) == 0) {
+        game.collection.CollectionPath = game.AppFolder + "puzzles.txt";
+        game.collection.PuzzleNumber = 1;
     }
-    if (LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber) != 0) MakeFirstCollection(game);
+    if (!LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber)) MakeFirstCollection(game);
     return std::nullopt;
 }
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 

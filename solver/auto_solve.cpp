@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "solver/auto_solve.h"
 
-#include "model/job.h"
+#include <memory>
+
+#include "board/show_board.h"
+#include "game/job.h"
+#include "model/collection_file.h"
+#include "model/file_error.h"
 #include "model/load_puzzle.h"
-#include "model/write_puzzle_record.h"
 #include "solver/solve_puzzle.h"
 #include "solver/valid_solution.h"
 
@@ -13,56 +17,47 @@ namespace {
 
 enum class Outcome { Solved, Failed, Superseded };
 
-/// Takes the islands on the board for the numbers to solve; returns how many there are.
-int TakeGivenNumbers(Game& game) {
-    int islands = 0;
-    for (CellNumber id = 1; id <= game.CellCount; ++id) {
-        const int number = game.IslandAt(id);
-        game.GivenGrid(game.CellRow[id], game.CellCol[id]) = number > 0 ? number : -1;
-        if (number > 0) ++islands;
-    }
-    return islands;
-}
-
+/// Solves the puzzle on the board and puts what the solver found there.
 Outcome Solve(Game& game) {
     const Job job(game);
-    game.window.SetText(Control::pb, "Auto solving ...");
+    game.window.SetText(WindowText::Status, "Auto solving ...");
     LetEventsThrough(game);
-    if (job.Superseded()) return Outcome::Superseded;
-    game.TrialLimit = 0;
-    int trials = 0;
-    const int failed = SolvePuzzle(game, game.CellCount, trials);
-    if (job.Superseded()) return Outcome::Superseded;
-    return failed == YesValue || CheckLinkTotals(game) == YesValue ? Outcome::Failed : Outcome::Solved;
+    const auto solver = std::make_unique<SolverBoard>(game.board.puzzle);
+    const SolveResult result = SolvePuzzle(*solver, {game.board.puzzle.CellCount()}, Watched(game, *solver));
+    // Who loaded another puzzle in the middle wants to see nothing more of this one.
+    if (game.job.Superseded()) return Outcome::Superseded;
+    ShowWorkLists(game, *solver);
+    const Puzzle solved = PuzzleOf(*solver);
+    if (!result.solved || !CheckLinkTotals(solved)) return Outcome::Failed;
+    game.board.puzzle = solved;
+    game.board.OpenNeighbours = solver->OpenNeighbours;
+    return Outcome::Solved;
 }
 
-/// Takes everything that the solver left off the board and leaves the numbers.
+/// Takes everything but the numbers off the board.
 void ShowNumbersAlone(Game& game) {
-    RestoreIslands(game);
-    game.LinkList.Clear(game.Cols);
-    game.OpenNeighbours.Fill({});
-    game.CrossGrid.Fill(Cross::Free);
-    game.ConnectedList.Fill({});
-    game.board.RedrawBoard(game, false);
+    game.board.puzzle = WithoutLinks(game.board.puzzle);
+    game.board.OpenNeighbours.Fill({});
+    RedrawBoard(game, false);
 }
 
 void GiveUp(Game& game) {
     // An earlier load that failed may have left its file open, and this one must not fail for that.
-    game.files.CloseAll();
-    if (LoadPuzzle(game, game.CollectionPath, game.PuzzleNumber) == YesValue) ShowNumbersAlone(game);
-    game.window.SetText(Control::pb, "");
+    CloseFiles(game);
+    if (!LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber)) ShowNumbersAlone(game);
+    game.window.SetText(WindowText::Status, "");
     game.window.SetPointer(Pointer::Default);
     game.prompts.Show("Unable to solve\r\nPlease check puzzle layout", "vbcritical+vbok");
 }
 
 void ShowAndWriteSolution(Game& game) {
-    game.window.SetText(Control::pb, "Solved");
-    game.board.ShowSolution(game);
+    game.window.SetText(WindowText::Status, "Solved");
+    RedrawBoard(game, true);
+    CloseFiles(game);
     try {
-        WritePuzzleRecord(game, SolutionPath(game.CollectionPath), 0);
+        WritePuzzleRecord(SolutionPath(game.collection.CollectionPath), game.board.puzzle, WriteMode::Replace);
     } catch (const FileError& error) {
-        game.files.CloseAll();
-        game.window.SetText(Control::pb, std::string("Solved, but not written: ") + error.what());
+        game.window.SetText(WindowText::Status, std::string("Solved, but not written: ") + error.what());
     }
 }
 
@@ -70,23 +65,20 @@ void ShowAndWriteSolution(Game& game) {
 
 void mnuautosol_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
-    if (game.CellCount == 0) {
+    if (game.board.puzzle.CellCount() == 0) {
         game.prompts.Show("There is no puzzle to solve", "vbinformation+vbok");
         return;
     }
-    game.window.SetPointer(Pointer::Busy);
-    if (TakeGivenNumbers(game) == 0) {
-        game.window.SetPointer(Pointer::Default);
+    if (game.board.puzzle.IslandCount() == 0) {
         game.prompts.Show("Set the puzzle first", "vbinformation+vbok");
         return;
     }
+    const BusyPointer pointer(game);
     const Outcome outcome = Solve(game);
-    if (game.ending) return;
+    if (game.job.Ending()) return;
     if (outcome == Outcome::Failed) GiveUp(game);
     if (outcome == Outcome::Solved) ShowAndWriteSolution(game);
-    // Who loaded another puzzle in the middle wants to see nothing more of this one.
-    if (outcome == Outcome::Superseded) game.window.SetText(Control::pb, "");
-    game.window.SetPointer(Pointer::Default);
+    if (outcome == Outcome::Superseded) game.window.SetText(WindowText::Status, "");
 }
 
 std::string SolutionPath(const std::string& collectionPath) {

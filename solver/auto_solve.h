@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 

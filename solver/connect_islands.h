@@ -3,9 +3,8 @@
 #pragma once
 
 #include <cstddef>
-#include <string_view>
 
-#include "model/game.h"
+#include "solver/solver_board.h"
 
 namespace tidewalk {
 
@@ -13,15 +12,11 @@ namespace tidewalk {
 /// link's capacity goes down, so that a link that is full stays open until the next refresh.
 ///
 /// The needs of both islands go down by `n` without a floor; the cells strictly between them are marked crossed.
-/// `rule` names who asked, for tracing; it changes nothing.
-void ConnectIslands(Game& game, std::string_view rule, CellNumber a, CellNumber b, int n);
-
-/// Marks the cells strictly between two islands of one row ("h") or one column ("v"). Returns true when any of them had
-/// another mark or none before.
-bool MarkCrossed(Game& game, CellNumber a, CellNumber b);
+/// `rule` is kept with what was laid, so that the step can be explained.
+void ConnectIslands(SolverBoard& board, Rule rule, CellNumber a, CellNumber b, int n);
 
 /// Takes back the bridges laid last, until `kept` calls of `ConnectIslands` are left. The needs, marks, links and open
 /// neighbours are then what they were.
-void TakeBackBridges(Game& game, std::size_t kept);
+void TakeBackBridges(SolverBoard& board, std::size_t kept);
 
 }  // namespace tidewalk

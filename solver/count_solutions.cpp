@@ -35,20 +35,20 @@ struct Archipelago {
 /// Reads a board row by row; a span is found from its lower or right end.
 class BoardReader {
  public:
-    BoardReader(const Grid<int>& numbers, int rows, int cols) : numbers_(numbers), rows_(rows), cols_(cols) {}
+    explicit BoardReader(const Puzzle& puzzle) : puzzle_(puzzle) {}
 
     Archipelago Read() {
         across_.Fill(-1);
         std::array<int, kMaxSide + 1> above{};
         std::array<int, kMaxSide + 1> aboveRow{};
         above.fill(-1);
-        for (int row = 1; row <= rows_; ++row) {
+        for (int row = 1; row <= puzzle_.Rows; ++row) {
             int left = -1;
             int leftCol = 0;
-            for (int col = 1; col <= cols_; ++col) {
-                if (numbers_(row, col) <= 0) continue;
+            for (int col = 1; col <= puzzle_.Cols; ++col) {
+                if (puzzle_.IslandGrid(row, col) <= 0) continue;
                 const int isle = static_cast<int>(board_.isles.size());
-                board_.isles.push_back({numbers_(row, col), {}});
+                board_.isles.push_back({puzzle_.IslandGrid(row, col), {}});
                 const auto at = static_cast<std::size_t>(col);
                 if (left >= 0) AddAcross(row, leftCol, col, left, isle);
                 if (above[at] >= 0) spansDown_.push_back({col, aboveRow[at], row, above[at], isle});
@@ -96,9 +96,7 @@ class BoardReader {
         }
     }
 
-    const Grid<int>& numbers_;
-    int rows_;
-    int cols_;
+    const Puzzle& puzzle_;
     Archipelago board_;
     Grid<int> across_;
     std::vector<Down> spansDown_;
@@ -108,7 +106,7 @@ class BoardReader {
 /// leads back.
 class Counter {
  public:
-    Counter(Archipelago board, int limit, const std::function<bool()>& mayGoOn)
+    Counter(Archipelago board, int limit, const MayGoOn& mayGoOn)
         : isles_(std::move(board.isles)), spans_(std::move(board.spans)), limit_(limit), mayGoOn_(mayGoOn) {
         queued_.assign(isles_.size(), false);
         order_.resize(isles_.size());
@@ -290,7 +288,7 @@ class Counter {
     std::vector<Isle> isles_;
     std::vector<Span> spans_;
     int limit_;
-    const std::function<bool()>& mayGoOn_;
+    const MayGoOn& mayGoOn_;
     int count_ = 0;
     bool stopped_ = false;
 
@@ -306,13 +304,12 @@ class Counter {
 
 }  // namespace
 
-std::optional<int> CountSolutions(const Grid<int>& numbers, int rows, int cols, int limit, std::int64_t steps) {
-    return CountSolutionsWhile(numbers, rows, cols, limit, [steps]() mutable { return steps-- > 0; });
+std::optional<int> CountSolutions(const Puzzle& puzzle, int limit, std::int64_t steps) {
+    return CountSolutionsWhile(puzzle, limit, [steps]() mutable { return steps-- > 0; });
 }
 
-std::optional<int> CountSolutionsWhile(const Grid<int>& numbers, int rows, int cols, int limit,
-                                       const std::function<bool()>& mayGoOn) {
-    Archipelago board = BoardReader(numbers, rows, cols).Read();
+std::optional<int> CountSolutionsWhile(const Puzzle& puzzle, int limit, const MayGoOn& mayGoOn) {
+    Archipelago board = BoardReader(puzzle).Read();
     if (board.isles.empty()) return 0;
     return Counter(std::move(board), limit, mayGoOn).Run();
 }

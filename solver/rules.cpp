@@ -13,34 +13,34 @@ namespace {
 /// One island as the rules see it: its open neighbours are those at the start of the visit, needs and capacities are
 /// read when they are asked for.
 struct Visit {
-    Game& game;
+    SolverBoard& board;
     CellNumber self;
     NeighbourList open;
 
     CellNumber A() const { return open[0]; }
     CellNumber B() const { return open[1]; }
     CellNumber C() const { return open[2]; }
-    int Need(CellNumber island) const { return game.IslandAt(island); }
-    int Capacity(CellNumber island) const { return GetLinkValue(game, self, island); }
-    void Lay(std::string_view rule, CellNumber island, int n) { ConnectIslands(game, rule, self, island, n); }
+    int Need(CellNumber island) const { return board.IslandGrid[island]; }
+    int Capacity(CellNumber island) const { return GetLinkValue(board, self, island); }
+    void Lay(Rule rule, CellNumber island, int n) { ConnectIslands(board, rule, self, island, n); }
 };
 
 // Each rule returns true when it decides the island, whether or not it laid a bridge.
 
 /// The only neighbour takes the last bridge.
 bool OneToOnlyNeighbour(Visit& visit) {
-    visit.Lay("1-1 connect", visit.A(), 1);
+    visit.Lay(Rule::OneToOnlyNeighbour, visit.A(), 1);
     return true;
 }
 
 /// The only neighbour takes both bridges, if the link is still free.
 bool TwoToOnlyNeighbour(Visit& visit) {
-    if (visit.Capacity(visit.A()) >= 2) visit.Lay("2 has only 1 connection", visit.A(), 2);
+    if (visit.Capacity(visit.A()) >= 2) visit.Lay(Rule::TwoToOnlyNeighbour, visit.A(), 2);
     return true;
 }
 
 /// A need of twice the neighbours doubles every link. A link that is in use already ends the rule.
-bool DoubleEveryLink(Visit& visit, std::string_view rule) {
+bool DoubleEveryLink(Visit& visit, Rule rule) {
     for (const CellNumber neighbour : visit.open) {
         if (visit.Capacity(neighbour) < 2) break;
         visit.Lay(rule, neighbour, 2);
@@ -49,49 +49,49 @@ bool DoubleEveryLink(Visit& visit, std::string_view rule) {
 }
 
 bool FourToTwoNeighbours(Visit& visit) {
-    return DoubleEveryLink(visit, "4-2 connect");
+    return DoubleEveryLink(visit, Rule::FourToTwoNeighbours);
 }
 
 bool SixToThreeNeighbours(Visit& visit) {
-    return DoubleEveryLink(visit, "6-3 connect");
+    return DoubleEveryLink(visit, Rule::SixToThreeNeighbours);
 }
 
 /// Of two neighbours one needs a single bridge, so the other takes two.
 bool ThreeBesideOne(Visit& visit) {
     const bool firstNeedsOne = visit.Need(visit.A()) == 1;
     if (!firstNeedsOne && visit.Need(visit.B()) != 1) return true;
-    visit.Lay("3-1 connect", firstNeedsOne ? visit.A() : visit.B(), 1);
-    visit.Lay("3-2 connect", firstNeedsOne ? visit.B() : visit.A(), 2);
+    visit.Lay(Rule::OneOfThree, firstNeedsOne ? visit.A() : visit.B(), 1);
+    visit.Lay(Rule::TwoOfThree, firstNeedsOne ? visit.B() : visit.A(), 2);
     return true;
 }
 
 /// Two neighbours take at least one bridge each. The rule before it has decided such an island already.
 bool ThreeToTwoNeighbours(Visit& visit) {
-    visit.Lay("3-2 connect part1", visit.A(), 1);
-    visit.Lay("3-2 connect part2", visit.B(), 1);
+    visit.Lay(Rule::FirstOfThreeToTwo, visit.A(), 1);
+    visit.Lay(Rule::SecondOfThreeToTwo, visit.B(), 1);
     return true;
 }
 
 /// Five bridges over three links put at least one on each.
 bool FiveToThreeNeighbours(Visit& visit) {
-    visit.Lay("5-3 links connect", visit.A(), 1);
-    visit.Lay("5-3 link connect", visit.B(), 1);
-    visit.Lay("5-3 link connect", visit.C(), 1);
+    visit.Lay(Rule::FirstOfFive, visit.A(), 1);
+    visit.Lay(Rule::OtherOfFive, visit.B(), 1);
+    visit.Lay(Rule::OtherOfFive, visit.C(), 1);
     return true;
 }
 
 /// A neighbour that needs one bridge leaves at least one for the other.
 bool TwoBesideOne(Visit& visit) {
     if (visit.Need(visit.A()) != 1 && visit.Need(visit.B()) != 1) return true;
-    visit.Lay("2-1 connect", visit.Need(visit.A()) != 1 ? visit.A() : visit.B(), 1);
+    visit.Lay(Rule::TwoBesideOne, visit.Need(visit.A()) != 1 ? visit.A() : visit.B(), 1);
     return true;
 }
 
 /// Two links that take one more bridge each. The rule before it has decided such an island already.
 bool TwoOverHalfUsedLinks(Visit& visit) {
     if (visit.Capacity(visit.A()) != 1 || visit.Capacity(visit.B()) != 1) return true;
-    visit.Lay("2-R1 connect", visit.A(), 1);
-    visit.Lay("2-R1 connect", visit.B(), 1);
+    visit.Lay(Rule::TwoOverHalfUsedLinks, visit.A(), 1);
+    visit.Lay(Rule::TwoOverHalfUsedLinks, visit.B(), 1);
     return true;
 }
 
@@ -103,8 +103,8 @@ bool ThreeBesideFullLink(Visit& visit) {
             visit.Capacity(visit.open[second]) != 2) {
             continue;
         }
-        visit.Lay("3-3-O1 connect", visit.open[first], 1);
-        visit.Lay("3-3-O1 connect", visit.open[second], 1);
+        visit.Lay(Rule::ThreeBesideFullLink, visit.open[first], 1);
+        visit.Lay(Rule::ThreeBesideFullLink, visit.open[second], 1);
         return true;
     }
     return false;
@@ -122,7 +122,7 @@ bool ThreeBesideTwoOnes(Visit& visit) {
         third = visit.B();
     }
     if (third == 0) return false;
-    visit.Lay("3-3-2 1s connect", third, 1);
+    visit.Lay(Rule::ThreeBesideTwoOnes, third, 1);
     return true;
 }
 
@@ -131,22 +131,22 @@ bool FourBesideOne(Visit& visit) {
     for (int one = 0; one < 3; ++one) {
         if (visit.Need(visit.open[one]) != 1) continue;
         for (int other = 0; other < 3; ++other) {
-            if (other != one) visit.Lay("4-3-O1 connect", visit.open[other], 1);
+            if (other != one) visit.Lay(Rule::FourBesideOne, visit.open[other], 1);
         }
         break;
     }
     return true;
 }
 
-/// A rule and the islands that it is for.
-struct Rule {
+/// A rule and the islands that it is for: those of this need with so many open neighbours.
+struct RuleCase {
     int need;
     int neighbours;
     bool (*apply)(Visit&);
 };
 
 /// In the order in which they are tried. Two of them are never reached; they keep their places.
-constexpr std::array<Rule, 12> kRules{{
+constexpr std::array<RuleCase, 12> kRules{{
     {1, 1, OneToOnlyNeighbour},
     {2, 1, TwoToOnlyNeighbour},
     {4, 2, FourToTwoNeighbours},
@@ -161,25 +161,25 @@ constexpr std::array<Rule, 12> kRules{{
     {4, 3, FourBesideOne},
 }};
 
-void VisitIsland(Game& game, CellNumber id) {
-    const int need = game.IslandAt(id);
+void VisitIsland(SolverBoard& board, CellNumber id) {
+    const int need = board.IslandGrid[id];
     if (need < 1) return;
-    Visit visit{game, id, game.OpenNeighbours(game.CellRow[id], game.CellCol[id])};
-    for (const Rule& rule : kRules) {
+    Visit visit{board, id, board.OpenNeighbours[id]};
+    for (const RuleCase& rule : kRules) {
         if (rule.need == need && rule.neighbours == visit.open.Count() && rule.apply(visit)) return;
     }
 }
 
 }  // namespace
 
-void ApplyRules(Game& game) {
+void ApplyRules(SolverBoard& board) {
     // What a rule does follows from what it reads, so an island about which nothing has changed since a rule left it
     // alone would be left alone again.
-    for (CellNumber id = game.awaitingRules.First(); id != 0; id = game.awaitingRules.NextFrom(id + 1)) {
-        game.awaitingRules.Erase(id);
-        VisitIsland(game, id);
+    for (CellNumber id = board.awaitingRules.First(); id != 0; id = board.awaitingRules.NextFrom(id + 1)) {
+        board.awaitingRules.Erase(id);
+        VisitIsland(board, id);
     }
-    RefreshStaleLists(game);
+    RefreshStaleLists(board);
 }
 
 }  // namespace tidewalk

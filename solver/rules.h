@@ -2,7 +2,7 @@
 // The deduction rules: what an island's need and its open neighbours force.
 #pragma once
 
-#include "model/game.h"
+#include "solver/solver_board.h"
 
 namespace tidewalk {
 
@@ -10,6 +10,6 @@ namespace tidewalk {
 ///
 /// The rules do not check that a bridge fits, so on an inconsistent puzzle a need can fall below 0 and a link can be
 /// asked for more than it takes. Whether the pass laid anything shows in `ConnectCount`.
-void ApplyRules(Game& game);
+void ApplyRules(SolverBoard& board);
 
 }  // namespace tidewalk

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "solver/solve_puzzle.h"
 
-#include "model/job.h"
+#include "solver/connect_islands.h"
 #include "solver/contradictions.h"
-#include "solver/neighbours.h"
 #include "solver/rules.h"
 #include "solver/status_list.h"
 #include "solver/trial_search.h"
@@ -12,69 +11,28 @@ namespace tidewalk {
 
 namespace {
 
-/// Clears what an earlier solve left and builds the tables for the puzzle in `GivenGrid`.
-void Prepare(Game& game) {
-    RestoreIslands(game);
-    for (CellNumber id = 1; id <= game.CellCount; ++id) {
-        game.CrossGrid(game.CellRow[id], game.CellCol[id]) = Cross::Free;
-        game.ConnectedList[id].Clear();
-    }
-    game.BridgesLaid = 0;
-    game.BranchCount = 0;
-    game.overdrawnLinks = 0;
-    game.laid.clear();
-    game.List2.Clear();
-    BuildNeighbourLists(game);
-    RefreshNeighbours(game);
-}
-
-bool IslandsNeedBridges(const Game& game) {
-    return FirstStatusLine(game).has_value();
-}
-
-bool Solve(Game& game, int limit, int& trials) {
-    if (Propagate(game) != Propagation::Settled) return false;
-    if (!IslandsNeedBridges(game)) return true;
-    if (limit < 1) return false;
-    return TrialSearch(game, trials) == 0 && !IslandsNeedBridges(game);
+bool IslandsNeedBridges(const SolverBoard& board) {
+    return FirstStatusLine(board).has_value();
 }
 
 }  // namespace
 
-void RestoreIslands(Game& game) {
-    for (int col = 1; col <= game.Cols; ++col) {
-        for (int row = 1; row <= game.Rows; ++row) {
-            const int number = game.GivenGrid(row, col);
-            game.IslandGrid(row, col) = number > 0 ? number : -1;
-        }
-    }
-}
-
-Propagation Propagate(Game& game) {
+Propagation Propagate(SolverBoard& board, const MayGoOn& mayGoOn) {
     do {
-        if (PollIsDue(game)) {
-            ShowStatusList(game);
-            LetEventsThrough(game);
-        }
-        if (CancelRequested(game)) return Propagation::Cancelled;
-        game.ConnectCount = 0;
-        ApplyRules(game);
-        if (FindContradiction(game)) return Propagation::Contradiction;
-    } while (game.ConnectCount != 0);
+        if (!mayGoOn()) return Propagation::Stopped;
+        board.ConnectCount = 0;
+        ApplyRules(board);
+        if (FindContradiction(board)) return Propagation::Contradiction;
+    } while (board.ConnectCount != 0);
     return Propagation::Settled;
 }
 
-int SolvePuzzle(Game& game, int limit, int& trials) {
-    trials = 0;
-    Prepare(game);
-    if (!Solve(game, limit, trials)) {
-        if (!JobIsSuperseded(game)) ShowStatusList(game);
-        game.window.SetPointer(Pointer::Default);
-        return 1;
-    }
-    RestoreIslands(game);
-    game.List1.Clear();
-    return 0;
+SolveResult SolvePuzzle(SolverBoard& board, const SolveBounds& bounds, const MayGoOn& mayGoOn) {
+    if (!board.laid.empty()) board.Reset(PuzzleOf(board));
+    if (Propagate(board, mayGoOn) != Propagation::Settled) return {false, 0};
+    if (!IslandsNeedBridges(board)) return {true, 0};
+    if (bounds.limit < 1) return {false, 0};
+    return TrialSearch(board, bounds.mostTrials, mayGoOn);
 }
 
 }  // namespace tidewalk

@@ -8,22 +8,18 @@ namespace tidewalk {
 
 namespace {
 
-const NeighbourList& OpenNeighboursOf(const Game& game, CellNumber island) {
-    return game.OpenNeighbours(game.CellRow[island], game.CellCol[island]);
-}
-
 void AddMove(StatusLine& line, CellNumber neighbour, int bridges) {
     line.moves[static_cast<std::size_t>(line.moveCount++)] = {neighbour, bridges};
 }
 
-StatusLine StatusOf(const Game& game, CellNumber island) {
+StatusLine StatusOf(const SolverBoard& board, CellNumber island) {
     StatusLine line;
     line.island = island;
-    line.need = game.IslandAt(island);
-    line.neighbours = OpenNeighboursOf(game, island).Count();
-    for (const CellNumber neighbour : OpenNeighboursOf(game, island)) {
+    line.need = board.IslandGrid[island];
+    line.neighbours = board.OpenNeighbours[island].Count();
+    for (const CellNumber neighbour : board.OpenNeighbours[island]) {
         AddMove(line, neighbour, 1);
-        if (line.need >= 2 && GetLinkValue(game, island, neighbour) == 2) AddMove(line, neighbour, 2);
+        if (line.need >= 2 && GetLinkValue(board, island, neighbour) == 2) AddMove(line, neighbour, 2);
     }
     return line;
 }
@@ -40,28 +36,36 @@ std::string Text(const StatusLine& line) {
     return text;
 }
 
-std::optional<StatusLine> FirstStatusLine(const Game& game) {
+std::optional<StatusLine> FirstStatusLine(const SolverBoard& board) {
     // Need, number of neighbours and id in one number that sorts as the lines do.
     constexpr int kNeedWeight = 10000;
     constexpr int kNeighbourWeight = 1000;
     int best = 0;
-    const CellSet& islands = game.sights.islands;
+    const CellSet& islands = board.sights.islands;
     for (CellNumber id = islands.First(); id != 0; id = islands.NextFrom(id + 1)) {
-        const int need = game.IslandAt(id);
+        const int need = board.IslandGrid[id];
         if (need <= 0) continue;
-        const int key = need * kNeedWeight + OpenNeighboursOf(game, id).Count() * kNeighbourWeight + id;
+        const int key = need * kNeedWeight + board.OpenNeighbours[id].Count() * kNeighbourWeight + id;
         if (best == 0 || key < best) best = key;
     }
     if (best == 0) return std::nullopt;
-    return StatusOf(game, best % kNeighbourWeight);
+    return StatusOf(board, best % kNeighbourWeight);
 }
 
-void ShowStatusList(Game& game) {
-    game.List1.Clear();
-    const CellSet& islands = game.sights.islands;
+std::vector<std::string> StatusLines(const SolverBoard& board) {
+    std::vector<std::string> lines;
+    const CellSet& islands = board.sights.islands;
     for (CellNumber id = islands.First(); id != 0; id = islands.NextFrom(id + 1)) {
-        if (game.IslandAt(id) > 0) game.List1.Add(Text(StatusOf(game, id)));
+        if (board.IslandGrid[id] > 0) lines.push_back(Text(StatusOf(board, id)));
     }
+    return lines;
+}
+
+std::vector<std::string> ChoicePointLines(const SolverBoard& board) {
+    std::vector<std::string> lines;
+    for (int i = board.BranchCount(); i > 0; --i)
+        lines.push_back(Format(i, "000") + " " + Text(board.choicePoints[static_cast<std::size_t>(i - 1)].line));
+    return lines;
 }
 
 }  // namespace tidewalk

@@ -2,41 +2,27 @@
 // The island status list: which island to try next, and which moves it has.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
-#include "model/game.h"
+#include "solver/solver_board.h"
 
 namespace tidewalk {
 
-/// A number of bridges to one neighbour.
-struct Move {
-    CellNumber neighbour = 0;
-    int bridges = 0;
-};
-
-/// An island that still needs bridges and the moves that are left to try with it. Its text is the remaining need in one
-/// digit, the number of open neighbours in two, two fields of "000", the island's id, and the moves as "012*1 ".
-struct StatusLine {
-    int need = 0;
-    int neighbours = 0;
-    CellNumber island = 0;
-    std::array<Move, 8> moves{};
-    int firstMove = 0;  ///< the moves before it were taken already
-    int moveCount = 0;
-
-    bool HasMoves() const { return firstMove < moveCount; }
-    Move TakeMove() { return moves[static_cast<std::size_t>(firstMove++)]; }
-};
-
+/// The remaining need in one digit, the number of open neighbours in two, two fields of "000", the island's id, and the
+/// moves that are left as "012*1 ".
 std::string Text(const StatusLine& line);
 
 /// The line that comes first in text order: of the islands with the smallest need the one with the fewest open
 /// neighbours, of these the one with the smallest id. Nothing when no island needs bridges.
-std::optional<StatusLine> FirstStatusLine(const Game& game);
+std::optional<StatusLine> FirstStatusLine(const SolverBoard& board);
 
-/// Fills `List1` with a line for each island that needs bridges.
-void ShowStatusList(Game& game);
+/// A line for each island that needs bridges, by ascending id.
+std::vector<std::string> StatusLines(const SolverBoard& board);
+
+/// A line for each choice point of the trial search that is open, the newest first: its number in three digits, a
+/// blank, and the status line with the moves that are left.
+std::vector<std::string> ChoicePointLines(const SolverBoard& board);
 
 }  // namespace tidewalk

@@ -2,105 +2,75 @@
 #include "solver/trial_search.h"
 
 #include <optional>
-#include <vector>
 
-#include "model/job.h"
-#include "model/numbers.h"
 #include "solver/connect_islands.h"
-#include "solver/solve_puzzle.h"
 #include "solver/status_list.h"
 
 namespace tidewalk {
 
 namespace {
 
-/// Where the search can go on when its present way is a dead end.
-struct ChoicePoint {
-    StatusLine line;        ///< with the moves that were not taken yet
-    std::size_t laid = 0;   ///< how many calls of `ConnectIslands` came before
-    CellSet awaitingRules;  ///< whom the rules had still to look at again
-};
-
 class Search {
  public:
-    Search(Game& game, int& trials) : game_(game), trials_(trials) {}
+    Search(SolverBoard& board, int mostTrials, const MayGoOn& mayGoOn)
+        : board_(board), mostTrials_(mostTrials), mayGoOn_(mayGoOn) {}
 
-    bool Run() {
-        trials_ = 0;
-        game_.BranchCount = 0;
-        game_.List2.Clear();
-        std::optional<StatusLine> line = FirstStatusLine(game_);
-        if (!line) return false;
+    SolveResult Run() {
+        board_.choicePoints.clear();
+        std::optional<StatusLine> line = FirstStatusLine(board_);
+        if (!line) return {false, 0};
         while (line) {
-            if (line->HasMoves() && !StartTrial(*line)) return false;
-            const bool deadEnd = !line->HasMoves() || !LayAndPropagate(*line);
-            if (CancelRequested(game_)) return false;
-            line = deadEnd ? BackUp() : FirstStatusLine(game_);
-            if (deadEnd && !line) return false;
+            if (line->HasMoves() && !StartTrial(*line)) return {false, trials_};
+            const Propagation outcome = line->HasMoves() ? LayAndPropagate(*line) : Propagation::Contradiction;
+            if (outcome == Propagation::Stopped) return {false, trials_};
+            const bool deadEnd = outcome == Propagation::Contradiction;
+            line = deadEnd ? BackUp() : FirstStatusLine(board_);
+            if (deadEnd && !line) return {false, trials_};
         }
-        return true;
-    }
-
-    /// Fills `List2` with a line for each choice point that is open, the newest first.
-    void ShowChoicePoints() {
-        game_.List2.Clear();
-        for (std::size_t i = choicePoints_.size(); i > 0; --i) {
-            game_.List2.Add(Format(static_cast<int>(i), "000") + " " + Text(choicePoints_[i - 1].line));
-        }
+        return {true, trials_};
     }
 
  private:
     /// Counts a trial; false when the search may not go on.
     bool StartTrial(const StatusLine& line) {
         ++trials_;
-        if (PollIsDue(game_)) {
-            ShowStatusList(game_);
-            ShowChoicePoints();
-            LetEventsThrough(game_);
-        }
-        if (game_.TrialLimit > 0 && trials_ >= game_.TrialLimit) return false;
+        const bool mayGoOn = mayGoOn_();
+        if (mostTrials_ > 0 && trials_ >= mostTrials_) return false;
         const bool leavesMoves = line.firstMove + 1 < line.moveCount;
-        return !CancelRequested(game_) && (!leavesMoves || game_.BranchCount < kMaxBranches);
+        return mayGoOn && (!leavesMoves || board_.BranchCount() < kMaxBranches);
     }
 
-    /// Lays the line's first move; false when that is a dead end.
-    bool LayAndPropagate(StatusLine& line) {
+    /// Lays the line's first move and lets the rules run on.
+    Propagation LayAndPropagate(StatusLine& line) {
         const Move move = line.TakeMove();
-        if (line.HasMoves()) {
-            choicePoints_.push_back({line, game_.laid.size(), game_.awaitingRules});
-            ++game_.BranchCount;
-        }
-        const std::string label = Format(line.island, "000") + "connected with" + Format(move.neighbour, "000");
-        ConnectIslands(game_, label, line.island, move.neighbour, move.bridges);
-        return Propagate(game_) == Propagation::Settled;
+        if (line.HasMoves()) board_.choicePoints.push_back({line, board_.laid.size(), board_.awaitingRules});
+        ConnectIslands(board_, Rule::Trial, line.island, move.neighbour, move.bridges);
+        return Propagate(board_, mayGoOn_);
     }
 
     /// Goes back to the newest choice point and returns the line with its left-over moves; nothing when there is none.
     std::optional<StatusLine> BackUp() {
-        if (choicePoints_.empty()) return std::nullopt;
-        const ChoicePoint point = choicePoints_.back();
-        choicePoints_.pop_back();
-        --game_.BranchCount;
-        TakeBackBridges(game_, point.laid);
+        if (board_.choicePoints.empty()) return std::nullopt;
+        const ChoicePoint point = board_.choicePoints.back();
+        board_.choicePoints.pop_back();
+        TakeBackBridges(board_, point.laid);
         // At a choice point no contradiction was found, so nothing waits for a check.
-        game_.awaitingRules = point.awaitingRules;
-        game_.awaitingCheck.Clear();
-        game_.overdrawnLinks = 0;
+        board_.awaitingRules = point.awaitingRules;
+        board_.awaitingCheck.Clear();
+        board_.overdrawnLinks = 0;
         return point.line;
     }
 
-    Game& game_;
-    int& trials_;
-    std::vector<ChoicePoint> choicePoints_;
+    SolverBoard& board_;
+    int mostTrials_;
+    const MayGoOn& mayGoOn_;
+    int trials_ = 0;
 };
 
 }  // namespace
 
-int TrialSearch(Game& game, int& trials) {
-    Search search(game, trials);
-    const int failed = search.Run() ? 0 : 1;
-    search.ShowChoicePoints();
-    return failed;
+SolveResult TrialSearch(SolverBoard& board, int mostTrials, const MayGoOn& mayGoOn) {
+    return Search(board, mostTrials, mayGoOn).Run();
 }
 
 }  // namespace tidewalk

@@ -9,11 +9,6 @@ namespace tidewalk {
 
 namespace {
 
-/// How many bridges a link carries.
-int BridgesOf(const Link& link) {
-    return 2 - link.state;
-}
-
 /// Which cells are taken by bridges, and which islands hang together.
 class LaidBoard {
  public:
@@ -27,9 +22,9 @@ class LaidBoard {
     bool Lay(const Link& link) {
         const CellNumber from = std::min(link.first, link.second);
         const CellNumber to = std::max(link.first, link.second);
-        if (from < 1 || to > puzzle_.CellCount || from == to) return false;
-        const bool sameRow = puzzle_.CellRow[from] == puzzle_.CellRow[to];
-        if (!sameRow && puzzle_.CellCol[from] != puzzle_.CellCol[to]) return false;
+        if (from < 1 || to > puzzle_.CellCount() || from == to) return false;
+        const bool sameRow = puzzle_.CellRow(from) == puzzle_.CellRow(to);
+        if (!sameRow && puzzle_.CellCol(from) != puzzle_.CellCol(to)) return false;
         if (puzzle_.IslandAt(from) < 1 || puzzle_.IslandAt(to) < 1) return false;
         for (CellNumber id = from + Step(sameRow); id < to; id += Step(sameRow)) {
             if (puzzle_.IslandAt(id) > 0 || taken_.Contains(id)) return false;
@@ -41,7 +36,7 @@ class LaidBoard {
 
     bool IsOneGroup() {
         CellNumber first = 0;
-        for (CellNumber id = 1; id <= puzzle_.CellCount; ++id) {
+        for (CellNumber id = 1; id <= puzzle_.CellCount(); ++id) {
             if (puzzle_.IslandAt(id) < 1) continue;
             if (first == 0) first = id;
             if (GroupOf(id) != GroupOf(first)) return false;
@@ -65,26 +60,24 @@ class LaidBoard {
 
 }  // namespace
 
-int CheckLinkTotals(const Puzzle& puzzle) {
+bool CheckLinkTotals(const Puzzle& puzzle) {
     PerCell<int> totals;
-    for (int i = 1; i <= puzzle.LinkCount(); ++i) {
-        const Link& link = puzzle.LinkList[i];
-        totals[link.first] += BridgesOf(link);
-        totals[link.second] += BridgesOf(link);
+    for (const Link& link : puzzle.LinkList) {
+        totals[link.first] += link.Bridges();
+        totals[link.second] += link.Bridges();
     }
-    for (CellNumber id = 1; id <= puzzle.CellCount; ++id) {
+    for (CellNumber id = 1; id <= puzzle.CellCount(); ++id) {
         const int number = puzzle.IslandAt(id);
-        if (number > 0 && number != totals[id]) return YesValue;
+        if (number > 0 && number != totals[id]) return false;
     }
-    return NoValue;
+    return true;
 }
 
 bool IsValidSolution(const Puzzle& puzzle) {
-    if (CheckLinkTotals(puzzle) == YesValue) return false;
+    if (!CheckLinkTotals(puzzle)) return false;
     LaidBoard board(puzzle);
-    for (int i = 1; i <= puzzle.LinkCount(); ++i) {
-        const Link& link = puzzle.LinkList[i];
-        if (BridgesOf(link) > 0 && !board.Lay(link)) return false;
+    for (const Link& link : puzzle.LinkList) {
+        if (link.Bridges() > 0 && !board.Lay(link)) return false;
     }
     return board.IsOneGroup();
 }

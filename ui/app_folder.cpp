@@ -39,7 +39,13 @@ AppFolderChoice RequestedFolder(const QString& folder) {
 FolderPlaces SystemPlaces() {
     const QString executable = QCoreApplication::applicationDirPath();
     return {executable, QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/tidewalk",
-            QDir::cleanPath(executable + "/../share/tidewalk")};
+            ShareFolder(executable, TIDEWALK_SHARE_FOLDER)};
+}
+
+QString ShareFolder(const QString& executableFolder, const QString& installed) {
+    const QString folder = QDir::cleanPath(QDir(executableFolder).absoluteFilePath(installed));
+    if (QFileInfo(folder).isDir()) return folder;
+    return QDir::cleanPath(executableFolder + "/../share/tidewalk");
 }
 
 AppFolderChoice ChooseAppFolder(const std::optional<QString>& requested, const FolderPlaces& places) {

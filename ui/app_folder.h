@@ -17,6 +17,10 @@ struct FolderPlaces {
 /// The places of this run of the program.
 FolderPlaces SystemPlaces();
 
+/// The folder of what ships with a program in `executableFolder`: `installed`, absolute or as seen from there; where that
+/// is missing, as in a build tree or a copy moved elsewhere, "share/tidewalk" beside that folder.
+QString ShareFolder(const QString& executableFolder, const QString& installed);
+
 struct AppFolderChoice {
     QString folder;  ///< absolute
     QString error;   ///< why there is none; empty on success

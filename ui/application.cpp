@@ -91,7 +91,7 @@ int RunWindows(const CommandLine& line) {
     QObject::connect(&program.handlers(), &Handlers::Ended, qApp, [] { QCoreApplication::exit(0); });
     const auto fatal = program.Start(RequestOf(line, choice.folder));
     if (fatal) return Fail(QString::fromStdString(*fatal), unattended);
-    if (program.game().ending) return 0;
+    if (program.game().job.Ending()) return 0;
     return unattended ? TakeScreenshot(program, *line.screenshot) : QCoreApplication::exec();
 }
 

@@ -7,8 +7,6 @@
 
 #include "board/board_keys.h"
 #include "board/board_mouse.h"
-#include "board/check_bridges.h"
-#include "model/job.h"
 #include "ui/board_pictures.h"
 
 namespace tidewalk {
@@ -18,7 +16,7 @@ namespace {
 /// The board's game while its islands are the player's, otherwise nothing.
 Game* QuietGame(const BoardView* board) {
     Game* const game = board == nullptr ? nullptr : board->Source().game();
-    return game == nullptr || JobRuns(*game) ? nullptr : game;
+    return game == nullptr || game->job.BusyFlag() ? nullptr : game;
 }
 
 /// One island of one puzzle. It stays behind as an invalid one when that puzzle is gone.
@@ -48,8 +46,10 @@ class IslandAccessible final : public QAccessibleInterface, public QAccessibleAc
         const Game* const game = Current();
         if (game == nullptr) return {};
         const auto pixels = [](double twips) { return qRound(twips / kTwipsPerPixel); };
-        const QPoint corner(pixels(game->IslandX[id_] - game->HalfCell), pixels(game->IslandY[id_] - game->HalfCell));
-        return {board_->mapToGlobal(corner), QSize(pixels(game->CellSize), pixels(game->CellSize))};
+        const BoardLayout& layout = game->board.layout;
+        const auto [x, y] = game->board.At(id_);
+        const QPoint corner(pixels(x - layout.HalfCell), pixels(y - layout.HalfCell));
+        return {board_->mapToGlobal(corner), QSize(pixels(layout.CellSize), pixels(layout.CellSize))};
     }
 
     QAccessible::State state() const override {
@@ -59,8 +59,8 @@ class IslandAccessible final : public QAccessibleInterface, public QAccessibleAc
         if (game == nullptr) return state;
         state.focusable = true;
         state.selectable = true;
-        state.focused = board_->hasFocus() && FocusedIsland(*game) == id_;
-        state.selected = game->PlaceOf(id_) == CellPlace{game->AnchorRow, game->AnchorCol};
+        state.focused = board_->hasFocus() && FocusedIsland(game->board) == id_;
+        state.selected = SelectedIsland(game->board) == id_;
         return state;
     }
 
@@ -82,7 +82,8 @@ class IslandAccessible final : public QAccessibleInterface, public QAccessibleAc
     /// The game, if the island is still on its board.
     const Game* Current() const {
         const Game* const game = QuietGame(board_);
-        return game != nullptr && game->loadCount == loadCount_ && game->IslandAt(id_) > 0 ? game : nullptr;
+        return game != nullptr && game->board.loadCount == loadCount_ && game->board.puzzle.IslandAt(id_) > 0 ? game
+                                                                                                              : nullptr;
     }
 
     QPointer<BoardView> board_;
@@ -93,12 +94,12 @@ class IslandAccessible final : public QAccessibleInterface, public QAccessibleAc
 }  // namespace
 
 QString IslandName(const Game& game, CellNumber id) {
-    const auto [row, col] = game.PlaceOf(id);
+    const auto [row, col] = game.board.puzzle.PlaceOf(id);
     return QObject::tr("row %1, column %2, needs %3, has %4")
         .arg(row)
         .arg(col)
-        .arg(game.IslandAt(id))
-        .arg(CountBridges(game, id));
+        .arg(game.board.puzzle.IslandAt(id))
+        .arg(game.board.BridgeState.CountAt(id));
 }
 
 BoardAccessible::BoardAccessible(BoardView* board) : QAccessibleWidget(board, QAccessible::Grouping), board_(board) {}
@@ -128,18 +129,19 @@ std::vector<CellNumber> BoardAccessible::Islands() const {
     std::vector<CellNumber> found;
     const Game* const game = QuietGame(board_);
     if (game == nullptr) return found;
-    for (CellNumber id = 1; id <= game->CellCount; ++id) {
-        if (game->IslandAt(id) > 0) found.push_back(id);
+    for (CellNumber id = 1; id <= game->board.puzzle.CellCount(); ++id) {
+        if (game->board.puzzle.IslandAt(id) > 0) found.push_back(id);
     }
     return found;
 }
 
 QAccessibleInterface* BoardAccessible::Island(CellNumber id) const {
     const Game* const game = QuietGame(board_);
-    if (game == nullptr || id < 1 || id > game->CellCount || game->IslandAt(id) <= 0) return nullptr;
-    if (loadCount_ != game->loadCount) {
+    if (game == nullptr || id < 1 || id > game->board.puzzle.CellCount() || game->board.puzzle.IslandAt(id) <= 0)
+        return nullptr;
+    if (loadCount_ != game->board.loadCount) {
         ForgetIslands();
-        loadCount_ = game->loadCount;
+        loadCount_ = game->board.loadCount;
     }
     const auto known = islands_.constFind(id);
     if (known != islands_.constEnd()) return QAccessible::accessibleInterface(*known);
@@ -168,13 +170,14 @@ QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
     const Game* const game = QuietGame(board_);
     if (game == nullptr) return nullptr;
     const QPoint at = board_->mapFromGlobal(QPoint(x, y));
-    const CellPlace cell = CellUnder(*game, {at.x() * kTwipsPerPixel, at.y() * kTwipsPerPixel});
-    return game->OnBoard(cell.row, cell.col) ? Island(game->CellId(cell.row, cell.col)) : nullptr;
+    const CellPlace cell = CellUnder(game->board.layout, {at.x() * kTwipsPerPixel, at.y() * kTwipsPerPixel});
+    return game->board.puzzle.OnBoard(cell.row, cell.col) ? Island(game->board.puzzle.CellId(cell)) : nullptr;
 }
 
 QAccessibleInterface* BoardAccessible::focusChild() const {
     const Game* const game = QuietGame(board_);
-    QAccessibleInterface* const island = game != nullptr && board_->hasFocus() ? Island(FocusedIsland(*game)) : nullptr;
+    QAccessibleInterface* const island =
+        game != nullptr && board_->hasFocus() ? Island(FocusedIsland(game->board)) : nullptr;
     return island != nullptr ? island : QAccessibleWidget::focusChild();
 }
 
@@ -194,19 +197,19 @@ void IslandAnnouncer::Announce(BoardView& view) {
 }
 
 void IslandAnnouncer::TellBridges(const Game& game, const BoardAccessible& board) {
-    if (loadCount_ == game.loadCount && undoRevision_ == game.undoRevision) return;
-    const bool samePuzzle = loadCount_ == game.loadCount;
-    loadCount_ = game.loadCount;
-    undoRevision_ = game.undoRevision;
-    for (CellNumber id = 1; id <= game.CellCount; ++id) {
-        if (game.IslandAt(id) <= 0) continue;
-        const int had = std::exchange(bridges_[id], CountBridges(game, id));
+    if (loadCount_ == game.board.loadCount && undoRevision_ == game.board.history.Revision()) return;
+    const bool samePuzzle = loadCount_ == game.board.loadCount;
+    loadCount_ = game.board.loadCount;
+    undoRevision_ = game.board.history.Revision();
+    for (CellNumber id = 1; id <= game.board.puzzle.CellCount(); ++id) {
+        if (game.board.puzzle.IslandAt(id) <= 0) continue;
+        const int had = std::exchange(bridges_[id], game.board.BridgeState.CountAt(id));
         if (samePuzzle && had != bridges_[id]) tell_(board.Island(id), QAccessible::NameChanged);
     }
 }
 
 void IslandAnnouncer::TellFocus(const Game& game, const BoardAccessible& board) {
-    const CellNumber now = FocusedIsland(game);
+    const CellNumber now = FocusedIsland(game.board);
     if (std::exchange(focused_, now) != now && now != 0) tell_(board.Island(now), QAccessible::Focus);
 }
 

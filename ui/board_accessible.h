@@ -8,7 +8,7 @@
 #include <functional>
 #include <vector>
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 

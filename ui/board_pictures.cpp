@@ -9,11 +9,9 @@
 #include <map>
 #include <optional>
 
+#include "board/board_commands.h"
 #include "board/board_keys.h"
-#include "board/check_bridges.h"
-#include "board/drawing.h"
-#include "board/layout.h"
-#include "model/job.h"
+#include "board/show_board.h"
 
 namespace tidewalk {
 
@@ -70,9 +68,9 @@ QRect PixelRect(const Frame& frame) {
 }
 
 /// True when the rubber band leads to the island with the keyboard's focus.
-bool EndsAtFocus(const Game& game) {
-    const CellNumber id = FocusedIsland(game);
-    return game.focusShows && game.Line1.x2 == game.IslandX[id] && game.Line1.y2 == game.IslandY[id];
+bool EndsAtFocus(const Board& board) {
+    const CellNumber id = FocusedIsland(board);
+    return id != 0 && board.focusShows && board.Line1.to == board.At(id);
 }
 
 }  // namespace
@@ -92,7 +90,7 @@ BoardView::BoardView(Handlers& handlers, QWidget* parent)
 
 void BoardView::Place() {
     if (handlers_.game() == nullptr) return;
-    setGeometry(PixelRect(handlers_.game()->Picture1));
+    setGeometry(PixelRect(handlers_.game()->board.layout.Picture1));
     FitBacking();
     update();
 }
@@ -106,7 +104,7 @@ void BoardView::FitBacking() {
     surface_.SetTarget(nullptr);
     QPixmap fitted(wanted);
     if (backing_.isNull()) {
-        fitted.fill(ToQColor(handlers_.game()->Picture1BackColor));
+        fitted.fill(ToQColor(handlers_.game()->options.BoardBackground()));
     } else {
         QPainter(&fitted).drawPixmap(fitted.rect(), backing_, backing_.rect());
     }
@@ -124,52 +122,55 @@ void BoardView::paintEvent(QPaintEvent* event) {
     // The window has come to a screen with another pixel ratio. While a job runs the grids are the job's own.
     if (backing_.devicePixelRatio() != devicePixelRatioF()) {
         FitBacking();
-        if (!JobRuns(*game)) RedrawBoard(*game, false);
+        if (!game->job.BusyFlag()) RedrawBoard(*game, false);
     }
     surface_.Finish();
     QPainter painter(this);
     painter.drawPixmap(0, 0, backing_);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (hasFocus() && game->focusShows && !JobRuns(*game)) PaintFocus(painter, *game);
-    if (game->Line1.visible) PaintLine1(painter, *game);
-    if (game->Shape1.visible) PaintShape1(painter, *game);
+    if (hasFocus() && game->board.focusShows && !game->job.BusyFlag()) PaintFocus(painter, *game);
+    if (game->board.Line1.visible) PaintLine1(painter, *game);
+    if (game->board.Shape1.visible) PaintShape1(painter, game->board);
 }
 
 /// The rubber band begins with a ring, so that a selected island shows before the pointer has moved.
 void BoardView::PaintLine1(QPainter& painter, const Game& game) const {
-    const QPointF from(Pixels(game.Line1.x1), Pixels(game.Line1.y1));
-    const QPointF to(Pixels(game.Line1.x2), Pixels(game.Line1.y2));
+    const Board& board = game.board;
+    const QPointF from(Pixels(board.Line1.from.x), Pixels(board.Line1.from.y));
+    const QPointF to(Pixels(board.Line1.to.x), Pixels(board.Line1.to.y));
     // Just outside of a square island's corners, which lie 0.75 times the square root of 2 from its middle.
-    const double radius = Pixels(game.HalfCell) * 1.06 + 3;
+    const double radius = Pixels(board.layout.HalfCell) * 1.06 + 3;
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(ToQColor(game.ChainColour), 2, Qt::DashLine, Qt::RoundCap));
+    painter.setPen(QPen(ToQColor(game.options.ChainColour), 2, Qt::DashLine, Qt::RoundCap));
     // Inside the ring, and inside the frame of the keyboard's focus, the line would only strike the number out.
     QLineF band(from, to);
-    const double lengthAtEnd = EndsAtFocus(game) ? radius : 0;
+    const double lengthAtEnd = EndsAtFocus(board) ? radius : 0;
     if (band.length() > radius + lengthAtEnd) {
         const double whole = band.length();
         band = {band.pointAt(radius / whole), band.pointAt(1 - lengthAtEnd / whole)};
         painter.drawLine(band);
     }
-    painter.setPen(QPen(ToQColor(game.Picture1BackColor), 4));
+    painter.setPen(QPen(ToQColor(game.options.BoardBackground()), 4));
     painter.drawEllipse(from, radius, radius);
-    painter.setPen(QPen(ToQColor(game.ChainColour), 2));
+    painter.setPen(QPen(ToQColor(game.options.ChainColour), 2));
     painter.drawEllipse(from, radius, radius);
 }
 
 /// The corners of a frame around the island: they leave its bridges free.
 void BoardView::PaintFocus(QPainter& painter, const Game& game) const {
-    const CellNumber id = FocusedIsland(game);
-    const bool selected = game.FocusRow == game.AnchorRow && game.FocusCol == game.AnchorCol;
+    const Board& board = game.board;
+    const CellNumber id = FocusedIsland(board);
+    const bool selected = id == SelectedIsland(board);
     // The ring of the selected island says enough: whenever the focus is elsewhere, the corners show there.
     if (id == 0 || selected) return;
-    const QPointF middle(Pixels(game.IslandX[id]), Pixels(game.IslandY[id]));
+    const QPointF middle(Pixels(board.At(id).x), Pixels(board.At(id).y));
     // Within the cell: on small boards hardly anything lies beside the first column.
-    const double half = Pixels(game.HalfCell) - 1;
+    const double half = Pixels(board.layout.HalfCell) - 1;
     const double arm = half * 0.5;
     painter.setBrush(Qt::NoBrush);
     const QColor highlight = palette().color(QPalette::Highlight);
-    for (const auto& [colour, width] : {std::pair{ToQColor(game.Picture1BackColor), 6}, std::pair{highlight, 3}}) {
+    for (const auto& [colour, width] :
+         {std::pair{ToQColor(game.options.BoardBackground()), 6}, std::pair{highlight, 3}}) {
         painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         for (const int down : {-1, 1}) {
             for (const int right : {-1, 1}) {
@@ -183,9 +184,11 @@ void BoardView::PaintFocus(QPainter& painter, const Game& game) const {
 }
 
 /// A frame in two colours shows on any background.
-void BoardView::PaintShape1(QPainter& painter, const Game& game) const {
-    const Frame& frame = game.Shape1.frame;
-    const QRectF rect(Pixels(frame.left), Pixels(frame.top), Pixels(frame.width), Pixels(frame.height));
+void BoardView::PaintShape1(QPainter& painter, const Board& board) const {
+    const Point middle = board.layout.At(board.Shape1.cell);
+    const double half = board.layout.HalfCell;
+    const double side = Pixels(board.layout.CellSize);
+    const QRectF rect(Pixels(middle.x - half), Pixels(middle.y - half), side, side);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(rect);
@@ -206,11 +209,7 @@ void BoardView::mousePressEvent(QMouseEvent* event) {
     const auto button = ButtonOf(event->button());
     if (!button || !takesMouse_) return;
     const QPointF global = event->globalPosition();
-    handlers_.Run([&](Game& game) {
-        // A move with Shift or the right button forgets the cell under the pointer, which may not move before the next.
-        Picture1_MouseMove(game, false, OnBoard(global), InContainer(global));
-        Picture1_MouseDown(game, *button, InContainer(global));
-    });
+    handlers_.Run([&](Game& game) { Picture1_MouseDown(game, *button, InContainer(global)); });
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
@@ -233,13 +232,6 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event) {
         Picture1_MouseUp(game, *button, shiftOnly, OnBoard(global));
         if (*button == MouseButton::Left && inside) Picture1_Click(game);
     });
-}
-
-void BoardView::enterEvent(QEnterEvent* event) {
-    QWidget::enterEvent(event);
-    if (!takesMouse_) return;
-    const QPointF global = event->globalPosition();
-    handlers_.Run([&](Game& game) { Picture1_MouseMove(game, false, OnBoard(global), InContainer(global)); });
 }
 
 /// The board's keys are no shortcuts while it has the focus.
@@ -295,14 +287,15 @@ QSize BoardContainer::sizeHint() const {
 
 void BoardContainer::paintEvent(QPaintEvent* event) {
     const Game* const game = handlers_.game();
-    const bool drawn = game != nullptr && game->Rows > 0;
-    QPainter(this).fillRect(event->rect(), drawn ? ToQColor(game->Picture1BackColor) : palette().base().color());
+    const bool drawn = game != nullptr && game->board.puzzle.Rows > 0;
+    QPainter(this).fillRect(event->rect(),
+                            drawn ? ToQColor(game->options.BoardBackground()) : palette().base().color());
 }
 
 void BoardContainer::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     handlers_.Run([](Game& game) {
-        if (game.Rows > 0) CentreBoard(game);
+        if (game.board.puzzle.Rows > 0) CentreBoard(game);
     });
 }
 
@@ -315,7 +308,7 @@ QtBoardPictures::QtBoardPictures(BoardContainer& container, Handlers& handlers) 
     QObject::connect(&timer1_, &QTimer::timeout, &timer1_, [&handlers] { handlers.Run(Timer1_Timer); });
 }
 
-Surface::Extent QtBoardPictures::Picture5Extent() const {
+Surface::Extent QtBoardPictures::ContainerExtent() const {
     return {container_.width() * kTwipsPerPixel, container_.height() * kTwipsPerPixel};
 }
 
@@ -325,16 +318,14 @@ void QtBoardPictures::Freeze(bool frozen) {
     container_.Board().setUpdatesEnabled(!frozen);
 }
 
-Surface& QtBoardPictures::Picture1() {
+Surface& QtBoardPictures::Picture() {
     // Who asks for it draws on it, and that has to come to the screen.
     container_.Board().update();
     return container_.Board().Drawing();
 }
 
-void QtBoardPictures::EnableTimer1(bool enabled) {
-    if (!enabled) timer1_.stop();
-    // A timer that runs already goes on as it is.
-    if (enabled && !timer1_.isActive()) timer1_.start(kTimer1Milliseconds);
+void QtBoardPictures::StartMarkerTime() {
+    if (!timer1_.isActive()) timer1_.start(kTimer1Milliseconds);
 }
 
 }  // namespace tidewalk

@@ -35,7 +35,6 @@ class BoardView final : public QWidget {
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -46,7 +45,7 @@ class BoardView final : public QWidget {
     void FitBacking();
     void PaintFocus(QPainter& painter, const Game& game) const;
     void PaintLine1(QPainter& painter, const Game& game) const;
-    void PaintShape1(QPainter& painter, const Game& game) const;
+    void PaintShape1(QPainter& painter, const Board& board) const;
     Point OnBoard(const QPointF& global) const;
     Point InContainer(const QPointF& global) const;
 
@@ -82,15 +81,16 @@ class QtBoardPictures final : public BoardPictures {
  public:
     QtBoardPictures(BoardContainer& container, Handlers& handlers);
 
-    Surface::Extent Picture5Extent() const override;
-    Surface& Picture1() override;
-    void PlacePicture1() override { container_.Board().Place(); }
+    Surface::Extent ContainerExtent() const override;
+    Surface& Picture() override;
+    void PlacePicture() override { container_.Board().Place(); }
     void ShowOverlay() override { container_.Board().update(); }
     void SetEnabled(bool enabled) override { container_.Board().SetTakesMouse(enabled); }
     void SetVisible(bool visible) override { container_.Board().setVisible(visible); }
     bool IsVisible() const override { return !container_.Board().isHidden(); }
     void Freeze(bool frozen) override;
-    void EnableTimer1(bool enabled) override;
+    void StartMarkerTime() override;
+    void StopMarkerTime() override { timer1_.stop(); }
 
  private:
     BoardContainer& container_;

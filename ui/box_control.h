@@ -4,7 +4,7 @@
 
 #include <QToolButton>
 
-#include "model/navigation.h"
+#include "game/main_window.h"
 
 namespace tidewalk {
 

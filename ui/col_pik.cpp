@@ -6,7 +6,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 
-#include "model/contrast.h"
+#include "drawing/contrast.h"
 #include "ui/qt_surface.h"
 
 namespace tidewalk {

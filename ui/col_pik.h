@@ -6,7 +6,7 @@
 #include <array>
 #include <optional>
 
-#include "model/surface.h"
+#include "drawing/surface.h"
 
 class QGridLayout;
 class QLabel;

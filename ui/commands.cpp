@@ -4,17 +4,14 @@
 #include <QFile>
 #include <algorithm>
 
-#include "board/check_bridges.h"
+#include "board/board_commands.h"
 #include "board/copy_and_print.h"
-#include "board/layout.h"
-#include "board/undo.h"
 #include "generator/batch.h"
 #include "generator/new_puzzle.h"
 #include "generator/shuffle.h"
-#include "model/collection_edit.h"
-#include "model/config_file.h"
-#include "model/convert_layout.h"
-#include "model/read_grid_file.h"
+#include "model/collection_commands.h"
+#include "model/configuration.h"
+#include "model/import_grid.h"
 #include "program/escape.h"
 #include "program/exit.h"
 #include "solver/auto_solve.h"

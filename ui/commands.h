@@ -7,7 +7,7 @@
 #include <QString>
 #include <vector>
 
-#include "model/game.h"
+#include "game/game.h"
 #include "model/navigation.h"
 
 namespace tidewalk {

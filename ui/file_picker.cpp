@@ -14,7 +14,7 @@ QString FileFilter(const std::string& patterns, const std::string& patternName) 
 }
 
 std::string QtFilePicker::Pick(const FileRequest& request) {
-    if (handlers_.game() != nullptr && handlers_.game()->ending) return "";
+    if (handlers_.game() != nullptr && handlers_.game()->job.Ending()) return "";
     QWidget* const active = QApplication::activeModalWidget();
     QFileDialog dialog(active != nullptr ? active : mainWindow_.data(), QString::fromStdString(request.title),
                        QFile::decodeName(request.startFolder.c_str()),

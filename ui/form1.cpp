@@ -35,9 +35,10 @@ LineSource SourceOf(const ListBox& list) {
             [&list](int line) { return list.Lines()[static_cast<std::size_t>(line)]; }};
 }
 
-LineSource UndoSource(const Game& game) {
-    return {[&game] { return game.undoRevision; }, [&game] { return static_cast<int>(game.UndoList.size()); },
-            [&game](int line) { return Text(game.UndoList[static_cast<std::size_t>(line)]); }};
+LineSource SourceOf(const History& history) {
+    return {[&history] { return history.Revision(); },
+            [&history] { return static_cast<int>(history.UndoList().size()); },
+            [&history](int line) { return Text(history.UndoList()[static_cast<std::size_t>(line)]); }};
 }
 
 QString ToolTipOf(const Command& command) {
@@ -271,32 +272,32 @@ void Form1::AddStatusLine() {
     statusBar()->addPermanentWidget(puzfile_);
 }
 
-QWidget* Form1::WidgetOf(Control control) const {
-    switch (control) {
-        case Control::pb:
+QWidget* Form1::WidgetOf(WindowText which) const {
+    switch (which) {
+        case WindowText::Status:
             return pb_;
-        case Control::PuzNumNow:
+        case WindowText::PuzzleNumber:
             return puzNumNow_;
-        case Control::PuzNumber:
+        case WindowText::PuzzleCount:
             return puzNumber_;
-        case Control::Puzfile:
+        case WindowText::CollectionName:
             return puzfile_;
-        case Control::GridSize:
+        case WindowText::BoardSize:
             return gridSize_;
     }
     return nullptr;
 }
 
-QString Form1::TextOf(Control control) const {
-    return WidgetOf(control)->property("text").toString();
+QString Form1::TextOf(WindowText which) const {
+    return WidgetOf(which)->property("text").toString();
 }
 
-void Form1::SetTextOf(Control control, const QString& text) {
-    WidgetOf(control)->setProperty("text", text);
+void Form1::SetTextOf(WindowText which, const QString& text) {
+    WidgetOf(which)->setProperty("text", text);
 }
 
-void Form1::SetToolTipOf(Control control, const QString& toolTip) {
-    WidgetOf(control)->setToolTip(PlainTipText(toolTip));
+void Form1::SetToolTipOf(WindowText which, const QString& toolTip) {
+    WidgetOf(which)->setToolTip(PlainTipText(toolTip));
 }
 
 void Form1::SetProgress(int done, int total) {
@@ -306,7 +307,7 @@ void Form1::SetProgress(int done, int total) {
 }
 
 void Form1::Show(Game& game) {
-    undoList_->SetSource(UndoSource(game));
+    undoList_->SetSource(SourceOf(game.board.history));
     list1_->SetSource(SourceOf(game.List1));
     list2_->SetSource(SourceOf(game.List2));
 }

@@ -31,9 +31,9 @@ class Form1 final : public QMainWindow {
 
     BoardContainer& Container() { return *container_; }
 
-    QString TextOf(Control control) const;
-    void SetTextOf(Control control, const QString& text);
-    void SetToolTipOf(Control control, const QString& toolTip);
+    QString TextOf(WindowText which) const;
+    void SetTextOf(WindowText which, const QString& text);
+    void SetToolTipOf(WindowText which, const QString& toolTip);
 
     /// Shows how far a job is; a total of 0 takes the bar away.
     void SetProgress(int done, int total);
@@ -62,7 +62,7 @@ class Form1 final : public QMainWindow {
     void MakeRoomFor(const QDockWidget* dock);
     void AddStatusLine();
     void RefreshLists();
-    QWidget* WidgetOf(Control control) const;
+    QWidget* WidgetOf(WindowText which) const;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     Handlers& handlers_;

@@ -214,7 +214,7 @@ void Form2::ShowForm() {
     option2_->setChecked(form_.Option2);
     check1_->setChecked(form_.Check1);
     check2_->setChecked(form_.Check2);
-    const Colour background = form_.BoardBackground();
+    const Colour background = form_.draft.BoardBackground();
     line1_->Show(form_.Line1, background, form_.Label2, form_.Option2);
     line2_->Show(form_.Line2, background, form_.Label2, form_.Option2);
     label1_->Show(form_.Label1, background, form_.Label2, form_.Option2);

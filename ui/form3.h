@@ -14,13 +14,14 @@ namespace tidewalk {
 
 /// Number, rows, columns and output file of a batch. What was typed stays for the next time. The property "Tag" is "Y"
 /// when OK was accepted, "X" otherwise.
-class Form3 final : public QDialog, public BatchWindow {
+class Form3 final : public QDialog {
     Q_OBJECT
 
  public:
     Form3(Handlers& handlers, QWidget* parent);
 
-    bool Ask(BatchRequest& request) override;
+    /// Shows the window until the player ends it. True when OK was accepted; `request` then holds what was typed.
+    bool Ask(BatchRequest& request);
 
  protected:
     bool event(QEvent* event) override;

@@ -31,10 +31,10 @@ QLabel* LabelFor(const QString& text, QWidget* control) {
 
 }  // namespace
 
-Form5::Form5(Handlers& handlers, Form5Fields& fields, QWidget* parent)
+Form5::Form5(Handlers& handlers, PrintRequest& request, QWidget* parent)
     : QDialog(parent),
       handlers_(handlers),
-      fields_(fields),
+      request_(request),
       fileNow_(Named(new QLineEdit, "FileNow", tr("File"))),
       text1_(Named(new QLineEdit, "Text1", tr("First puzzle"))),
       text2_(Named(new QLineEdit, "Text2", tr("Last puzzle"))),
@@ -44,8 +44,8 @@ Form5::Form5(Handlers& handlers, Form5Fields& fields, QWidget* parent)
     setWindowTitle(tr("Print Puzzles From File"));
     AddControls();
     connect(&handlers_, &Handlers::Ending, this, &QDialog::reject);
-    handlers_.Run([this](Game& game) { Form5_Activate(game, fields_); });
-    for (const std::string& name : fields_.printers)
+    handlers_.Run([this](Game& game) { Form5_Activate(game, request_); });
+    for (const std::string& name : request_.printers)
         combo1_->addItem(QString::fromStdString(name));
     Show();
     text1_->setFocus();
@@ -87,30 +87,30 @@ void Form5::AddControls() {
 }
 
 void Form5::Show() {
-    fileNow_->setText(QFile::decodeName(fields_.FileNow.c_str()));
-    text1_->setText(QString::fromStdString(fields_.Text1));
-    text2_->setText(QString::fromStdString(fields_.Text2));
-    count_->setText(tr("of %1").arg(fields_.count));
-    combo1_->setCurrentText(QString::fromStdString(fields_.Combo1));
+    fileNow_->setText(QFile::decodeName(request_.collection.c_str()));
+    text1_->setText(QString::fromStdString(request_.first));
+    text2_->setText(QString::fromStdString(request_.last));
+    count_->setText(tr("of %1").arg(request_.puzzleCount));
+    combo1_->setCurrentText(QString::fromStdString(request_.printer));
 }
 
 void Form5::Take() {
-    fields_.FileNow = QFile::encodeName(fileNow_->text()).toStdString();
-    fields_.Text1 = text1_->text().toStdString();
-    fields_.Text2 = text2_->text().toStdString();
-    fields_.Combo1 = combo1_->currentText().toStdString();
+    request_.collection = QFile::encodeName(fileNow_->text()).toStdString();
+    request_.first = text1_->text().toStdString();
+    request_.last = text2_->text().toStdString();
+    request_.printer = combo1_->currentText().toStdString();
 }
 
 void Form5::Pick() {
     Take();
-    handlers_.Run([this](Game& game) { Form5_gf1_Click(game, fields_); });
+    handlers_.Run([this](Game& game) { Form5_gf1_Click(game, request_); });
     Show();
 }
 
 void Form5::Accept() {
     Take();
     bool decided = false;
-    handlers_.Run([this, &decided](Game& game) { decided = Form5_Command1_Click(game, fields_); });
+    handlers_.Run([this, &decided](Game& game) { decided = Form5_Command1_Click(game, request_); });
     Show();
     if (decided) accept();
 }

@@ -6,7 +6,7 @@
 namespace tidewalk {
 
 void Handlers::Run(const std::function<void(Game&)>& routine) {
-    if (game_ == nullptr || game_->ending) return;
+    if (game_ == nullptr || game_->job.Ending()) return;
     ++depth_;
     try {
         routine(*game_);
@@ -15,7 +15,7 @@ void Handlers::Run(const std::function<void(Game&)>& routine) {
         game_->prompts.Show(error.what(), "vbcritical+vbok");
     }
     --depth_;
-    if (!game_->ending) {
+    if (!game_->job.Ending()) {
         emit Changed();
     } else if (depth_ == 0) {
         emit Ended();
@@ -23,9 +23,8 @@ void Handlers::Run(const std::function<void(Game&)>& routine) {
 }
 
 void Handlers::End() {
-    if (game_ == nullptr || game_->ending) return;
-    game_->ending = true;
-    game_->CancelFlag = YesValue;
+    if (game_ == nullptr || game_->job.Ending()) return;
+    game_->job.EndProgram();
     emit Ending();
     if (depth_ == 0) emit Ended();
 }

@@ -5,7 +5,7 @@
 #include <QObject>
 #include <functional>
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk {
 

@@ -20,7 +20,7 @@ void QtMainWindow::ApplyColours() {
     Game* const game = handlers_.game();
     if (game == nullptr) return;
     // All windows take their colours from here; the message box and the options window change some for themselves.
-    QApplication::setPalette(PaletteOf(ColoursOfWindows(*game, *this)));
+    QApplication::setPalette(PaletteOf(ColoursOfWindows(game->options, *this)));
     form_.Container().update();
 }
 

@@ -13,12 +13,12 @@ class QtMainWindow final : public MainWindow {
  public:
     QtMainWindow(Form1& form, Handlers& handlers) : form_(form), handlers_(handlers) {}
 
-    std::string Text(Control control) const override { return form_.TextOf(control).toStdString(); }
-    void SetText(Control control, const std::string& text) override {
-        form_.SetTextOf(control, QString::fromStdString(text));
+    std::string Text(WindowText which) const override { return form_.TextOf(which).toStdString(); }
+    void SetText(WindowText which, const std::string& text) override {
+        form_.SetTextOf(which, QString::fromStdString(text));
     }
-    void SetToolTip(Control control, const std::string& text) override {
-        form_.SetToolTipOf(control, QString::fromStdString(text));
+    void SetToolTip(WindowText which, const std::string& text) override {
+        form_.SetToolTipOf(which, QString::fromStdString(text));
     }
     void SetPointer(Pointer pointer) override;
     void SetProgress(int done, int total) override { form_.SetProgress(done, total); }

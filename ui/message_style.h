@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "model/seams.h"
+#include "game/messages.h"
 
 namespace tidewalk {
 

@@ -6,8 +6,12 @@
 #include <QRegularExpression>
 #include <QSaveFile>
 
-#include "board/render_puzzle.h"
-#include "model/load_puzzle.h"
+#include "board/print_pages.h"
+#include "drawing/render_puzzle.h"
+#include "model/collection_file.h"
+#include "model/file_error.h"
+#include "model/line_reader.h"
+#include "options/options.h"
 #include "ui/paper.h"
 #include "ui/picture.h"
 #include "ui/save_file.h"
@@ -21,10 +25,9 @@ std::string FileName(const QString& name) {
 }
 
 QString WritePictureFile(const OutputOrder& order) {
-    NumberedFiles files;
-    const auto puzzle = std::make_unique<Puzzle>();
     const std::string path = FileName(order.collection);
-    if (!ReadPuzzle(files, path, order.from, *puzzle)) {
+    const auto puzzle = ReadPuzzle(path, order.from);
+    if (!puzzle) {
         return QString("Puzzle %1 of %2 is missing or cannot be read").arg(order.from).arg(order.collection);
     }
     const RenderMode mode = order.solution ? RenderMode::Solution : RenderMode::Puzzle;
@@ -40,24 +43,18 @@ QString WritePictureFile(const OutputOrder& order) {
 }
 
 QString WritePages(const OutputOrder& order) {
-    NumberedFiles files;
-    const auto puzzle = std::make_unique<Puzzle>();
     const std::string path = FileName(order.collection);
     std::string error;
     const auto document = BeginPdf(FileName(order.file), error);
     if (!document) return QString("The pages could not be written: %1").arg(QString::fromStdString(error));
     QStringList broken;
-    for (int number = order.from; number <= order.to; ++number) {
-        if (number > order.from && !document->NewPage()) break;
-        if (ReadPuzzle(files, path, number, *puzzle)) {
-            const std::string title = PrintTitle("Puzzle#", number, path);
-            RenderPuzzle(*puzzle, document->Page(),
-                         PageRequest(title, Options().PrintLineWidth, document->Printable()));
-        } else {
-            broken += QString::number(number);
-        }
-    }
-    if (!document->End()) {
+    const auto page = [&](int number) {
+        auto content = PageOf(path, order.from + number);
+        if (!content) broken += QString::number(order.from + number);
+        return content;
+    };
+    const int pages = order.to - order.from + 1;
+    if (PrintPages(*document, pages, Options().PrintLineWidth, page, WithoutEnd) != PrintEnd::Printed) {
         return QString("The pages could not be written: %1").arg(QString::fromStdString(document->Error()));
     }
     if (broken.isEmpty()) return "";
@@ -66,11 +63,10 @@ QString WritePages(const OutputOrder& order) {
 
 /// The number of lines of the collection, counted as far as `wanted`.
 int CountPuzzles(const QString& collection, int wanted) {
-    NumberedFiles files;
     int count = 0;
     try {
-        files.Open(1, FileName(collection), FileMode::Input);
-        while (count < wanted && files.SkipLine(1))
+        LineReader lines(FileName(collection));
+        while (count < wanted && lines.Skip())
             ++count;
     } catch (const FileError&) {
         return 0;

@@ -8,7 +8,8 @@
 #include <QSaveFile>
 #include <algorithm>
 
-#include "board/render_puzzle.h"
+#include "drawing/render_puzzle.h"
+#include "game/messages.h"
 #include "ui/qt_surface.h"
 #include "ui/save_file.h"
 

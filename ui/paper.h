@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "model/seams.h"
+#include "game/output.h"
 
 namespace tidewalk {
 

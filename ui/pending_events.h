@@ -14,7 +14,7 @@ class QtPendingEvents final : public PendingEvents {
 
     /// The windows show what the game holds now before events are let through.
     void DoEvents() override {
-        if (handlers_.game() != nullptr && !handlers_.game()->ending) emit handlers_.Changed();
+        if (handlers_.game() != nullptr && !handlers_.game()->job.Ending()) emit handlers_.Changed();
         QCoreApplication::processEvents();
     }
 

@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "board/render_puzzle.h"
+#include "drawing/render_puzzle.h"
 #include "ui/qt_surface.h"
 
 namespace tidewalk {

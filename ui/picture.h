@@ -4,7 +4,7 @@
 
 #include <QImage>
 
-#include "model/seams.h"
+#include "game/output.h"
 
 namespace tidewalk {
 

@@ -36,7 +36,7 @@ Program::Program()
              [this](Handler handler, const Click& click) {
                  if (handler != nullptr) handlers_.Run([&](Game&) { handler(*this, click); });
              }),
-      form3_(handlers_, &form1_),
+      questions_(handlers_, form1_),
       help_(&form1_),
       prompts_(handlers_),
       filePicker_(handlers_),
@@ -46,23 +46,19 @@ Program::Program()
       form2_(handlers_, &form1_),
       form6_(handlers_, &form1_),
       printers_(handlers_),
-      form5_(handlers_),
       game_(std::make_unique<Game>(Seams{.prompts = prompts_,
                                          .filePicker = filePicker_,
+                                         .questions = questions_,
                                          .window = window_,
                                          .pictures = pictures_,
-                                         .board = board_,
                                          .events = events_,
                                          .clock = clock_,
-                                         .batchWindow = form3_,
                                          .clipboard = clipboard_,
-                                         .printers = printers_,
-                                         .form5 = form5_})) {
+                                         .printers = printers_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
     clipboard_.SetMainWindow(&form1_);
     printers_.SetMainWindow(&form1_);
-    form5_.SetMainWindow(&form1_);
     QObject::connect(&handlers_, &Handlers::Ending, &help_, &QWidget::close);
     handlers_.Attach(*game_);
     QObject::connect(&handlers_, &Handlers::Ending, &form1_, LeaveDialogs);

@@ -6,14 +6,11 @@
 #include <optional>
 #include <string>
 
-#include "board/drawing.h"
 #include "program/form_load.h"
 #include "ui/board_pictures.h"
 #include "ui/file_picker.h"
 #include "ui/form1.h"
 #include "ui/form2.h"
-#include "ui/form3.h"
-#include "ui/form5.h"
 #include "ui/form6.h"
 #include "ui/help_window.h"
 #include "ui/main_window.h"
@@ -21,6 +18,7 @@
 #include "ui/prompts.h"
 #include "ui/qt_clipboard.h"
 #include "ui/qt_printers.h"
+#include "ui/qt_questions.h"
 
 namespace tidewalk {
 
@@ -47,20 +45,18 @@ class Program final {
  private:
     Handlers handlers_;
     Form1 form1_;
-    Form3 form3_;
+    QtQuestions questions_;
     HelpWindow help_;
     QtPrompts prompts_;
     QtFilePicker filePicker_;
     QtMainWindow window_;
     QtBoardPictures pictures_;
-    DrawnBoard board_;
     QtPendingEvents events_;
     SystemClock clock_;
     QtClipboard clipboard_;
     Form2 form2_;
     Form6 form6_;
     QtPrinters printers_;
-    QtForm5 form5_;
     std::unique_ptr<Game> game_;
 };
 

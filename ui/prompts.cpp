@@ -32,7 +32,7 @@ class ArrowPointer {
 
 /// True when no box is to be shown.
 bool QtPrompts::Silent(const std::string& text) const {
-    if (handlers_.game() != nullptr && handlers_.game()->ending) return true;
+    if (handlers_.game() != nullptr && handlers_.game()->job.Ending()) return true;
     if (unattended_) std::fprintf(stderr, "%s\n", text.c_str());
     return unattended_;
 }
@@ -48,7 +48,7 @@ int QtPrompts::Show(const std::string& text, std::string_view style) {
     if (Silent(text)) return parsed.FrameAnswer();
     const ArrowPointer arrow;
     MsgForm box(text, parsed, caption_, Parent());
-    if (const Game* const game = handlers_.game()) ColourFrame(box, ColoursOfMessages(*game, game->window));
+    if (const Game* const game = handlers_.game()) ColourFrame(box, ColoursOfMessages(game->options, game->window));
     return box.exec();
 }
 

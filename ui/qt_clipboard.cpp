@@ -9,8 +9,7 @@
 namespace tidewalk {
 
 std::string QtClipboard::Text() {
-    // One byte a character: puzzles count columns, and everything but a digit is water anyway.
-    return QGuiApplication::clipboard()->text().toLatin1().toStdString();
+    return QGuiApplication::clipboard()->text().toStdString();
 }
 
 bool QtClipboard::SetPicture(const DrawFunction& draw) {

@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "model/seams.h"
+#include "game/output.h"
 
 namespace tidewalk {
 

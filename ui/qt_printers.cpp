@@ -5,7 +5,7 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
-#include "board/render_puzzle.h"
+#include "drawing/render_puzzle.h"
 #include "ui/paper.h"
 #include "ui/qt_surface.h"
 

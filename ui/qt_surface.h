@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <map>
 
-#include "model/surface.h"
+#include "drawing/surface.h"
 
 namespace tidewalk {
 

@@ -4,7 +4,7 @@
 
 #include <QAbstractButton>
 
-#include "model/surface.h"
+#include "drawing/surface.h"
 
 namespace tidewalk {
 

@@ -1,224 +1,190 @@
 // SPDX-License-Identifier: MIT
 #include "board/copy_and_print.h"
 
-#include <gtest/gtest.h>
-
-#include "model/load_puzzle.h"
-#include "model/navigation.h"
+#include "board/show_board.h"
+#include "program/exit.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
 namespace {
 
-const std::string kOtherPuzzle = Record({"2=2....", ".......", ".......", ".......", ".......", ".......", "......."});
+constexpr const char* kPdfPick = "Print to a PDF file|*.pdf|PDF Files|save";
+const std::string kOther = Record({"2=2....", ".......", ".......", ".......", ".......", ".......", "......."});
 
-/// A game on puzzle 2 of its collection, and another file with `lines` to print from.
-class Printing : public ::testing::Test {
- protected:
-    Printing() : game({kSmallPuzzle, kSmallPuzzle}) { game.Load(2); }
-
-    /// Prints puzzles `start` to `end` of a file with these lines.
-    void Print(const std::vector<std::string>& lines, const std::string& start, const std::string& end) {
-        std::string bytes;
-        for (const std::string& line : lines)
-            bytes += line + "\r\n";
-        path = game.folder.Write("other.tdw", bytes);
-        game.form5.play = [=, this](Form5Fields& fields) {
-            Form5_Activate(game, fields);
-            fields.FileNow = path;
-            fields.Text1 = start;
-            fields.Text2 = end;
-            Form5_Command1_Click(game, fields);
-        };
-        control27_Click(game);
+/// A game on puzzle 2 of its collection, with a bridge on it.
+struct Printing : testing::Test {
+    Printing() : game({kOther, kSmallPuzzle}) {
+        game.Load(2);
+        game.board.BridgeState.Set(3, 7, 2);
+        game.Run(RedrawBoard, false);
+        game.options.PrintLineWidth = 6;
     }
 
-    void ExpectUnchanged() const {
-        EXPECT_EQ(game.PuzzleNumber, 2);
-        EXPECT_EQ(game.CollectionPath, game.folder.Path("collection.tdw"));
-        EXPECT_EQ(game.NumberTotal, 30);
-        EXPECT_EQ(game.BusyFlag, NoValue);
-        EXPECT_EQ(game.CancelFlag, NoValue);
-        EXPECT_EQ(game.window.pointer, Pointer::Default);
-        EXPECT_EQ(game.window.progressTotal, 0);
+    void PrintCurrent(int answer = kYes) {
+        game.world.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", answer);
+    }
+    /// Asks for puzzles `first` to `last` of another file with these lines.
+    void PrintRange(const Lines& lines, const std::string& first, const std::string& last) {
+        game.folder.Write("other.tdw", Joined(lines));
+        game.world.print = [=, this](PrintRequest& request) {
+            request.collection = other;
+            request.first = first;
+            request.last = last;
+            return Form5_Command1_Click(game, request);
+        };
+        game.Run(control27_Click);
+    }
+
+    /// The title of a picture, the islands on it, the strokes of bridges and their pen.
+    static std::string Content(const RecordingSurface& surface) {
+        if (surface.calls.empty()) return "";
+        return surface.Calls("print").front() + "|" + std::to_string(surface.Count("circle")) + "|" +
+               std::to_string(surface.Count("line")) + "|" + std::to_string(surface.drawWidth);
+    }
+    std::string Copied() {
+        RecordingSurface surface;
+        game.world.copy(surface);
+        return Content(surface);
     }
 
     TestGame game;
-    std::string path;
+    const std::string file = " 2 file:" + game.PathOfCollection();
+    const std::string page = "print 1200 600 Puzzle#" + file + " 0|22|15|6";
+    const std::string other = game.folder.Path("other.tdw");
 };
 
-TEST_F(Printing, CopiesPuzzleAndSolution) {
-    mnucopyclippuz_Click(game);
-    EXPECT_EQ(game.window.texts[Control::pb], "Puzzle copied to clipboard");
-    EXPECT_EQ(game.clipboard.picture.calls[1], "print 400 200 Puzzle# 2 file:" + game.CollectionPath + " 0");
-    EXPECT_EQ(game.clipboard.picture.Count("line"), 0);
-    game.clipboard.picture.calls.clear();
-    mnucopyclipsol_Click(game);
-    EXPECT_EQ(game.window.texts[Control::pb], "Solution copied to clipboard");
-    EXPECT_EQ(game.clipboard.picture.calls[1], "print 400 200 Solution# 2 file:" + game.CollectionPath + " 0");
-    EXPECT_EQ(game.clipboard.picture.Count("line"), 15);
-}
-
-TEST_F(Printing, CopyDuringAJobShowsTheGivenNumbers) {
-    game.BusyFlag = YesValue;
-    game.IslandGrid(1, 3) = -1;  // the solver has laid all bridges of this island
-    mnucopyclippuz_Click(game);
-    EXPECT_EQ(game.clipboard.picture.Count("circle"), 11);
-}
-
-TEST_F(Printing, FailedCopyIsNotReportedAsDone) {
-    game.clipboard.works = false;
-    mnucopyclippuz_Click(game);
-    EXPECT_EQ(game.window.texts[Control::pb], "The picture could not be copied to clipboard");
-}
-
-TEST_F(Printing, CurrentPuzzleIsOnePageWithBothBoards) {
-    game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 6);
-    game.prompts.Expect("Printed", "vbinformation+vbok", 1);
-    mnuprintcurrent_Click(game);
-    EXPECT_TRUE(game.printers.printed);
-    ASSERT_EQ(game.printers.pages.size(), 1U);
-    EXPECT_EQ(game.printers.pages[0].Count("circle"), 22);
-    EXPECT_EQ(game.printers.pages[0].Count("line"), 15);
-}
-
-TEST_F(Printing, CurrentPuzzleIsNotPrintedWithoutConsent) {
-    game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 7);
-    mnuprintcurrent_Click(game);
-    EXPECT_TRUE(game.printers.pages.empty());
-}
-
-TEST_F(Printing, PdfFileAsksForItsName) {
-    game.printers.names = {"PDF file"};
-    game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 6);
-    game.filePicker.Answer("");
-    mnuprintcurrent_Click(game);
-    EXPECT_TRUE(game.printers.pages.empty());
-    path = game.folder.Write("page.v2.pdf", "old");
-    game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 6);
-    game.prompts.ExpectSystemBox("OverWrite file: " + path + " ?", SystemButtons::YesNo, 7);
-    game.filePicker.Answer(game.folder.Path("page.v2"));
-    mnuprintcurrent_Click(game);
-    EXPECT_TRUE(game.printers.pages.empty());
-    game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 6);
-    game.prompts.Expect("Printed", "vbinformation+vbok", 1);
-    game.filePicker.Answer("other.PDF");
-    mnuprintcurrent_Click(game);
-    EXPECT_EQ(game.printers.file, "other.PDF");
-    EXPECT_TRUE(game.printers.printed);
-}
-
-TEST_F(Printing, RefusedDuringAJobAndWithoutAPuzzle) {
-    game.BusyFlag = YesValue;
-    for (const auto command : {mnuprintcurrent_Click, mnuprintpreview_Click, control27_Click}) {
-        game.prompts.Expect("Cancel Autosolve first", "vbinformation+vbok", 1);
-        command(game);
+TEST_F(Printing, CopiesShowThePuzzleOrItsSolutionAsTheyWere) {
+    game.Run(mnucopyclippuz_Click);
+    EXPECT_EQ(Copied(), "print 400 200 Puzzle#" + file + " 0|11|0|6");
+    game.Run(mnucopyclipsol_Click);
+    game.Load(1);
+    EXPECT_EQ(Copied(), "print 400 200 Solution#" + file + " 0|11|15|6") << "another puzzle is no matter";
+    for (const bool works : {true, false}) {
+        game.world.copies = works;
+        game.Run(mnucopyclippuz_Click);
+        game.Run(mnucopyclipsol_Click);
+        const std::string failed = "status: The picture could not be copied to clipboard";
+        EXPECT_EQ(game.world.Seen(), works ? "status: Puzzle copied to clipboard, status: Solution copied to clipboard"
+                                           : failed + ", " + failed);
     }
-    game.BusyFlag = NoValue;
-    game.PuzzleNumber = 0;
+}
+
+TEST_F(Printing, TheCurrentPuzzleIsOnePageWithBothBoards) {
+    PrintCurrent(kNo);
+    game.Run(mnuprintcurrent_Click);
+    PrintCurrent();
+    game.world.Expect("Printed", kInformation);
+    game.Run(mnuprintcurrent_Click);
+    EXPECT_EQ(game.world.Seen(), "box, box, busy, printed, not busy, document gone, box");
+    EXPECT_EQ(game.world.pages.size(), 1U);
+    EXPECT_EQ(Content(game.world.pages[0]) + game.world.printedTo, page + "Office|");
+    for (const auto& [chosen, asked] : {std::pair{"PDF file", "PDF file|"}, {"Gone", "Office|"}}) {
+        game.printerName = chosen;
+        game.Run(mnuprintpreview_Click);
+        EXPECT_EQ(Content(game.world.pages[0]) + game.world.printedTo, page + asked);
+    }
+    game.world.printers.clear();
+    game.Run(mnuprintpreview_Click);
+    EXPECT_EQ(game.world.printedTo, "|");
+    game.collection.PuzzleNumber = 0;
     for (const auto command : {mnuprintcurrent_Click, mnuprintpreview_Click}) {
-        game.prompts.Expect("No puzzle to print", "vbinformation+vbok", 1);
-        command(game);
+        game.world.Expect("No puzzle to print", kInformation);
+        game.Run(command);
     }
 }
 
-TEST_F(Printing, FailingPrinterSaysWhyAndChangesNothing) {
-    game.BridgeState.Set(3, 7, 2);
-    game.prompts.Expect("Print Current Puzzle and its Solution?", "vbquestion+vbyesno", 6);
-    game.prompts.ExpectSystemBox("Printing failed:\r\nno such folder", SystemButtons::Ok, 1);
-    game.printers.beginError = "no such folder";
-    mnuprintcurrent_Click(game);
-    game.prompts.ExpectSystemBox("Printing failed:\r\nno such folder", SystemButtons::Ok, 1);
-    Print({kOtherPuzzle}, "1", "1");
-    EXPECT_EQ(game.BridgeState(3, 7), 2);
-    ExpectUnchanged();
-
-    game.printers.beginError.clear();
-    game.printers.failAtEnd = true;
-    game.prompts.ExpectSystemBox("Printing failed:\r\nout of paper", SystemButtons::Ok, 1);
-    Print({kOtherPuzzle}, "1", "1");
-    game.printers.failAtPage = 2;
-    game.prompts.ExpectSystemBox("Printing failed:\r\nout of paper", SystemButtons::Ok, 1);
-    Print({kOtherPuzzle, kOtherPuzzle}, "1", "2");
-    EXPECT_FALSE(game.printers.printed);
-    ExpectUnchanged();
-}
-
-TEST_F(Printing, BrokenLinesOfARangeLeaveTheirPagesEmpty) {
-    std::vector<std::string> lines(200, kOtherPuzzle);
-    lines[1] = "no record";
-    lines[2] = " 7, 7, 1;D;2=2....,";
-    lines[150].clear();
-    path = game.folder.Path("other.tdw");
-    game.prompts.Expect("Printed 199 puzzles from file:\r\n" + path, "vbinformation+vbok", 1);
-    Print(lines, "2", "200");
-    ASSERT_EQ(game.printers.pages.size(), 199U);
-    for (std::size_t i = 0; i < game.printers.pages.size(); ++i) {
-        const bool broken = i == 0 || i == 1 || i == 149;
-        EXPECT_EQ(game.printers.pages[i].Count("circle"), broken ? 0 : 4) << i;
+TEST_F(Printing, APdfFileAsksForItsName) {
+    game.printerName = "PDF file";
+    const std::string old = game.folder.Write("page.v2.pdf", "old");
+    for (const std::string& name : {std::string(), game.folder.Path("page.v2")}) {
+        PrintCurrent();
+        game.world.ExpectPick(kPdfPick, name);
+        if (!name.empty()) game.world.Expect("OverWrite file: " + old + " ?", "system yesno", kNo);
+        game.Run(mnuprintcurrent_Click);
     }
-    EXPECT_EQ(game.printers.pages[2].calls.front(), "print 1200 600 Puzzle# 4 file:" + path + " 0");
-    ExpectUnchanged();
+    EXPECT_EQ(game.world.Seen(), "box, pick, box, pick, box");
+    for (const auto& [name, written] : {std::pair{"a", "a.pdf"}, {"a.PDF", "a.PDF"}, {"pdf", "pdf.pdf"}}) {
+        PrintCurrent();
+        game.world.ExpectPick(kPdfPick, name);
+        game.world.Expect("Printed", kInformation);
+        game.Run(mnuprintcurrent_Click);
+        EXPECT_EQ(game.world.printedTo, std::string("PDF file|") + written);
+    }
 }
 
-TEST_F(Printing, CancelEndsTheRangeWithoutADocument) {
-    game.clock.step = 30;
-    game.events.happen = [this] {
-        EXPECT_EQ(game.BusyFlag, YesValue);
-        EXPECT_EQ(game.window.pointer, Pointer::Busy);
-        if (game.window.progressDone == 5) game.CancelFlag = YesValue;
+TEST_F(Printing, AFailingPrinterSaysWhyAndKeepsTheBoard) {
+    const std::string failed = "Printing failed:\r\n";
+    game.world.beginError = "no such folder";
+    game.world.Expect(failed + "no such folder", "system ok");
+    PrintRange({kOther}, "1", "1");
+    EXPECT_EQ(game.board.BridgeState(3, 7), 2);
+    game.world.beginError.clear();
+    game.world.failAtPage = 2;
+    PrintCurrent();
+    game.world.Expect(failed + "out of paper", "system ok");
+    game.Run(mnuprintcurrent_Click);
+    EXPECT_EQ(game.world.Seen(), "print?, box, box, busy, not busy, document gone, box");
+    for (const char* last : {"1", "2"}) {
+        game.world.Expect(failed + "out of paper", "system ok");
+        PrintRange({kOther, kOther}, "1", last);
+        EXPECT_TRUE(game.world.Seen().ends_with("not busy, document gone, number: 2, box"));
+    }
+}
+
+TEST_F(Printing, ARangeMayHaveBrokenLinesAndNoPuzzleBefore) {
+    for (const bool before : {true, false}) {
+        if (!before) game.collection = {};
+        game.world.Expect("Printed 4 puzzles from file:\r\n" + other, kInformation);
+        PrintRange({kOther, "no record", " 7, 7, 1;D;2=2....,", "", kOther, kOther}, "2", " 5");
+        ASSERT_EQ(game.world.pages.size(), 4U);
+        EXPECT_EQ(Content(game.world.pages[0]) + Content(game.world.pages[1]) + Content(game.world.pages[2]), "");
+        EXPECT_EQ(Content(game.world.pages[3]), "print 1200 600 Puzzle# 5 file:" + other + " 0|4|2|6");
+        EXPECT_EQ(game.collection.PuzzleNumber, before ? 2 : 0);
+        EXPECT_EQ(game.board.BridgeState(3, 7), 0) << "the puzzle from before is read again";
+    }
+}
+
+TEST_F(Printing, ARangeOutsideTheFileIsRefused) {
+    for (const auto& [first, last] : {std::pair{"0", "1"}, {"2", "1"}, {"1", "3"}, {"", ""}, {"-1", "x"}}) {
+        game.world.Expect("Incorrect start or end puzzle number", kCritical);
+        PrintRange({kOther, kOther}, first, last);
+    }
+    game.world.Expect("No puzzles in this file: " + other, kCritical);
+    PrintRange({}, "1", "1");
+    for (const bool closed : {false, true}) {
+        game.world.print = [&](PrintRequest& request) {
+            closed ? Form_QueryUnload(game) : game.job.Begin();
+            return request.first = request.last = "1", true;
+        };
+        control27_Click(game);
+        game.job.End();
+    }
+    EXPECT_TRUE(game.world.pages.empty()) << "what happened meanwhile may forbid it, too";
+}
+
+TEST_F(Printing, TheWindowForRangesCountsThePickedFileAndRemembersThePrinter) {
+    PrintRequest request;
+    game.world.print = [&](PrintRequest& asked) { return request = asked, false; };
+    game.Run(control27_Click);
+    EXPECT_EQ(request.collection, game.PathOfCollection());
+    game.Run(Form5_Activate, request);
+    const auto shown = [&] {
+        return request.first + "-" + request.last + " of " + std::to_string(request.puzzleCount) + " " +
+               request.printer;
     };
-    Print(std::vector<std::string>(50, kOtherPuzzle), "1", "50");
-    EXPECT_EQ(game.printers.pages.size(), 6U);
-    EXPECT_FALSE(game.printers.printed);
-    EXPECT_EQ(game.window.texts[Control::pb], "Printing cancelled");
-    ExpectUnchanged();
-}
-
-TEST_F(Printing, PuzzleThatThePlayerGoesToMeanwhileStays) {
-    game.clock.step = 30;
-    game.events.happen = [this] {
-        if (game.PuzzleNumber != 2) return;
-        game.window.SetText(Control::PuzNumNow, "1");
-        PuzNumNow_KeyPress(game, kEnterKey);
-    };
-    Print(std::vector<std::string>(50, kOtherPuzzle), "1", "50");
-    EXPECT_EQ(game.PuzzleNumber, 1);
-    EXPECT_FALSE(game.printers.printed);
-    EXPECT_EQ(game.BusyFlag, NoValue);
-}
-
-TEST_F(Printing, RangeOutsideTheFileIsRefused) {
-    for (const auto& [start, end] : {std::pair{"0", "1"}, {"2", "1"}, {"1", "3"}, {"", ""}, {"-1", "x"}}) {
-        game.prompts.Expect("Incorrect start or end puzzle number", "vbcritical+vbok", 1);
-        Print({kOtherPuzzle, kOtherPuzzle}, start, end);
-    }
-    game.prompts.Expect("No puzzles in this file: " + path, "vbcritical+vbok", 1);
-    Print({}, "1", "1");
-    EXPECT_TRUE(game.printers.pages.empty());
-}
-
-TEST_F(Printing, FormFiveCountsThePickedFileAndRemembersThePrinter) {
-    Form5Fields fields;
-    fields.FileNow = game.CollectionPath;
-    Form5_Activate(game, fields);
-    EXPECT_EQ(fields.Text1 + "-" + fields.Text2 + " " + fields.Combo1, "1-2 Office");
-
+    EXPECT_EQ(shown(), "1-2 of 2 Office");
+    EXPECT_EQ(request.printers, game.world.printers);
     const std::string empty = game.folder.Write("empty.tdw", "");
-    game.filePicker.Answer(empty);
-    game.prompts.Expect("No puzzles in this file: " + empty, "vbcritical+vbok", 1);
-    Form5_gf1_Click(game, fields);
-    EXPECT_EQ(fields.FileNow, empty);
-    EXPECT_EQ(game.filePicker.requests[0].title, "Select a Puzzle file to print");
-
-    fields.FileNow = game.CollectionPath;
-    fields.Text2 = " 2 ";
-    fields.Combo1 = "PDF file";
-    EXPECT_TRUE(Form5_Command1_Click(game, fields));
-    EXPECT_EQ(fields.Tag, "Y");
-    mnuprintpreview_Click(game);
-    EXPECT_EQ(game.printers.printer, "PDF file");
-    EXPECT_EQ(game.printers.pages[0].Count("circle"), 22);
+    for (const std::string& path : {std::string(), empty, game.folder.Write("other.tdw", "1\n2\n3")}) {
+        game.world.ExpectPick("Select a Puzzle file to print|*.tdw;*.txt;*.dat|Tidewalk Files|open", path);
+        if (path == empty) game.world.Expect("No puzzles in this file: " + empty, kCritical);
+        game.Run(Form5_gf1_Click, request);
+        EXPECT_EQ(shown(), path.empty() ? "1-2 of 2 Office" : path == empty ? "1-0 of 0 Office" : "1-3 of 3 Office");
+        EXPECT_EQ(request.collection, path.empty() ? game.PathOfCollection() : path);
+    }
+    request.printer = "PDF file";
+    EXPECT_TRUE(game.Run(Form5_Command1_Click, request));
+    EXPECT_EQ(game.printerName, "PDF file");
 }
 
 }  // namespace

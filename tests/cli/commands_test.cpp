@@ -8,7 +8,8 @@
 
 #include "cli/arguments.h"
 #include "cli/puzzle_range.h"
-#include "support/test_game.h"
+#include "support/board_text.h"
+#include "support/temp_folder.h"
 
 namespace tidewalk::test {
 namespace {
@@ -24,7 +25,7 @@ class Cli : public ::testing::Test {
         std::ostringstream out;
         std::ostringstream err;
         std::atomic<int> noSignal = 0;
-        Console console{in, out, err, noSignal};
+        Console console{in, out, err, noSignal, outIsTerminal_, errIsTerminal_};
         const int code = RunCommandLine(console, arguments);
         out_ = out.str();
         err_ = err.str();
@@ -45,6 +46,8 @@ class Cli : public ::testing::Test {
     }
 
     TempFolder folder_;
+    bool outIsTerminal_ = false;
+    bool errIsTerminal_ = false;
     std::string out_;
     std::string err_;
 };
@@ -74,6 +77,19 @@ TEST_F(Cli, ListTellsTheStateOfTheStoredBridges) {
     EXPECT_EQ(RunJson({"list", File("empty.txt", {})}), json::array());
 }
 
+TEST_F(Cli, OnATerminalABarShowsHowFarItIs) {
+    const std::string file = File("c.txt", {kRing, kRing});
+    errIsTerminal_ = true;
+    Run({"list", file});
+    EXPECT_TRUE(err_.starts_with("\r[###############...............] 1 puzzles\x1B[K")) << err_;
+    EXPECT_TRUE(err_.ends_with("\r\x1B[K")) << "it is taken away in the end";
+    Run({"list", "-"}, kRing);
+    EXPECT_EQ(err_, "\r1 puzzles\x1B[K\r\x1B[K") << "nobody knows how much is to come";
+    outIsTerminal_ = true;
+    Run({"list", file});
+    EXPECT_EQ(err_, "") << "the lines themselves show it";
+}
+
 TEST_F(Cli, SolveGivesBridgesAndRecords) {
     const std::string file = File("c.txt", {kRingWithout, kImpossible, Record({"...", "...", "..."})});
     const json solved = RunJson({"solve", file, "--links", "--out", folder_.Path("s.txt")});
@@ -87,6 +103,9 @@ TEST_F(Cli, SolveGivesBridgesAndRecords) {
     EXPECT_EQ(Run({"list", file}), 0) << "the collection itself is not replaced";
     EXPECT_EQ(Run({"solve", file, "1", "--out", "-"}), 0);
     EXPECT_EQ(out_, folder_.Read("s.txt"));
+    EXPECT_EQ(Run({"solve", file, "1", "--links"}), 0);
+    EXPECT_TRUE(out_.starts_with("     1    3x3  solved        3 trials  Easy   ")) << out_;
+    EXPECT_TRUE(out_.ends_with(" ms  1-3:1 1-7:1 3-9:1 7-9:1\n")) << out_;
 }
 
 TEST_F(Cli, MaxTrialsIsTheMostThatAreTried) {
@@ -98,6 +117,8 @@ TEST_F(Cli, MaxTrialsIsTheMostThatAreTried) {
     EXPECT_EQ(Run({"solve", all, "117", "--max-trials", std::to_string(trials - 1)}), 1);
     EXPECT_NE(err_.find("puzzle 117: given up after " + std::to_string(trials - 1) + " trials"), std::string::npos);
     EXPECT_EQ(Run({"solve", all, "117", "--max-trials", "0"}), 1);
+    EXPECT_NE(err_.find("puzzle 117: the rules alone do not solve it"), std::string::npos);
+    EXPECT_TRUE(out_.starts_with("   117  11x11  unsolved      0 trials  -      ")) << out_;
     EXPECT_EQ(Run({"solve", all, "1", "--max-trials", "0"}), 0) << "the rules alone solve it";
 }
 
@@ -129,8 +150,10 @@ TEST_F(Cli, JobsDoNotChangeWhatIsMade) {
     const std::string before = folder_.Read("91");
     ASSERT_EQ(Run({"create", "7X10", "--out", folder_.Path("91")}), 0);
     EXPECT_TRUE(folder_.Read("91").starts_with(before + " 7, 10,")) << "it is appended";
-    for (const char* const size : {"6", "26", "7x", "x", "abc", "9x99999999999"})
+    for (const char* const size : {"6", "26", "7x", "x", "abc", "9x99999999999"}) {
         EXPECT_EQ(Run({"create", size, "--out", folder_.Path("no")}), 2) << size;
+        EXPECT_EQ(err_, std::string("tidewalk-cli: a puzzle has 7 to 25 rows and columns, not ") + size + "\n");
+    }
     EXPECT_EQ(Run({"create", "7"}), 2) << "no file to write to";
 }
 
@@ -173,6 +196,7 @@ TEST_F(Cli, ShowDrawsBridgesWithBoxCharacters) {
     EXPECT_EQ(Run({"show", file, "2", "--solution"}), 1);
     EXPECT_EQ(err_, "tidewalk-cli: " + file + ": puzzle 2: there are no stored bridges\n");
     EXPECT_EQ(Run({"show", file, "3"}), 1);
+    EXPECT_EQ(err_, "tidewalk-cli: " + file + ": puzzle 3: there is no such puzzle, the last one is 2\n");
 }
 
 TEST_F(Cli, WrongUsageIsTold) {
@@ -227,10 +251,9 @@ TEST_F(Cli, NoFileIsTooStrange) {
     }
 }
 
-TEST(PuzzleRange, TakesNumbersRangesAndAll) {
+TEST(PuzzleRange, IsANumberOrTwo) {
     EXPECT_EQ(ParsePuzzleRange("7"), (PuzzleRange{7, 7}));
     EXPECT_EQ(ParsePuzzleRange("3-9"), (PuzzleRange{3, 9}));
-    EXPECT_EQ(ParsePuzzleRange("all"), PuzzleRange{});
     for (const char* const text : {"", "0", "-", "3-", "-3", "9-3", "1-2-3", "1 ", "x", "99999999999"})
         EXPECT_FALSE(ParsePuzzleRange(text)) << text;
 }

@@ -48,6 +48,7 @@ signals() {
     wait $!
     code=$?
     [ "$code" -eq 143 ] || fail "a signal in the middle gave $code"
+    grep -q "stopped before the end" messages || fail "nothing was said about it"
     "$program" list made.txt >listed || fail "half a record was written"
     grep -q "^$(wc -l <listed) of 1000000 " report || fail "the report does not tell how many: $(cat report)"
 
@@ -57,7 +58,7 @@ signals() {
     exec 9<>fifo
     "$program" solve fifo --out solved.txt --json >report 2>messages &
     cat "$collection" >fifo
-    wait_until has_lines report
+    wait_until grep -q number report
     kill -TERM $!
     wait $!
     code=$?

@@ -1,181 +1,195 @@
 // SPDX-License-Identifier: MIT
+// New puzzles: one for the board, and many for a file.
 #include "generator/new_puzzle.h"
 
-#include <gtest/gtest.h>
+#include <filesystem>
 
-#include "model/job.h"
-#include "model/load_puzzle.h"
+#include "generator/batch.h"
 #include "support/layout_checker.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
 namespace {
 
-constexpr const char* kBadSize = "Puzzle size must be 7 to  25";
-
-TEST(ParseGridSize, ReadsWhatTheBoxCanHold) {
-    const auto size = [](int rows, int cols) { return WantedSize{false, rows, cols}; };
-    EXPECT_EQ(ParseGridSize("9"), size(9, 9));
-    EXPECT_EQ(ParseGridSize(" 9x12 "), size(9, 12));
-    EXPECT_EQ(ParseGridSize("25X7"), size(25, 7));
-    EXPECT_EQ(ParseGridSize("9 x 12"), size(9, 12));
-    EXPECT_EQ(ParseGridSize("9x12x3"), size(9, 12));
-    EXPECT_EQ(ParseGridSize("8.5x9.5"), size(8, 10));
-    EXPECT_EQ(ParseGridSize("x5"), size(0, 5));
-    EXPECT_EQ(ParseGridSize("5x"), size(5, 0));
-    EXPECT_EQ(ParseGridSize("-9"), size(-9, -9));
-    EXPECT_EQ(ParseGridSize("nine"), size(0, 0));
-    EXPECT_EQ(ParseGridSize("1e99"), size(2147483647, 2147483647));
-    EXPECT_TRUE(ParseGridSize("").random);
-    EXPECT_TRUE(ParseGridSize(" \t ").random);
-}
-
-/// A game with a puzzle on the board and a size in the box.
+/// A game on puzzle 2 of its collection.
 struct NewGame : TestGame {
-    explicit NewGame(const std::string& size) : TestGame({kSmallPuzzle, kSmallPuzzle}) {
+    explicit NewGame(const std::string& size = "7") : TestGame({kSmallPuzzle, kSmallPuzzle}) {
         Load(2);
-        window.texts[Control::GridSize] = size;
-        window.statusTexts.clear();
+        world.texts[WindowText::BoardSize] = size;
     }
 
-    void ExpectFailure() { prompts.Expect("Could not create new puzzle", "vbinformation+vbok", 1); }
-
-    /// The board is the player's and shows puzzle 2 of the collection.
-    void ExpectOldPuzzle() const {
-        EXPECT_EQ(CollectionPath, folder.Path("collection.tdw"));
-        EXPECT_EQ(PuzzleNumber, 2);
-        EXPECT_EQ(Rows, 7);
-        EXPECT_EQ(IslandGrid(1, 3), 4);
-        ExpectIdle();
+    /// Asks for these puzzles in a batch, in a file that lies beside the collection.
+    void RunBatch(const std::string& count, const std::string& rows, const std::string& cols, bool done = false,
+                  int answer = kYes) {
+        world.batch = [=](BatchRequest& request) { return request = {count, rows, cols, "out.txt"}, true; };
+        world.Expect("Create " + count + " " + rows + "x" + cols + " puzzles\r\nOutput file: out.txt\r\n\r\nProceed?",
+                     "vbquestion+vbyesno", answer);
+        if (done) world.Expect("Created " + count + " puzzles in file:\r\nout.txt", kInformation);
+        Run(mnucreatemany_Click);
     }
 
-    void ExpectIdle() const {
-        EXPECT_FALSE(JobRuns(*this));
-        EXPECT_TRUE(pictures.enabled);
-        EXPECT_TRUE(pictures.visible);
-        EXPECT_EQ(window.pointer, Pointer::Default);
+    /// Lets this happen as soon as the status line shows `status`.
+    void When(const std::string& status, std::function<void()> what) {
+        world.step = 100;
+        world.happen = [this, status, what = std::move(what)]() mutable {
+            if (world.Status() == status && what) std::exchange(what, nullptr)();
+        };
     }
 };
 
-TEST(NewPuzzle, BecomesTheCurrentPuzzle) {
+TEST(NewPuzzle, BecomesTheCurrentPuzzleAndTheOnlyOneOfItsFile) {
     NewGame game("9x12");
-    mnunewpuzx_Click(game);
-    EXPECT_EQ(game.CollectionPath, "temp.txt");
-    EXPECT_EQ(game.PuzzleNumber, 1);
-    EXPECT_EQ(game.PuzzleCount, 1);
-    EXPECT_EQ(game.Rows, 9);
-    EXPECT_EQ(game.Cols, 12);
-    const std::string bytes = game.folder.Read("temp.txt");
-    EXPECT_EQ(FaultOfRecord(bytes.substr(0, bytes.size() - 2), 9, 12), "") << bytes;
-    EXPECT_EQ(game.window.statusTexts, (std::vector<std::string>{" Creating 9x12 puzzle ...", "Puzzle created"}));
-    game.ExpectIdle();
-
-    game.window.texts[Control::GridSize] = "7";
-    cmdnew1_Click(game);
-    EXPECT_EQ(game.Rows, 7);
-    EXPECT_EQ(game.PuzzleCount, 1) << "the file holds the last puzzle alone";
+    game.collection.leftOpen = true;
+    game.When(" Creating 9x12 puzzle ...", [&] {
+        EXPECT_EQ(game.board.puzzle, Puzzle({9, 12})) << "the board is empty meanwhile";
+        EXPECT_EQ(game.board.layout.CellSize, 643);
+        EXPECT_EQ(game.world.picture.calls.size(), 1U);
+        EXPECT_FALSE(game.world.enabled);
+    });
+    game.Run(mnunewpuzx_Click);
+    EXPECT_EQ(game.collection.CollectionPath, "temp.txt");
+    const Lines lines = LinesOf(game.folder.Read("temp.txt"));
+    EXPECT_EQ(FaultOfRecord(lines.at(0), {9, 12}), "");
+    game.world.texts[WindowText::BoardSize] = "7";
+    game.Run(cmdnew1_Click);
+    EXPECT_EQ(game.board.puzzle.Size(), (BoardSize{7, 7}));
+    EXPECT_EQ(game.collection.PuzzleCount, 1);
 }
 
 TEST(NewPuzzle, AnEmptyBoxGivesRandomSides) {
-    NewGame game("7");
-    GridSize_MouseDown(game, MouseButton::Left);
-    EXPECT_EQ(game.window.texts[Control::GridSize], "7");
-    GridSize_MouseDown(game, MouseButton::Right);
-    EXPECT_EQ(game.window.texts[Control::GridSize], "");
-    cmdnew1_Click(game);
-    EXPECT_EQ(game.window.texts[Control::GridSize], std::to_string(game.Rows) + "x" + std::to_string(game.Cols));
+    NewGame game("8x8");
+    game.Run(GridSize_MouseDown, MouseButton::Left);
+    EXPECT_EQ(game.world.Text(WindowText::BoardSize), "8x8");
+    int square = 0;
+    for (int i = 0; i < 4; ++i) {
+        game.Run(GridSize_MouseDown, MouseButton::Right);
+        EXPECT_EQ(game.world.Text(WindowText::BoardSize), "");
+        game.Run(cmdnew1_Click);
+        square += game.board.puzzle.Rows == game.board.puzzle.Cols ? 1 : 0;
+    }
+    EXPECT_LT(square, 3);
 }
 
 TEST(NewPuzzle, SizesOutOfRangeAreRefused) {
-    for (const char* size : {"6", "26", "30x8", "8x30", "x9", "9x", "0", "-9", "big"}) {
+    for (const char* size : {"6", "26", "30x8", "8x30", "x9", "9x", "big"}) {
         NewGame game(size);
-        game.prompts.Expect(kBadSize, "vbcritical+vbok", 1);
-        cmdnew1_Click(game);
-        game.ExpectOldPuzzle();
-        EXPECT_TRUE(game.window.statusTexts.empty());
+        game.world.Expect("Puzzle size must be 7 to  25", kCritical);
+        game.Run(cmdnew1_Click);
+        EXPECT_EQ(game.world.Seen(), "box");
     }
 }
 
-TEST(NewPuzzle, CancelBringsTheOldPuzzleBack) {
-    int moment = 1;
-    for (; moment < 1000; ++moment) {
-        NewGame game("10");
-        game.clock.step = 100;
-        game.events.happen = [&] {
-            if (game.events.count == moment && JobRuns(game)) {
-                game.ExpectFailure();
-                cmdcancel_Click(game);
-                EXPECT_EQ(game.window.texts[Control::pb], " Canceling...");
-            }
-        };
-        cmdnew1_Click(game);
-        if (game.window.texts[Control::pb] == "Puzzle created") break;
-        EXPECT_EQ(game.window.texts[Control::pb], "Could not create new puzzle");
-        game.ExpectOldPuzzle();
+TEST(NewPuzzle, AFileThatRefusesBringsTheOldPuzzleBackIfItIsThere) {
+    NewGame game;
+    std::filesystem::create_directory("temp.txt");
+    for (const bool isThere : {true, false}) {
+        if (!isThere) game.world.Expect("puzzle 2 not found", kInformation);
+        game.world.Expect("Could not create new puzzle\r\ntemp.txt: Is a directory", kInformation);
+        game.world.visible = false;
+        game.Run(cmdnew1_Click);
+        EXPECT_TRUE(game.world.visible);
+        EXPECT_TRUE(
+            game.world.Seen().ends_with("not busy, status: Could not create new puzzle, box, events, board on"));
+        EXPECT_EQ(game.board.puzzle, isThere ? *ParsePuzzleRecord(kSmallPuzzle) : Puzzle({7, 7}));
+        EXPECT_EQ(game.collection.CollectionPath, game.PathOfCollection());
+        std::filesystem::remove("collection.tdw");
     }
-    EXPECT_GT(moment, 10);
-    EXPECT_LT(moment, 1000);
-}
-
-TEST(NewPuzzle, ARefusedFileBringsTheOldPuzzleBack) {
-    NewGame game("10");
-    std::filesystem::create_directory("temp.txt");
-    game.prompts.Expect("Could not create new puzzle\r\ntemp.txt: Is a directory", "vbinformation+vbok", 1);
-    cmdnew1_Click(game);
-    game.ExpectOldPuzzle();
-}
-
-TEST(NewPuzzle, AnOldPuzzleThatIsGoneLeavesAnEmptyBoard) {
-    NewGame game("10");
-    std::filesystem::remove(game.CollectionPath);
-    std::filesystem::create_directory("temp.txt");
-    game.prompts.Expect("puzzle 2 not found", "vbinformation+vbok", 1);
-    game.prompts.Expect("Could not create new puzzle\r\ntemp.txt: Is a directory", "vbinformation+vbok", 1);
-    cmdnew1_Click(game);
-    game.ExpectIdle();
-    EXPECT_EQ(game.IslandGrid(1, 3), -1);
-    EXPECT_EQ(game.LinkCount(), 0);
-}
-
-TEST(NewPuzzle, APuzzleLoadedMeanwhileStays) {
-    NewGame game("25");
-    game.clock.step = 100;
-    game.events.happen = [&] {
-        if (game.events.count == 20) game.Load(1);
-    };
-    cmdnew1_Click(game);
-    EXPECT_EQ(game.PuzzleNumber, 1);
-    EXPECT_EQ(game.IslandGrid(1, 3), 4);
-    EXPECT_EQ(game.window.texts[Control::pb], "");
-    game.ExpectIdle();
-}
-
-TEST(NewPuzzle, DoesNotNestInAJob) {
-    NewGame game("8");
-    game.clock.step = 100;
-    game.events.happen = [&] {
-        if (game.events.count != 1) return;
-        game.prompts.Expect("Cancel Autosolve first", "vbinformation+vbok", 1);
-        cmdnew1_Click(game);
-    };
-    cmdnew1_Click(game);
-    EXPECT_EQ(game.window.texts[Control::pb], "Puzzle created");
-}
-
-TEST(NewPuzzle, AClosedWindowAsksNothingMore) {
-    NewGame game("25");
-    game.clock.step = 100;
-    game.events.happen = [&] { game.ending = true; };
-    cmdnew1_Click(game);
-    EXPECT_FALSE(std::filesystem::exists("temp.txt"));
 }
 
 TEST(Cancel, WithoutAJobEmptiesTheStatusLine) {
-    NewGame game("8");
-    game.window.texts[Control::pb] = "Solved";
-    cmdcancel_Click(game);
-    EXPECT_EQ(game.window.texts[Control::pb], "");
-    EXPECT_EQ(game.CancelFlag, NoValue);
+    NewGame game;
+    game.Run(cmdcancel_Click);
+    EXPECT_EQ(game.world.Seen(), "status: ");
+    EXPECT_FALSE(game.job.CancelFlag());
+}
+
+TEST(BatchWindow, AsksForACountASizeAndAFile) {
+    TestGame game;
+    for (const BatchRequest& bad : {BatchRequest{"0", "9", "9", "a"},
+                                    {"", "9", "9", "a"},
+                                    {"5", "6", "9", "a"},
+                                    {"5", "9", "26", "a"},
+                                    {"5", "", "9", ""},
+                                    {"1", "7", "25", " "},
+                                    {"1", "7", "25", "folder/"}}) {
+        BatchRequest request = bad;
+        game.world.Expect(bad.count == "1" ? "Specify an output file" : "Incorrect Number or Size of Puzzles",
+                          "vbok+vbcritical");
+        EXPECT_FALSE(game.Run(Form3_Command1_Click, request));
+    }
+    for (const auto& [typed, file] : {std::pair{" out ", "out.txt"}, {"o.tdw", "o.tdw"}, {"a.b/c", "a.b/c.txt"}}) {
+        BatchRequest request{"1", "25", "7", typed};
+        EXPECT_TRUE(game.Run(Form3_Command1_Click, request));
+        EXPECT_EQ(request.outputFile, file);
+    }
+    BatchRequest request{"", "", "", "before"};
+    for (const auto& [picked, file] : {std::pair{"", "before"}, {"/some.where/out", "/some.where/out.txt"}}) {
+        game.world.ExpectPick("Select an output Puzzle file|*.txt|Tidewalk Files|save", picked);
+        game.Run(Form3_gf1_Click, request);
+        EXPECT_EQ(request.outputFile, file);
+    }
+}
+
+TEST(Batch, AppendsValidPuzzlesAndACancelCutsOneShort) {
+    NewGame game;
+    game.folder.Write("out.txt", "first\r\n");
+    game.When("Creating puzzle 2 of 3", [&] {
+        EXPECT_TRUE(game.world.frozen && !game.world.enabled);
+        EXPECT_EQ(game.world.picture.calls.size(), 1U);
+        game.Run(cmdcancel_Click);
+    });
+    game.RunBatch("3", "8", "11", true);
+    const Lines lines = LinesOf(game.folder.Read("out.txt"));
+    ASSERT_EQ(lines.size(), 4U);
+    EXPECT_EQ(lines[0], "first");
+    EXPECT_EQ(FaultOfRecord(lines[1], {8, 11}) + FaultOfRecord(lines[3], {8, 11}), "");
+    EXPECT_EQ(lines[2].substr(0, 12), " 8, 11, 0;D;") << "a layout without bridges";
+}
+
+TEST(Batch, WithoutConsentChangesNothing) {
+    NewGame game;
+    game.RunBatch("3", "8", "11", false, kNo);
+    for (const char* count : {"3", "0"}) {
+        game.world.batch = [=](BatchRequest& request) {
+            return request = {count, "8", "8", "out.txt"}, count == std::string("0");
+        };
+        game.Run(mnucreatemany_Click);
+    }
+    EXPECT_EQ(game.world.Seen(), "batch?, box, batch?, batch?");
+}
+
+TEST(Batch, AFileThatRefusesEndsIt) {
+    NewGame game;
+    game.When("Creating puzzle 3 of 5", [&] {
+        std::filesystem::rename("out.txt", "done.txt");
+        std::filesystem::create_directory("out.txt");
+        game.world.Expect(
+            "The puzzles could not all be written:\r\nout.txt: Is a directory\r\n\r\n"
+            "2 of 5 puzzles were written.",
+            kCritical);
+    });
+    game.RunBatch("5", "7", "7");
+    EXPECT_EQ(LinesOf(game.folder.Read("done.txt")).size(), 2U);
+    EXPECT_EQ(game.world.Status(), "");
+}
+
+TEST(RandomBatch, Makes1200PuzzlesOfRandomSizes) {
+    NewGame game;
+    game.world.Expect("done", "system ok");
+    game.Run(Command4_Click);
+    const Lines lines = LinesOf(game.folder.Read("rand1.txt"));
+    const std::string seen = game.world.Seen();
+    ASSERT_EQ(lines.size(), 1200U);
+    int square = 0;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        const Puzzle puzzle = ParsePuzzleRecord(lines[i]).value();
+        const std::string number = std::to_string(i + 1);
+        const std::string status = Format(puzzle.Rows, "00") + Format(puzzle.Cols, "00") + " " + number + " of 1200";
+        ASSERT_NE(seen.find("status: " + status + ","), std::string::npos) << lines[i];
+        square += puzzle.Rows == puzzle.Cols ? 1 : 0;
+    }
+    EXPECT_LT(square, 200);
+    EXPECT_TRUE(seen.ends_with("not busy, box, status: "));
 }
 
 }  // namespace

@@ -2,38 +2,38 @@
 // The collection that ships, as it lies in the data folder.
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <set>
 
-#include "model/load_puzzle.h"
+#include "model/collection_file.h"
 #include "solver/count_solutions.h"
-#include "solver/valid_solution.h"
+#include "solver/solve_puzzle.h"
 #include "support/layout_checker.h"
-#include "support/test_game.h"
 
 namespace tidewalk::test {
 namespace {
 
-TEST(ShippedCollection, EveryPuzzleIsValidAndHasOneSolution) {
-    TestGame game;
-    game.CollectionPath = TIDEWALK_DATA_DIR "/puzzles.txt";
-    const int count = CountLines(game, game.CollectionPath);
+TEST(ShippedCollection, EveryPuzzleIsValidHasOneSolutionAndIsSolved) {
+    const std::string path = TIDEWALK_DATA_DIR "/puzzles.txt";
+    const int count = CountLines(path);
     EXPECT_GE(count, 120);
-    std::ifstream file(game.CollectionPath, std::ios::binary);
     std::set<std::string> records;
     std::set<std::pair<int, int>> sizes;
-    std::string line;
+    SolverBoard board;
+    int choices = 0;
     for (int number = 1; number <= count; ++number) {
-        std::getline(file, line);
-        ASSERT_EQ(line.back(), '\r') << "line " << number;
-        line.pop_back();
-        ASSERT_EQ(game.Load(number), 0);
-        ASSERT_EQ(FaultOfRecord(line, game.Rows, game.Cols), "") << "line " << number;
-        ASSERT_TRUE(IsValidSolution(game)) << "line " << number;
-        ASSERT_EQ(CountSolutions(game.IslandGrid, game.Rows, game.Cols, 2), 1) << "line " << number;
-        EXPECT_TRUE(records.insert(line).second) << "line " << number << " is there twice";
-        sizes.insert({game.Rows, game.Cols});
+        std::string record;
+        ASSERT_TRUE(ReadCollectionLine(path, number, record));
+        const auto puzzle = ReadPuzzle(path, number);
+        ASSERT_TRUE(puzzle) << "line " << number;
+        ASSERT_EQ(FaultOfRecord(record, puzzle->Size()), "") << "line " << number;
+        ASSERT_EQ(CountSolutionsWhile(*puzzle, 2, [&] { return ++choices > 0; }), 1) << "line " << number;
+        EXPECT_TRUE(records.insert(record).second) << "line " << number << " is there twice";
+        sizes.insert({puzzle->Rows, puzzle->Cols});
+        board.Reset(*puzzle);
+        EXPECT_TRUE(SolvePuzzle(board, {}, WithoutEnd).solved) << "line " << number;
+        EXPECT_EQ(ParsePuzzleRecord(PuzzleRecord(PuzzleOf(board))), puzzle) << "line " << number;
     }
+    EXPECT_EQ(choices, 115) << "counting takes the shortest way that it knows";
     EXPECT_TRUE(sizes.count({7, 7}) == 1 && sizes.count({25, 25}) == 1);
     EXPECT_TRUE(sizes.count({7, 25}) == 1 && sizes.count({25, 10}) == 1);
 }

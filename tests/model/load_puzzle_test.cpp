@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
+// Loading puzzles, moving through a collection, opening another one.
 #include "model/load_puzzle.h"
-
-#include <gtest/gtest.h>
-
-#include <random>
 
 #include "model/navigation.h"
 #include "support/test_game.h"
@@ -11,193 +8,161 @@
 namespace tidewalk::test {
 namespace {
 
-constexpr const char* kInformation = "vbinformation+vbok";
+const Lines kRows{"1.2", "...", "3.4", "..."};
 
-std::vector<std::string> LinkTexts(const Game& game) {
-    std::vector<std::string> texts;
-    for (int i = 1; i <= game.LinkCount(); ++i)
-        texts.push_back(Text(game.LinkList[i]));
-    return texts;
-}
+/// A game whose loads may fail.
+struct LoadGame : TestGame {
+    using TestGame::TestGame;
 
-TEST(LoadPuzzle, ReadsNumbersBridgesAndLabels) {
-    TestGame game({kSmallPuzzle, " 7,9 , 0;;1-2......,|.I......,1.4====..4,I........,2........,.........,.........,"});
-    ASSERT_EQ(game.Load(2), 0);
-    EXPECT_EQ(game.Rows, 7);
-    EXPECT_EQ(game.Cols, 9);
-    EXPECT_EQ(game.CellId(2, 1), 10);
-    EXPECT_EQ(game.CellId(8, 1), 0) << "off the board";
-    EXPECT_EQ(game.IslandGrid(8, 1), -1);
-    EXPECT_EQ(game.IslandGrid(1, 10), -1);
-    EXPECT_EQ(game.IslandGrid(26, 26), 0);
-    EXPECT_EQ(game.IslandGrid(1, 2), 0) << "a bridge is water";
-    EXPECT_EQ(game.NumberTotal, 10) << "a character beyond the last column does not count";
-    // Row by row, then the columns' single bridges, then their double ones. A run that ends on water is recorded.
-    EXPECT_EQ(LinkTexts(game), (std::vector<std::string>{"0010031", "0210260", "0010191", "0190370", "0030210"}));
-    EXPECT_EQ(game.window.texts[Control::GridSize], "7x9");
-    EXPECT_EQ(game.window.texts[Control::PuzNumNow], "2");
-    EXPECT_EQ(game.window.texts[Control::PuzNumber], " of 2");
-    EXPECT_EQ(game.window.texts[Control::Puzfile], "collection.tdw");
-    EXPECT_EQ(game.window.toolTips[Control::Puzfile], game.CollectionPath);
-    EXPECT_EQ(game.CellSize, 700) << "9000 twips over 11 cells, brought down to the largest cell";
-}
+    void ExpectNone(int number) { world.Expect("puzzle " + std::to_string(number) + " not found", kInformation); }
+    void ExpectNoLoad(const std::string& path, int number) {
+        ExpectNone(number);
+        EXPECT_FALSE(Run(LoadPuzzle, path, number)) << path;
+    }
+    int After(int index, MouseButton button) {
+        Run(arrows_Click, index, button);
+        return collection.PuzzleNumber;
+    }
+};
 
-TEST(LoadPuzzle, ARunToTheEdgeIsNoBridge) {
-    TestGame game({Record({"1--", "I..", "I.."})});
-    ASSERT_EQ(game.Load(1), 0);
-    EXPECT_EQ(game.LinkCount(), 0);
+TEST(LoadPuzzle, ShowsThePuzzleAndItsLabels) {
+    TestGame game({kSmallPuzzle, Record(kRows)});
+    game.world.container = {2603, 9000};
+    game.Load(2);
+    EXPECT_EQ(game.board.puzzle, PuzzleFrom(kRows));
+    const auto& texts = game.world.texts;
+    EXPECT_EQ(texts.at(WindowText::PuzzleNumber) + texts.at(WindowText::PuzzleCount), "2 of 2");
+    EXPECT_EQ(texts.at(WindowText::BoardSize) + texts.at(WindowText::CollectionName), "4x3collection.tdw");
+    EXPECT_EQ(game.world.toolTips[WindowText::CollectionName], game.PathOfCollection());
+    EXPECT_EQ(game.board.layout.CellSize, 434) << "433.8, a sixth of the width";
+    EXPECT_EQ(game.board.FittedCellSize, 434);
 }
 
 TEST(LoadPuzzle, LeavesNothingOfThePuzzleBefore) {
-    TestGame game({std::string(kSmallPuzzle), Record({"11", "11"})});
-    ASSERT_EQ(game.Load(1), 0);
-    game.BridgeState.Set(1, 625, 2);
-    game.UndoList.push_front({1, 2, 0});
-    game.AnchorRow = game.AnchorCol = game.HoverRow = game.HoverCol = 3;
-    game.Line1.visible = game.Shape1.visible = true;
-    game.OpenNeighbours(1, 1).Append(3);
-    game.CancelFlag = game.BusyFlag = YesValue;
-    ASSERT_EQ(game.Load(2), 0);
-    EXPECT_EQ(game.BridgeState(625, 1), 0);
-    EXPECT_TRUE(game.UndoList.empty());
-    EXPECT_EQ(game.AnchorRow + game.HoverCol, 0);
-    EXPECT_FALSE(game.Line1.visible || game.Shape1.visible);
-    EXPECT_TRUE(game.OpenNeighbours(1, 1).Empty());
-    EXPECT_EQ(game.BusyFlag + game.CancelFlag, 0);
-    EXPECT_EQ(game.CellId(3, 1), 0);
-    EXPECT_EQ(game.LinkCount(), 0);
+    TestGame game({kSmallPuzzle, Record({"11", "11"})});
+    game.Load(1);
+    Board& board = game.board;
+    board.BridgeState.Set(3, 7, 2);
+    board.history.Push({3, 7, 0});
+    board.AnchorRow = board.HoverRow = board.FocusRow = 1;
+    board.AnchorCol = board.HoverCol = board.FocusCol = 3;
+    board.Line1.visible = true;
+    board.Shape1 = {true, {1, 3}};
+    board.OpenNeighbours[3].Append(7);
+    game.world.markerTime = true;
+    game.job.Cancel();
+    game.Load(2);
+    EXPECT_TRUE(board.BridgeState.InBothOrders().empty() && board.history.UndoList().empty());
+    EXPECT_EQ(board.history.Revision(), 3U) << "the window has to show the list anew";
+    EXPECT_EQ(board.AnchorRow + board.AnchorCol + board.HoverRow + board.HoverCol + board.FocusRow, 0);
+    EXPECT_FALSE(board.Line1.visible || board.Shape1.visible || game.job.CancelFlag());
+    EXPECT_TRUE(board.OpenNeighbours[3].Empty());
+    EXPECT_EQ(board.loadCount, 2);
 }
 
 TEST(LoadPuzzle, WhatCannotBeReadLeavesThePuzzleAlone) {
-    TestGame game({kSmallPuzzle});
-    ASSERT_EQ(game.Load(1), 0);
-    const Grid<int> before = game.IslandGrid;
-    const std::string empty = game.folder.Write("empty.tdw", "");
-    const std::string binary = game.folder.Write("binary.tdw", std::string(" 7, 7, 0;\0;", 11));
-    const std::string longLine = game.folder.Write("long.tdw", std::string(10'000'000, '1'));
-    for (const std::string& path : {game.folder.Path("missing"), game.folder.Path(""), empty, binary, longLine}) {
-        game.prompts.Expect("puzzle 1 not found", kInformation, 1);
-        EXPECT_EQ(LoadPuzzle(game, path, 1), 1) << path;
-        game.files.CloseAll();
+    LoadGame game({kSmallPuzzle});
+    game.Load(1);
+    for (const std::string& path : {game.folder.Path("missing"), game.folder.Path(""), game.folder.Write("empty", ""),
+                                    game.folder.Write("binary", std::string(" 7, 7, 0;\0;1", 12))}) {
+        game.ExpectNoLoad(path, 1);
+        CloseFiles(game);
     }
-    game.prompts.Expect("puzzle 0 not found", kInformation, 1);
-    EXPECT_EQ(game.Load(0), 1);
-    EXPECT_EQ(game.IslandGrid, before);
-    EXPECT_EQ(game.PuzzleNumber, 1);
+    game.ExpectNoLoad(game.PathOfCollection(), 0);
+    CloseFiles(game);
+    game.ExpectNoLoad(game.PathOfCollection(), 2);
+    EXPECT_EQ(game.board.puzzle, *ParsePuzzleRecord(kSmallPuzzle));
+    EXPECT_EQ(game.collection.PuzzleNumber, 1);
+    EXPECT_EQ(game.world.Seen(), "box, box, box, box, box, box");
 }
 
-TEST(LoadPuzzle, MalformedRecordsAreNotFound) {
-    const std::vector<std::string> records{"",
-                                           " 7, 7;D;..,",
-                                           " 7, 7, 0;D",
-                                           "26, 7, 0;D;,",
-                                           " 7, 0, 0;D;,",
-                                           " -7, 7, 0;D;,",
-                                           " 7, 7, 0;D;1,1,1,1,1,1",
-                                           "1e99, 7, 0;D;,"};
-    for (const std::string& record : records) {
-        TestGame game({record});
-        game.Rows = 3;
-        game.prompts.Expect("puzzle 1 not found", kInformation, 1);
-        EXPECT_EQ(game.Load(1), 1) << record;
-        EXPECT_TRUE(game.Rows == 3 || game.Rows == 7) << record;
-    }
-    TestGame game({" 7 ,+7.5, x;;1,1,1,1,1,1,1"});
-    EXPECT_EQ(game.Load(1), 0) << "blanks, signs, fractions and short rows are fine";
-    EXPECT_EQ(game.Cols, 8) << "halves go to even";
+TEST(LoadPuzzle, AMalformedRecordLeavesWhatCouldBeReadOfIt) {
+    LoadGame game({kSmallPuzzle, " 3, 3, 0;D;12.,3.4", " 3;D;1"});
+    game.Load(1);
+    game.ExpectNoLoad(game.PathOfCollection(), 2);
+    EXPECT_EQ(game.Numbers(), (Lines{"12.", "3.4", "..."}));
+    game.ExpectNone(3);
+    game.Run(ReloadPuzzle, game.PathOfCollection(), 3);
+    EXPECT_EQ(game.board.puzzle, Puzzle({3, 3}));
+    EXPECT_FALSE(game.collection.leftOpen);
+    game.ExpectNoLoad(game.PathOfCollection(), 3);
+    EXPECT_EQ(game.board.puzzle, Puzzle({3, 3}));
+    EXPECT_EQ(game.world.Text(WindowText::BoardSize), "7x7");
+    game.ExpectNone(9);
+    game.Run(ReloadPuzzle, game.PathOfCollection(), 9);
+    game.Run(ReloadPuzzle, game.PathOfCollection(), 1);
+    EXPECT_GT(game.board.puzzle.IslandCount(), 0);
 }
 
 TEST(LoadPuzzle, AFailureBlocksTheNextLoadUntilTheFilesAreClosed) {
-    TestGame game({kSmallPuzzle, "broken", kSmallPuzzle});
-    ASSERT_EQ(game.Load(1), 0);
-    game.prompts.Expect("puzzle 2 not found", kInformation, 1);
-    game.prompts.Expect("puzzle 1 not found", kInformation, 1);
-    arrows_Click(game, 2, MouseButton::Left);
-    EXPECT_EQ(game.PuzzleNumber, 1);
-    arrows_Click(game, 2, MouseButton::Right);
-    EXPECT_EQ(game.PuzzleNumber, 3) << "an arrow counts the lines, which closes the files";
-}
-
-TEST(CountLines, CountsALastLineWithoutAnEnd) {
-    TestGame game;
-    EXPECT_EQ(CountLines(game, game.folder.Write("a", "1\r\n2\n\n4")), 4);
-    EXPECT_EQ(CountLines(game, game.folder.Write("a", "1\n")), 1);
-    EXPECT_EQ(CountLines(game, game.folder.Path("missing")), 0);
+    LoadGame game({kSmallPuzzle, "broken", kSmallPuzzle});
+    game.Load(1);
+    game.ExpectNone(2);
+    game.ExpectNone(1);
+    game.Run(arrows_Click, 2, MouseButton::Left);
+    game.ExpectNone(3);
+    game.ExpectNone(1);
+    game.TypeNumber("3");
+    EXPECT_EQ(game.After(2, MouseButton::Right), 3) << "an arrow counts the lines, which closes the file";
+    game.ExpectNoLoad(game.folder.Path("missing"), 1);
+    game.Load(1);
+    EXPECT_EQ(game.collection.PuzzleNumber, 1) << "what cannot be opened is not open";
 }
 
 TEST(Arrows, StepAndWrapWithBothButtons) {
-    TestGame game({kSmallPuzzle, kSmallPuzzle, kSmallPuzzle});
-    ASSERT_EQ(game.Load(1), 0);
-    const auto after = [&](int index, MouseButton button) {
-        arrows_Click(game, index, button);
-        return game.PuzzleNumber;
-    };
-    EXPECT_EQ(after(0, MouseButton::Left), 3);
-    EXPECT_EQ(after(2, MouseButton::Left), 1);
-    EXPECT_EQ(after(2, MouseButton::Right), 3);
-    EXPECT_EQ(after(0, MouseButton::Right), 1);
-    EXPECT_EQ(after(0, MouseButton::Middle), 1);
-    std::vector<int> drawn(4);
+    LoadGame game({kSmallPuzzle, kSmallPuzzle, kSmallPuzzle});
+    EXPECT_EQ(game.After(2, MouseButton::Left), 0) << "there is nowhere to go yet";
+    game.Load(1);
+    EXPECT_EQ(game.After(0, MouseButton::Left), 3);
+    EXPECT_EQ(game.After(0, MouseButton::Left), 2);
+    EXPECT_EQ(game.After(2, MouseButton::Left), 3);
+    EXPECT_EQ(game.After(2, MouseButton::Left), 1);
+    EXPECT_EQ(game.After(2, MouseButton::Right), 3);
+    EXPECT_EQ(game.After(0, MouseButton::Right), 1);
+    game.world.Seen();
+    game.After(0, MouseButton::Middle);
+    game.After(3, MouseButton::Left);
+    EXPECT_EQ(game.world.Seen(), "");
+    std::map<int, int> drawn;
     for (int i = 0; i < 60; ++i)
-        ++drawn[after(1, MouseButton::Left)];
+        ++drawn[game.After(1, MouseButton::Left)];
     EXPECT_TRUE(drawn[1] > 5 && drawn[2] > 5 && drawn[3] > 5);
-    game.BusyFlag = YesValue;
-    game.prompts.Expect("Cancel Autosolve first", kInformation, 1);
-    arrows_Click(game, 2, MouseButton::Left);
+    game.Load(1);
+    game.folder.Write("collection.tdw", kSmallPuzzle);
+    EXPECT_EQ(game.After(2, MouseButton::Left), 1) << "the lines are counted again";
+    EXPECT_EQ(game.world.Seen(), "number: 1, status: ");
+    game.After(2, MouseButton::Left);
+    EXPECT_EQ(game.world.Seen(), "") << "the only puzzle is there already";
 }
 
 TEST(PuzNumNow, OnlyEnterAndNumbersInRangeLoad) {
     TestGame game({kSmallPuzzle, kSmallPuzzle});
-    ASSERT_EQ(game.Load(1), 0);
-    for (const char* text : {"0", "3", "-1", "x", ""}) {
-        game.window.texts[Control::PuzNumNow] = text;
-        PuzNumNow_KeyPress(game, kEnterKey);
-        EXPECT_EQ(game.window.texts[Control::PuzNumNow], text);
-    }
-    game.window.texts[Control::PuzNumNow] = "1.6";
-    PuzNumNow_KeyPress(game, '2');
-    EXPECT_EQ(game.PuzzleNumber, 1);
-    PuzNumNow_KeyPress(game, kEnterKey);
-    EXPECT_EQ(game.PuzzleNumber, 2);
+    game.Load(2);
+    for (const char* text : {"0", "3", "-1", "x", ""})
+        game.TypeNumber(text);
+    game.world.texts[WindowText::PuzzleNumber] = "1.4";
+    game.Run(PuzNumNow_KeyPress, '2');
+    EXPECT_EQ(game.world.Seen(), "");
+    game.Run(PuzNumNow_KeyPress, kEnterKey);
+    game.TypeNumber("2");
+    EXPECT_EQ(game.world.Seen(), "number: 1, status: , number: 2, status: ");
 }
 
 TEST(OpenFile, AFailedOpenDoesNotBringThePuzzleBack) {
-    TestGame game({kSmallPuzzle});
-    ASSERT_EQ(game.Load(1), 0);
-    game.filePicker.Answer("");
-    mnuloadpuz_Click(game);
-    game.filePicker.Answer(game.folder.Write("bad.tdw", "7,7,0;D;1,\r\n"));
-    game.prompts.Expect("puzzle 1 not found", kInformation, 1);
-    cmdload_Click(game);
-    EXPECT_EQ(game.window.pointer, Pointer::Default);
-    EXPECT_NE(game.CollectionPath, game.folder.Path("bad.tdw"));
-    EXPECT_EQ(game.filePicker.requests.back().title, "Tidewalk");
-    EXPECT_EQ(game.filePicker.requests.back().patterns, "*.tdw;*.txt;*.dat");
-}
-
-TEST(LoadPuzzle, AFileWithoutLinesDoesNotFillTheMemory) {
-    TestGame game;
-    const std::string path = game.folder.Write("huge.tdw", "7,7,0");
-    std::error_code error;
-    std::filesystem::resize_file(path, std::uintmax_t{1} << 36U, error);
-    if (error) GTEST_SKIP() << "no room for a sparse file: " << error.message();
-    game.prompts.Expect("puzzle 1 not found", kInformation, 1);
-    EXPECT_EQ(LoadPuzzle(game, path, 1), 1);
-}
-
-TEST(LoadPuzzle, RandomBytesNeverLeaveTheBoard) {
-    std::mt19937 random(5);
-    const std::string alphabet = "0123456789,;;,,.-=|I \r\n\t\0x\xFF+e";
-    for (int round = 0; round < 300; ++round) {
-        TestGame game;
-        std::string bytes = round % 2 == 0 ? " 7, 7, 0;D;" : "";
-        for (int i = 0; i < 200; ++i)
-            bytes += alphabet[random() % alphabet.size()];
-        const std::string path = game.folder.Write("random.tdw", bytes);
-        game.prompts.AnswerAll(1);
-        LoadPuzzle(game, path, 1 + round % 3);
-        game.board.RedrawBoard(game, round % 2 == 0);
+    LoadGame game({kSmallPuzzle, kSmallPuzzle});
+    game.Load(2);
+    const std::string good = game.folder.Write("good.tdw", Joined({Record({"1-1"}), Record({"2=2"})}));
+    for (const std::string& path : {std::string(), game.folder.Write("bad.tdw", "3,3,0;D;1,\r\n"), good}) {
+        game.world.ExpectPick("Tidewalk|*.tdw;*.txt;*.dat|Tidewalk Files|open", path);
+        if (path.ends_with("bad.tdw")) game.ExpectNone(1);
+        path == good ? game.Run(mnuloadpuz_Click) : game.Run(cmdload_Click);
+        EXPECT_EQ(game.collection.CollectionPath, path == good ? good : game.PathOfCollection());
+        CloseFiles(game);
     }
+    EXPECT_EQ(game.world.Seen(),
+              "pick, pick, busy, box, status: , not busy, pick, busy, number: 1, status: , not busy");
+    EXPECT_EQ(game.collection.PuzzleCount, 2);
+    EXPECT_EQ(game.Numbers(), Lines{"1.1"});
 }
 
 }  // namespace

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: MIT
+// Numbers, the small types that stand for texts, paths and random draws.
 #include "model/numbers.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-#include "model/board_state.h"
 #include "model/cell_words.h"
-#include "model/link_table.h"
+#include "model/characters.h"
+#include "model/link.h"
+#include "model/paths.h"
+#include "model/puzzle.h"
 #include "model/random_source.h"
-#include "support/doubles.h"
+#include "support/temp_folder.h"
 
 namespace tidewalk::test {
 namespace {
@@ -18,94 +21,121 @@ TEST(Numbers, BecomeText) {
     EXPECT_EQ(Str(12) + Str(-3) + Str(0), " 12-3 0");
     EXPECT_EQ(NumText(12) + NumText(-3), "12-3");
     EXPECT_EQ(Format(7, "000") + Format(1234, "000") + Format(-7, "00"), "0071234-07");
+    EXPECT_EQ(LowerCase("AZ[z 9"), "az[z 9");
+    EXPECT_EQ(Trim(" \t a b\t "), "a b");
+    EXPECT_EQ(Trim("  "), "");
 }
 
 TEST(Numbers, AreReadAsFarAsTheyGo) {
-    EXPECT_EQ(Val(" 1 2abc"), 12);
-    EXPECT_EQ(Val("-3.5x"), -3.5);
-    EXPECT_EQ(Val("1e2"), 100);
-    EXPECT_EQ(Val("2e"), 2);
-    EXPECT_EQ(Val(".5"), 0.5);
-    for (const char* none : {"", " ", "x5", "-", ".", "e5", "|", "="})
+    const std::pair<const char*, double> cases[] = {
+        {" 1 2abc", 12}, {"-3.5x", -3.5}, {"+4", 4},    {"1e2", 100}, {"2e", 2}, {"1d-1x", 0.1}, {"1 E + 1", 10},
+        {".5", 0.5},     {"1.5.5", 1.5},  {"- 7", -7},  {"7", 7},     {"0", 0},  {"9", 9},       {"\t8", 8},
+        {"--1", 0},      {"1-1", 1},      {"12/3", 12}, {"1:2", 1},   {"2e+", 2}};
+    for (const auto& [text, value] : cases)
+        EXPECT_EQ(Val(text), value) << text;
+    for (const char* none : {"", " ", "x5", "-", ".", "e5", "|", "=", ":", "/"})
         EXPECT_EQ(Val(none), 0) << none;
     EXPECT_EQ(RoundedVal("1e999"), std::numeric_limits<int>::max());
-    EXPECT_EQ(RoundedVal("-99999999999"), std::numeric_limits<int>::min());
-    EXPECT_EQ(RoundedVal("1e-999"), 0);
+    EXPECT_EQ(RoundedVal("-1e999"), std::numeric_limits<int>::min());
+    EXPECT_EQ(Val("1e-999"), 0);
     EXPECT_EQ(RoundedVal(std::string(400, '9')), std::numeric_limits<int>::max());
 }
 
 TEST(Numbers, RoundHalvesToEven) {
-    EXPECT_EQ(RoundHalfEven(2.5), 2);
-    EXPECT_EQ(RoundHalfEven(3.5), 4);
-    EXPECT_EQ(RoundHalfEven(-2.5), -2);
-    EXPECT_EQ(RoundHalfEven(62.5), 62);
+    const std::pair<double, int> cases[] = {{2.5, 2}, {3.5, 4}, {-2.5, -2}, {2.51, 3}, {-99999999999., -2147483648}};
+    for (const auto& [value, rounded] : cases)
+        EXPECT_EQ(RoundHalfEven(value), rounded);
+    EXPECT_EQ(RoundedVal("62.5"), 62);
+}
+
+TEST(Characters, AreTakenWholeAndBrokenOnesByteByByte) {
+    const std::pair<const char*, int> cases[] = {
+        {"", 0},         {"ab", 2},           {"\xC3\xBCx", 2}, {"\xE2\x82\xAC", 1},     {"\xF0\x9F\x8C\x8A.", 2},
+        {"\xC3", 1},     {"\xC3x", 2},        {"\xE2\x82", 2},  {"\x80\x80", 2},         {"\xFF\x80", 2},
+        {"\xF8\x80", 2}, {"\xDF\xBF\x7F", 2}, {"\xC3\xC3", 2},  {"\xF7\xBF\xBF\xBF", 1}, {"\xEF\xBF\xBD", 1}};
+    for (const auto& [text, count] : cases)
+        EXPECT_EQ(CharacterCount(text), count) << text;
+    std::string_view text = "\xE2\x82\xAC.";
+    EXPECT_EQ(TakeCharacter(text), "\xE2\x82\xAC");
+    EXPECT_EQ(text, ".");
 }
 
 TEST(Words, PrintAndParseTheirTextForms) {
     NeighbourList open;
-    open.Append(12);
-    open.Append(45);
-    EXPECT_EQ(Text(open), "012 045 ");
-    EXPECT_EQ(ParseNeighbourList("012 045 "), open);
-    for (const char* bad : {"012", "12  ", "012 045 001 002 003 ", "abc ", "626 "})
+    for (const CellNumber id : {12, 7, 625})
+        open.Append(id);
+    open.Remove(7);
+    EXPECT_EQ(Text(open), "012 625 ");
+    EXPECT_EQ(ParseNeighbourList("012 625 "), open);
+    EXPECT_EQ(ParseNeighbourList("001 002 003 004 ")->Count(), 4);
+    for (const char* bad : {"012", "12  ", "012 045 001 002 003 ", "abc ", "626 ", "000 ", "012x"})
         EXPECT_FALSE(ParseNeighbourList(bad)) << bad;
 
-    JoinedList joined;
-    joined.Append(12);
-    joined.Append(7);
-    EXPECT_EQ(Text(joined), " 12, 7,");
-    EXPECT_EQ(ParseJoinedList(" 12, 7,"), joined);
-    EXPECT_FALSE(ParseJoinedList("12,"));
-    EXPECT_FALSE(ParseJoinedList(" 12"));
+    const auto joined = ParseJoinedList(" 12, 7,");
+    EXPECT_EQ(Text(joined.value()), " 12, 7,");
+    EXPECT_NE(ParseJoinedList(" 7, 12,"), joined);
+    for (const char* bad : {"12,", " 12", " 626,", " 0,"})
+        EXPECT_FALSE(ParseJoinedList(bad)) << bad;
 
     EXPECT_EQ(Text(Link{12, 15, 1}), "0120151");
     EXPECT_EQ(ParseLink("0120151"), (Link{12, 15, 1}));
-    for (const char* bad : {"0120153", "012015", "0 20151", "6260011"})
+    EXPECT_TRUE(ParseLink("6250002"));
+    for (const char* bad : {"0120153", "012015", "0 20151", "6260011", "0016261", "00100 1"})
         EXPECT_FALSE(ParseLink(bad)) << bad;
-
-    EXPECT_EQ(Text(UndoRecord{12, 15, 1}), " 12, 15, 1");
-    EXPECT_EQ(ParseUndoRecord(" 12, 15, 1"), (UndoRecord{12, 15, 1}));
-    for (const char* bad : {" 12, 15", "12, 15, 1", " 12, 15, 3", " 12, 15, 1, 1"})
-        EXPECT_FALSE(ParseUndoRecord(bad)) << bad;
 }
 
-TEST(LinkTable, FindsTheFirstEntryOfAPairInEitherOrder) {
-    LinkTable links;
-    links.Clear(9);
-    links.Append(1, 4, 2);
-    links.Append(1, 10, 1);
-    links.Append(4, 1, 0);
-    EXPECT_EQ(links.Find(1, 4), 1);
-    EXPECT_EQ(links.Find(4, 1), 1);
-    EXPECT_EQ(links.Find(10, 1), 2);
-    EXPECT_EQ(links.Find(1, 5), 0);
-    EXPECT_EQ(links.Find(1, 19), 0);
-    for (int i = 0; i < 3000; ++i)
-        links.Append(20, 21, 2);
-    EXPECT_EQ(links.Count(), LinkTable::kCapacity);
+TEST(Puzzles, AreValuesThatKnowTheirCells) {
+    Puzzle puzzle({7, 9});
+    EXPECT_EQ(puzzle.CellId(2, 1), 10);
+    EXPECT_EQ(puzzle.PlaceOf(63), (CellPlace{7, 9}));
+    EXPECT_EQ(puzzle.MaxDim(), 9);
+    puzzle.SetIsland(10, 3);
+    puzzle.SetIsland(63, 2);
+    puzzle.LinkList.push_back(MakeLink(10, 63, 1));
+    EXPECT_EQ(puzzle.NumberTotal() * 10 + puzzle.IslandCount(), 52);
+    EXPECT_EQ(puzzle.IslandGrid(2, 1), 3);
+    for (const auto& [row, col] : {std::pair{1, 10}, {3, 0}, {0, 10}, {8, -17}})
+        EXPECT_EQ(puzzle.IslandGrid(row, col), 0) << "off the board";
+    EXPECT_NE(WithoutLinks(puzzle), puzzle);
+    EXPECT_EQ(WithoutLinks(puzzle).LinkCount(), 0);
+}
+
+TEST(Paths, GetAnExtensionOnlyWithoutAnyDot) {
+    const TempFolder folder;
+    std::string name = "/a/b";
+    AddExtension(name, "txt");
+    EXPECT_EQ(name, "/a/b.txt");
+    name = "/a.d/b";
+    AddExtension(name, "txt");
+    EXPECT_EQ(name, "/a.d/b");
+    EXPECT_EQ(FileNameOf("/a/b.tdw") + FileNameOf("c"), "b.tdwc");
+    EXPECT_EQ(WithSeparator("/") + WithSeparator("/a") + WithSeparator(""), "//a//");
+    EXPECT_EQ(FileLength(folder.Write("three", "abc")), 3U);
+    EXPECT_EQ(FileLength("missing"), 0U);
 }
 
 TEST(RandomSource, DrawsDifferWithinATickAndRepeatWithASeed) {
-    ClockDouble clock;
-    RandomSource random(clock);
+    int readings = 0;
+    RandomSource random([&] { return ++readings, 5.0; });
     std::vector<int> counts(10);
     for (int i = 0; i < 10000; ++i)
-        ++counts[random.Draw(10)];
+        ++counts[static_cast<std::size_t>(random.Draw(10))];
     for (const int count : counts)
         EXPECT_NEAR(count, 1000, 150);
+    EXPECT_EQ(readings, 1 + 10000 / 16) << "the clock is slow, and read for every sixteenth draw";
 
-    RandomSource first(clock);
-    first.UseSeed(42);
-    clock.seconds = 5;
-    RandomSource second(clock);
-    second.UseSeed(42);
-    for (int i = 0; i < 100; ++i)
-        ASSERT_EQ(first.Draw(1000), second.Draw(1000));
-    second.UseSeed(1);
+    RandomSource later([] { return 6.0; });
+    RandomSource earlier([] { return 5.0; });
+    EXPECT_NE(later.Draw(1000000), earlier.Draw(1000000));
+    EXPECT_TRUE(SystemTimeOfDay() >= 0 && SystemTimeOfDay() < 86400);
+
     // The same on every machine and with every standard library.
-    EXPECT_EQ(second.Draw(1000), 341);
-    EXPECT_EQ(second.Draw(1000), 301);
-    EXPECT_EQ(second.Draw(1000), 642);
+    later.UseSeed(1);
+    for (RandomSource* seeded : {&later, &random}) {
+        seeded->UseSeed(1);
+        for (const int drawn : {341, 301, 642})
+            EXPECT_EQ(seeded->Draw(1000), drawn);
+    }
 }
 
 }  // namespace

@@ -5,7 +5,8 @@
 
 #include <filesystem>
 
-#include "support/test_game.h"
+#include "model/file_error.h"
+#include "support/temp_folder.h"
 
 namespace tidewalk::test {
 namespace {
@@ -16,8 +17,8 @@ void WriteNew(std::ostream& out) {
     out << "new\r\n";
 }
 
-int FilesIn(const fs::path& folder) {
-    return static_cast<int>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+std::string Replaced(const std::string& path, const std::function<void(std::ostream&)>& write = WriteNew) {
+    return Refusal([&] { ReplaceFile(path, write); });
 }
 
 TEST(ReplaceFile, MakesOrReplacesTheFileAndKeepsItsPermissions) {
@@ -30,21 +31,32 @@ TEST(ReplaceFile, MakesOrReplacesTheFileAndKeepsItsPermissions) {
     ReplaceFile(old.string(), WriteNew);
     EXPECT_EQ(folder.Read("old.txt"), "new\r\n");
     EXPECT_EQ(fs::status(old).permissions(), rights);
-    EXPECT_EQ(FilesIn("."), 2);
+    EXPECT_EQ(folder.Entries(), 2);
 }
 
 TEST(ReplaceFile, AFailureInTheMiddleKeepsTheOldFileAndLeavesNothingBeside) {
     const TempFolder folder;
     folder.Write("old.txt", "old");
-    EXPECT_THROW(ReplaceFile("old.txt",
-                             [](std::ostream& out) {
-                                 out << "half";
-                                 throw FileError("source: gone");
-                             }),
-                 FileError);
-    EXPECT_THROW(ReplaceFile("old.txt", [](std::ostream& out) { out.setstate(std::ios::badbit); }), FileError);
+    EXPECT_EQ(Replaced("old.txt",
+                       [](std::ostream& out) {
+                           out << "half";
+                           throw FileError("source: gone");
+                       }),
+              "source: gone");
+    EXPECT_EQ(Replaced("old.txt", [](std::ostream& out) { out.setstate(std::ios::badbit); }),
+              "old.txt: Input/output error");
     EXPECT_EQ(folder.Read("old.txt"), "old");
-    EXPECT_EQ(FilesIn("."), 1);
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(ReplaceFile, LeavesAloneWhatAnotherProgramPutBeside) {
+    const TempFolder folder;
+    folder.Write("a.new1", "another's");
+    ReplaceFile("a", WriteNew);
+    EXPECT_EQ(folder.Read("a") + folder.Read("a.new1"), "new\r\nanother's");
+    for (int i = 2; i <= 100; ++i)
+        folder.Write("a.new" + std::to_string(i), "");
+    EXPECT_EQ(Replaced("a"), "a: File exists");
 }
 
 TEST(ReplaceFile, FollowsLinksAlsoToAFileThatIsNotThereYet) {
@@ -56,21 +68,16 @@ TEST(ReplaceFile, FollowsLinksAlsoToAFileThatIsNotThereYet) {
     EXPECT_EQ(folder.Read("sub/real.txt"), "new\r\n");
     EXPECT_TRUE(fs::is_symlink("first"));
     fs::create_symlink("round", "round");
-    EXPECT_THROW(ReplaceFile("round", WriteNew), FileError);
+    EXPECT_EQ(Replaced("round"), "round: Too many levels of symbolic links");
 }
 
 TEST(ReplaceFile, RefusesWhatIsNoPlainFileAndNamesTheReason) {
     const TempFolder folder;
     fs::create_directory("sub");
-    EXPECT_THROW(ReplaceFile("sub", WriteNew), FileError);
-    EXPECT_THROW(ReplaceFile("/dev/full", WriteNew), FileError);
-    try {
-        ReplaceFile("missing/new.txt", WriteNew);
-        ADD_FAILURE() << "a missing folder was accepted";
-    } catch (const FileError& error) {
-        EXPECT_STREQ(error.what(), "missing/new.txt: No such file or directory");
-    }
-    EXPECT_EQ(FilesIn("."), 1);
+    EXPECT_EQ(Replaced("sub"), "sub: Is a directory");
+    EXPECT_EQ(Replaced("/dev/full"), "/dev/full: Invalid argument");
+    EXPECT_EQ(Replaced("missing/new.txt"), "missing/new.txt: No such file or directory");
+    EXPECT_EQ(folder.Entries(), 1);
 }
 
 }  // namespace

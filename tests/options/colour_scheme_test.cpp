@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "options/colour_scheme.h"
 
-#include <gtest/gtest.h>
-
-#include <fstream>
 #include <random>
 
-#include "model/contrast.h"
+#include "drawing/contrast.h"
 #include "options/window_colours.h"
 #include "support/test_game.h"
 
@@ -20,163 +17,165 @@ std::string Scheme(const std::string& name, int firstRed, int entries = 13) {
     return text;
 }
 
-void UseColours(TestGame& game, const std::string& bytes) {
-    game.ColourListPath = game.folder.Write("all.col", bytes);
-}
+/// A game with these schemes.
+struct SchemeGame : TestGame {
+    explicit SchemeGame(const std::string& bytes) { ColourListPath = folder.Write("all.col", bytes); }
+
+    /// Loads a scheme and gives it to the windows; returns the background that was loaded.
+    Colour Wear(const std::string& name) {
+        Colour back = 77;
+        options.ColourSchemeName = name;
+        Run(LoadColourScheme, name, back);
+        Run(ApplyColourScheme);
+        return back;
+    }
+    Colour Entry(std::size_t at) const { return options.SchemeColours[at]; }
+    WindowColours Windows() const { return ColoursOfWindows(options, world); }
+};
 
 TEST(ColourScheme, IsFoundByItsExactName) {
-    TestGame game;
-    UseColours(game, Scheme("a.col", 10) + Scheme("b.col", 100));
-    Colour back = 0;
-    LoadColourScheme(game, "b.col", back);
-    EXPECT_EQ(back, Rgb(102, 2, 3));
-    EXPECT_EQ(game.SchemeColours[12], Rgb(112, 2, 3));
-    game.prompts.Expect("Color Scheme: B.col not found", "vbcritical+vbok", 1);
-    LoadColourScheme(game, "B.col", back);
-    EXPECT_EQ(back, 0U);
-    EXPECT_EQ(game.ColourSchemeName, "default.col");
-    EXPECT_EQ(game.events.count, 1);
-    EXPECT_EQ(game.SchemeColours[12], Rgb(112, 2, 3));
+    SchemeGame game(Scheme("a.col", 10) + Scheme("b.col", 100));
+    EXPECT_EQ(game.Wear("b.col"), Rgb(102, 2, 3));
+    EXPECT_EQ(game.Entry(0), Rgb(100, 2, 3));
+    EXPECT_EQ(game.Entry(12), Rgb(112, 2, 3));
+    game.world.Expect("Color Scheme: B.col not found", "vbcritical+vbok");
+    EXPECT_EQ(game.Wear("B.col"), 0U);
+    EXPECT_EQ(game.options.ColourSchemeName, "default.col");
+    EXPECT_EQ(game.world.Seen(), "colours, box, events, colours");
+    game.ColourListPath = game.folder.Path("");
+    game.world.Expect("Color Scheme: a.col not found", "vbcritical+vbok");
+    game.Wear("a.col");
 }
 
 TEST(ColourScheme, CutShortItKeepsTheOldEntriesAndTakesNoneOfTheNextScheme) {
-    for (const std::string& next : {std::string(), Scheme("b.col", 100), std::string("\r\n9;9;9\r\n")}) {
-        TestGame game;
-        UseColours(game, Scheme("a.col", 10, 4) + next);
-        game.SchemeColours.fill(77);
-        Colour back = 0;
-        LoadColourScheme(game, "a.col", back);
-        EXPECT_EQ(game.SchemeColours[3], Rgb(13, 2, 3));
-        for (std::size_t i = 4; i < 14; ++i)
-            EXPECT_EQ(game.SchemeColours[i], 77U);
+    for (const char* next : {"", "b.col\r\n9;9;9\r\n", "\r\n9;9;9\r\n", "9;9\r\n9;9;9\r\n"}) {
+        SchemeGame game("a.col\n-5;300;x;9\n 1 ; 2 ;1e99\n" + std::string(next));
+        game.options.SchemeColours.fill(77);
+        EXPECT_EQ(game.Wear("a.col"), 77U);
+        EXPECT_EQ(game.Entry(0), Rgb(0, 255, 0)) << "channels stay within a byte";
+        EXPECT_EQ(game.Entry(1), Rgb(1, 2, 255));
+        for (std::size_t i = 2; i < kSchemeEntries; ++i)
+            EXPECT_EQ(game.Entry(i), 77U);
     }
 }
 
-TEST(ColourScheme, ChannelsStayWithinAByte) {
-    TestGame game;
-    UseColours(game, "a.col\n-5;300;x;9\n 1 ; 2 ;1e99\n");
-    Colour back = 0;
-    LoadColourScheme(game, "a.col", back);
-    EXPECT_EQ(game.SchemeColours[0], Rgb(0, 255, 0));
-    EXPECT_EQ(game.SchemeColours[1], Rgb(1, 2, 255));
-}
-
-TEST(ColourScheme, TheAdjustedFaceOutlivesTheFile) {
-    TestGame game;
-    UseColours(game, Scheme("a.col", 10));
-    game.ColourSchemeName = "a.col";
-    Colour back = 0;
-    LoadColourScheme(game, "a.col", back);
-    ApplyColourScheme(game);
-    EXPECT_EQ(game.SchemeColours[13], Rgb(14, 2, 3));
-    AdjustBrightness(game, 2);
-    EXPECT_EQ(game.SchemeColours[4], Rgb(24, 12, 13));
-    LoadColourScheme(game, "a.col", back);
-    ApplyColourScheme(game);
-    EXPECT_EQ(game.SchemeColours[4], Rgb(24, 12, 13));
-    EXPECT_EQ(game.Picture1BackColor, Rgb(12, 2, 3));
-    EXPECT_EQ(game.window.timesColoured, 2);
-}
-
-TEST(ColourScheme, BrightnessStopsAtWhiteAndNearBlack) {
-    Options options;
-    options.SchemeColours[4] = Rgb(255, 250, 12);
-    AdjustBrightness(options, 2);
-    EXPECT_EQ(options.SchemeColours[4], Rgb(255, 255, 22));
-    for (int i = 0; i < 30; ++i)
-        AdjustBrightness(options, 1);
-    EXPECT_EQ(options.SchemeColours[4], Rgb(10, 10, 10));
-    EXPECT_EQ(options.SchemeColours[13], Rgb(10, 10, 10));
+TEST(ColourScheme, TheAdjustedFaceOutlivesTheFileAndStopsAtWhiteAndNearBlack) {
+    SchemeGame game(Scheme("a.col", 10));
+    game.options.AdjustIndex = 7;
+    game.Wear("a.col");
+    EXPECT_EQ(game.Entry(kAdjustedEntry), Rgb(14, 2, 3));
+    EXPECT_EQ(game.options.NodeColour, kDefaultNodeColour);
+    AdjustBrightness(game.options, 2);
+    game.Wear("a.col");
+    EXPECT_EQ(game.Entry(kFaceEntry), Rgb(24, 12, 13));
+    AdjustBrightness(game.options, 0);
+    EXPECT_EQ(game.Entry(kFaceEntry), Rgb(24, 12, 13));
+    AdjustBrightness(game.options, 1);
+    EXPECT_EQ(game.Entry(kFaceEntry), Rgb(14, 10, 10));
+    for (int i = 0; i < 25; ++i)
+        AdjustBrightness(game.options, 2);
+    EXPECT_EQ(game.Entry(kFaceEntry), Rgb(255, 255, 255));
+    EXPECT_EQ(game.Entry(kAdjustedEntry), kWhite);
 }
 
 TEST(ColourScheme, TheDefaultFollowsTheDesktopInAnyLetterCase) {
-    TestGame game;
-    game.ColourSchemeName = "DEFAULT.Col";
-    Colour back = 0;
-    LoadColourScheme(game, game.ColourSchemeName, back);
-    EXPECT_EQ(back, game.window.desktop[DesktopColour::ListBackground]);
-    ApplyColourScheme(game);
-    EXPECT_EQ(game.SchemeColours[2], game.window.desktop[DesktopColour::WindowFace]);
-    EXPECT_EQ(game.SchemeColours[3], game.window.desktop[DesktopColour::ListBackground]);
-    EXPECT_EQ(game.SchemeColours[4], kWhite);
-    EXPECT_EQ(game.ChainColour, kDefaultChainColour);
-    EXPECT_EQ(game.GridColour, kDefaultNodeColour);
-    EXPECT_EQ(game.NodeColour, kDefaultNodeColour);
+    SchemeGame game("");
+    const auto& desktop = game.world.desktop;
+    Options loaded;
+    loaded.AdjustIndex = 5;
+    Colour list = 0;
+    ReadColourScheme(game, "DEFAULT.Col", list, loaded);
+    EXPECT_EQ(list, desktop.at(DesktopColour::ListBackground));
+    EXPECT_EQ(loaded.SchemeColours[kBackgroundEntry], list);
+    EXPECT_EQ(loaded.SchemeColours[5], list);
+    EXPECT_EQ(loaded.SchemeColours[kOutlineEntry], desktop.at(DesktopColour::WindowFace));
+    game.options.GivenColour = kBlack;
+    EXPECT_EQ(game.Wear("DEFAULT.Col"), list);
+    EXPECT_EQ(game.Entry(kBackgroundEntry), desktop.at(DesktopColour::WindowFace));
+    EXPECT_EQ(game.Entry(kOutlineEntry), list);
+    EXPECT_EQ(game.Entry(kFaceEntry), kWhite);
+    EXPECT_EQ(game.options.ChainColour, kDefaultChainColour);
+    EXPECT_EQ(game.options.GridColour, kDefaultNodeColour);
+    EXPECT_EQ(game.options.GivenColour, kBlack) << "the player's own";
+    EXPECT_EQ(game.Windows().face, desktop.at(DesktopColour::ButtonFace));
+    EXPECT_EQ(game.Windows().frame, list);
+    EXPECT_EQ(game.Windows().highlight, desktop.at(DesktopColour::Highlight));
+    AdjustBrightness(game.options, 1);
+    EXPECT_EQ(game.Windows().face, Rgb(245, 245, 245));
 }
 
 TEST(ColourScheme, OnADarkDesktopTheDefaultStillShowsTheBoard) {
-    TestGame game;
-    game.window.desktop = {{DesktopColour::WindowFace, Rgb(45, 45, 48)},
-                           {DesktopColour::ListBackground, Rgb(27, 27, 29)},
-                           {DesktopColour::ButtonFace, Rgb(55, 55, 58)},
-                           {DesktopColour::Highlight, Rgb(60, 130, 200)}};
-    game.ColourSchemeName = "default.col";
-    ApplyColourScheme(game);
-    for (const Colour colour : {game.NodeColour, game.GridColour, game.ChainColour}) {
-        EXPECT_GE(Contrast(colour, game.Picture1BackColor), kShapeContrast);
-    }
-    EXPECT_GE(Contrast(game.GivenColour, game.NodeColour), kTextContrast);
-    EXPECT_EQ(ColoursOfWindows(game, game.window).face, Rgb(55, 55, 58));
+    SchemeGame game("");
+    game.world.desktop[DesktopColour::WindowFace] = Rgb(45, 45, 48);
+    game.world.desktop[DesktopColour::ButtonFace] = Rgb(55, 55, 58);
+    game.Wear("default.col");
+    const Options& options = game.options;
+    EXPECT_EQ(options.NodeColour, Rgb(235, 235, 235));
+    EXPECT_EQ(options.GridColour, Rgb(235, 235, 235));
+    EXPECT_EQ(options.ChainColour, Rgb(255, 140, 120));
+    EXPECT_EQ(options.GivenColour, kBlack) << "white numbers would be lost";
+    EXPECT_EQ(game.Windows().face, Rgb(55, 55, 58));
 }
 
-/// What every scheme that ships has to keep, whatever was chosen before it.
-void ExpectLegible(const std::string& name, const Options& options, const WindowColours& colours) {
-    EXPECT_GE(Contrast(colours.frameText, colours.frame), kTextContrast) << name;
-    EXPECT_GE(Contrast(colours.faceText, colours.face), kTextContrast) << name;
-    EXPECT_GE(Contrast(colours.boxText, colours.box), kTextContrast) << name;
-    EXPECT_GE(Contrast(colours.highlightText, colours.highlight), kTextContrast) << name;
-    EXPECT_GE(Contrast(colours.highlight, colours.box), kShapeContrast) << name;
-    const auto& scheme = options.SchemeColours;
-    EXPECT_GE(Contrast(scheme[kGridEntry], scheme[kBackgroundEntry]), kShapeContrast) << name;
-    EXPECT_GE(Contrast(scheme[kChainEntry], scheme[kBackgroundEntry]), kShapeContrast) << name;
-    EXPECT_GE(Contrast(scheme[kNodeEntry], scheme[kBackgroundEntry]), kShapeContrast) << name;
-    EXPECT_GE(Contrast(scheme[kGivenEntry], scheme[kNodeEntry]), kTextContrast) << name;
-    EXPECT_GE(Contrast(scheme[kFaceTextEntry], scheme[kFaceEntry]), kTextContrast) << name;
-    EXPECT_GE(Contrast(scheme[kBoxTextEntry], scheme[kBackgroundEntry]), kTextContrast) << name;
+TEST(WindowColours, AreThoseOfTheScheme) {
+    SchemeGame game(Scheme("a.col", 10));
+    game.Wear("a.col");
+    for (const std::size_t entry : {kFaceTextEntry, kBoxTextEntry, kHighlightEntry, kHighlightTextEntry})
+        game.options.SchemeColours[entry] = kWhite - static_cast<Colour>(entry);
+    const WindowColours windows = game.Windows();
+    EXPECT_EQ((std::array{windows.frame, windows.face, windows.box, windows.outline}),
+              (std::array{Rgb(14, 2, 3), Rgb(14, 2, 3), Rgb(12, 2, 3), Rgb(13, 2, 3)}));
+    EXPECT_EQ((std::array{windows.frameText, windows.faceText, windows.boxText, windows.highlight}),
+              (std::array{kWhite, kWhite, kWhite - 1, kWhite - 9}));
+    EXPECT_EQ(windows.highlightText, kBlack) << "white on white cannot be read";
+    const WindowColours messages = ColoursOfMessages(game.options, game.world);
+    EXPECT_EQ((std::array{messages.frame, messages.frameText, messages.boxText, messages.face}),
+              (std::array{windows.box, Rgb(235, 235, 235), Rgb(235, 235, 235), windows.face}));
+}
+
+void ExpectLegible(const WindowColours& colours) {
+    EXPECT_GE(Contrast(colours.frameText, colours.frame), kTextContrast);
+    EXPECT_GE(Contrast(colours.faceText, colours.face), kTextContrast);
+    EXPECT_GE(Contrast(colours.boxText, colours.box), kTextContrast);
+    EXPECT_GE(Contrast(colours.highlightText, colours.highlight), kTextContrast);
+    EXPECT_GE(Contrast(colours.highlight, colours.box), kShapeContrast);
+}
+
+TEST(WindowColours, AreLegibleOnAnySchemeThatAFileMayHold) {
+    const World desktop;
+    std::mt19937 random(3);
+    for (int run = 0; run < 500; ++run) {
+        Options options;
+        for (Colour& colour : options.SchemeColours)
+            colour = static_cast<Colour>(random() & 0xFFFFFF);
+        ExpectLegible(ColoursOfWindows(options, desktop));
+        ExpectLegible(ColoursOfMessages(options, desktop));
+    }
 }
 
 TEST(ShippedSchemes, AreCompleteAndLegible) {
     TestGame game;
-    game.ColourListPath = std::string(TIDEWALK_DATA_DIR) + "/all.col";
-    std::ifstream file(game.ColourListPath, std::ios::binary);
-    std::vector<std::string> names;
-    int colours = 0;
-    for (std::string line; std::getline(file, line);) {
-        ASSERT_TRUE(!line.empty() && line.back() == '\r') << line;
-        line.pop_back();
-        if (line.find(".col") != std::string::npos) {
-            names.push_back(line);
-        } else {
-            ++colours;
-        }
-    }
-    EXPECT_GE(names.size(), 8U);
-    EXPECT_EQ(static_cast<std::size_t>(colours), 13 * names.size());
-    EXPECT_EQ(names.front(), "xp.col");
-    for (const std::string& name : names) {
+    const Lines lines = LinesOf(game.folder.Read(game.ColourListPath = TIDEWALK_DATA_DIR "/all.col"));
+    EXPECT_EQ(lines.front(), "xp.col");
+    EXPECT_GE(lines.size(), 14U * 8);
+    EXPECT_EQ(lines.size() % 14, 0U);
+    for (std::size_t at = 0; at < lines.size(); at += 14) {
+        SCOPED_TRACE(lines[at]);
+        EXPECT_TRUE(lines[at].ends_with(".col"));
+        for (std::size_t i = 1; i < 14; ++i)
+            EXPECT_EQ(std::count(lines[at + i].begin(), lines[at + i].end(), ';'), 2);
         Options options;
-        options.ColourSchemeName = name;
+        options.ColourSchemeName = lines[at];
         Colour back = 0;
-        ReadColourScheme(game, name, back, options);
-        if (IsDefaultScheme(name)) continue;
-        ExpectLegible(name, options, ColoursOfWindows(options, game.window));
-    }
-}
-
-TEST(WindowColours, AreLegibleOnAnySchemeThatAFileMayHold) {
-    TestGame game;
-    std::mt19937 random(3);
-    for (int run = 0; run < 2000; ++run) {
-        Options options;
-        for (Colour& colour : options.SchemeColours)
-            colour = static_cast<Colour>(random() & 0xFFFFFF);
-        for (const WindowColours& colours :
-             {ColoursOfWindows(options, game.window), ColoursOfMessages(options, game.window)}) {
-            ASSERT_GE(Contrast(colours.frameText, colours.frame), kTextContrast);
-            ASSERT_GE(Contrast(colours.faceText, colours.face), kTextContrast);
-            ASSERT_GE(Contrast(colours.boxText, colours.box), kTextContrast);
-            ASSERT_GE(Contrast(colours.highlightText, colours.highlight), kTextContrast);
-        }
+        ReadColourScheme(game, lines[at], back, options);
+        if (IsDefaultScheme(lines[at])) continue;
+        ExpectLegible(ColoursOfWindows(options, game.world));
+        const auto& entry = options.SchemeColours;
+        for (const std::size_t shape : {kGridEntry, kChainEntry, kNodeEntry})
+            EXPECT_GE(Contrast(entry[shape], entry[kBackgroundEntry]), kShapeContrast);
+        EXPECT_GE(Contrast(entry[kGivenEntry], entry[kNodeEntry]), kTextContrast);
+        EXPECT_GE(Contrast(entry[kFaceTextEntry], entry[kFaceEntry]), kTextContrast);
+        EXPECT_GE(Contrast(entry[kBoxTextEntry], entry[kBackgroundEntry]), kTextContrast);
     }
 }
 

@@ -1,127 +1,143 @@
 // SPDX-License-Identifier: MIT
 #include "options/options_form.h"
 
-#include <gtest/gtest.h>
-
-#include "model/contrast.h"
+#include "game/job.h"
 #include "options/colour_scheme.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
 namespace {
 
+using Colours = std::array<Colour, 4>;
+
 /// A game on its first puzzle with the schemes that ship, wearing "xp.col".
-class OptionsTest : public testing::Test {
- protected:
-    OptionsTest() {
-        game.ColourListPath = std::string(TIDEWALK_DATA_DIR) + "/all.col";
-        game.schemeNames = {"xp", "default", "dusk"};
+struct OptionsWindow : testing::Test {
+    OptionsWindow() {
+        game.ColourListPath = TIDEWALK_DATA_DIR "/all.col";
+        game.options.schemeNames = {"xp", "default", "dusk"};
         Colour back = 0;
         LoadColourScheme(game, "xp.col", back);
         ApplyColourScheme(game);
         game.Load(1);
+        form = OpenOptions(game);
+    }
+
+    /// Of the player's bridges, the thin lines, the numbers and the islands.
+    Colours Board() const {
+        return {game.options.ChainColour, game.options.GridColour, game.options.GivenColour, game.options.NodeColour};
+    }
+    Colours Swatches() const { return {form.Line1, form.Line2, form.Label1, form.Label2}; }
+    /// What the check boxes stand for: circles, paler islands, lines.
+    std::string Checked() const {
+        return std::to_string(game.options.NodeShape) + std::to_string(game.options.ShowFinished) +
+               std::to_string(game.options.ShowLines);
     }
 
     TestGame game{{kSmallPuzzle}};
+    OptionsForm form;
 };
 
-TEST_F(OptionsTest, NothingHappensBeforeTheSettingsAreApplied) {
-    const auto scheme = game.SchemeColours;
-    const int coloured = game.window.timesColoured;
-    OptionsForm form = OpenOptions(game);
-    EXPECT_EQ(form.Combo1, "xp");
-    EXPECT_EQ(form.Text3, "4");
-    Combo1_Click(game, form, "dusk");
-    cmdadjust4_Click(form, 2);
-    EXPECT_NE(form.AdjustedColour(), scheme[kFaceEntry]);
-    EXPECT_EQ(game.ColourSchemeName, "xp.col");
-    EXPECT_EQ(game.SchemeColours, scheme);
-    EXPECT_EQ(game.window.timesColoured, coloured);
+TEST_F(OptionsWindow, ShowsTheOptionsAsTheyAre) {
+    Options& options = game.options;
+    options.ColourSchemeName = "Own.COL";
+    options.ChainColour = 1;
+    options.GridColour = 2;
+    options.PrintLineWidth = 7;
+    for (const int set : {0, 1}) {
+        options.NodeShape = options.ShowLines = options.ShowFinished = set;
+        form = OpenOptions(game);
+        EXPECT_EQ(form.Option2 + form.Check1 + form.Check2, 3 * set);
+    }
+    EXPECT_EQ(form.Combo1, "Own");
+    EXPECT_EQ(form.schemes, (Lines{"xp", "default", "dusk", "Own"})) << "a scheme of no list stands there too";
+    EXPECT_EQ(Swatches(), Board());
+    EXPECT_EQ(form.Text3, "7");
 }
 
-TEST_F(OptionsTest, ApplyChangesTheBoardAtOnce) {
-    OptionsForm form = OpenOptions(game);
-    Combo1_Click(game, form, "dusk");
-    EXPECT_TRUE(cmdchaincol_Click(form, Rgb(1, 2, 3)));
-    EXPECT_FALSE(cmdnodecol_Click(form, std::nullopt));
-    form.Option2 = true;
-    form.Check1 = false;
-    form.Text3 = "7";
-    game.pictures.surface.calls.clear();
-    command1_Click(game, form);
-    EXPECT_EQ(game.ColourSchemeName, "dusk.col");
-    EXPECT_EQ(game.ChainColour, Rgb(1, 2, 3));
-    EXPECT_EQ(game.NodeColour, game.SchemeColours[kNodeEntry]);
-    EXPECT_EQ(game.GivenColour, game.SchemeColours[kGivenEntry]);
-    EXPECT_EQ(game.PrintLineWidth, 7);
-    EXPECT_EQ(game.ShowLines, 0);
-    EXPECT_GT(game.pictures.surface.Count("circle"), 0);
-    EXPECT_EQ(game.pictures.surface.calls.front(), "clear " + std::to_string(game.SchemeColours[kBackgroundEntry]));
-}
-
-TEST_F(OptionsTest, TheBrightnessOfOneSchemeIsNotCarriedToTheNext) {
-    OptionsForm form = OpenOptions(game);
-    cmdadjust4_Click(form, 1);
-    Combo1_Click(game, form, "dusk");
+TEST_F(OptionsWindow, ChangesNothingBeforeTheSettingsAreApplied) {
+    const auto scheme = game.options.SchemeColours;
+    game.Run(Combo1_Click, form, "dusk");
     const Colour face = form.AdjustedColour();
-    command1_Click(game, form);
-    EXPECT_EQ(game.SchemeColours[kFaceEntry], face);
+    cmdadjust4_Click(form, 2);
+    EXPECT_GT(RedOf(form.AdjustedColour()), RedOf(face)) << "lighter";
+    cmdadjust4_Click(form, 1);
+    cmdadjust4_Click(form, 1);
+    EXPECT_LT(RedOf(form.AdjustedColour()), RedOf(face)) << "darker";
+    EXPECT_NE(FormColours(game, form).box, scheme[kBackgroundEntry]) << "the window itself wears it";
+    EXPECT_EQ(game.options.ColourSchemeName, "xp.col");
+    EXPECT_EQ(game.options.SchemeColours, scheme);
+    EXPECT_EQ(game.world.Seen(), "");
 }
 
-TEST_F(OptionsTest, AJobKeepsItsBoardWhenOptionsAreApplied) {
-    game.jobRunning = true;
-    game.pictures.surface.calls.clear();
-    command1_Click(game, OpenOptions(game));
-    EXPECT_TRUE(game.pictures.surface.calls.empty());
+TEST_F(OptionsWindow, ApplyChangesTheBoardAtOnceAndResetGoesBackToTheDefaults) {
+    game.Run(Combo1_Click, form, "dusk");
+    cmdadjust4_Click(form, 2);
+    EXPECT_TRUE(cmdchaincol_Click(form, 1) && cmdgridcol_Click(form, 2) && cmdgivenfg_Click(form, 3));
+    EXPECT_TRUE(cmdnodecol_Click(form, 4));
+    EXPECT_FALSE(cmdnodecol_Click(form, std::nullopt)) << "nothing is picked";
+    form.Option2 = form.Check2 = true;
+    form.Check1 = false;
+    form.Text3 = "9";
+    game.Run(command1_Click, form);
+    const Options& options = game.options;
+    EXPECT_EQ(options.ColourSchemeName, "dusk.col");
+    EXPECT_EQ(options.SchemeColours[kFaceEntry], form.AdjustedColour());
+    EXPECT_EQ(Board(), (Colours{1, 2, 3, 4}));
+    EXPECT_EQ(Checked(), "110");
+    EXPECT_EQ(options.PrintLineWidth, 9);
+    EXPECT_EQ(game.world.Seen(), "colours");
+    game.Run(reset_Click, form);
+    EXPECT_EQ(options.ColourSchemeName, "xp.col");
+    EXPECT_EQ(form.Combo1, "xp");
+    EXPECT_EQ(options.SchemeColours[kFaceEntry], Rgb(236, 233, 216));
+    EXPECT_EQ(options.SchemeColours[kAdjustedEntry], Rgb(236, 233, 216));
+    EXPECT_EQ(Board(), (Colours{kBlack, kBlack, kBlack, kBlack}));
+    EXPECT_EQ(Checked(), "001");
+    EXPECT_EQ(options.PrintLineWidth, 4);
 }
 
-TEST_F(OptionsTest, ALineWidthThatIsNoneKeepsTheOldOne) {
-    OptionsForm form = OpenOptions(game);
-    for (const char* text : {"", "abc", "0", "-3"}) {
-        form.Text3 = text;
-        command1_Click(game, form);
-        EXPECT_EQ(game.PrintLineWidth, 4);
+TEST_F(OptionsWindow, TheBrightnessOfOneSchemeIsNotCarriedToTheNext) {
+    for (const bool desktop : {false, true}) {
+        cmdadjust4_Click(form, 1);
+        game.Run(Combo1_Click, form, desktop ? "default" : "dusk");
+        EXPECT_EQ(form.draft.SchemeColours[kAdjustedEntry], desktop ? 0 : form.AdjustedColour());
     }
-    form.Text3 = "1e9";
-    command1_Click(game, form);
-    EXPECT_EQ(game.PrintLineWidth, kWidestPrintLine);
 }
 
-TEST_F(OptionsTest, ResetGoesBackToTheDefaultsAndTheNumbersCanBeReadAllTheSame) {
-    OptionsForm form = OpenOptions(game);
-    Combo1_Click(game, form, "dusk");
-    form.Option2 = true;
-    form.Check2 = true;
-    command1_Click(game, form);
-    form = OpenOptions(game);
-    EXPECT_TRUE(form.Check2);
-    game.pictures.surface.calls.clear();
-    reset_Click(game, form);
-    EXPECT_EQ(game.ColourSchemeName, "xp.col");
-    EXPECT_EQ(game.SchemeColours[kAdjustedEntry], game.SchemeColours[kFaceEntry]);
-    EXPECT_EQ(game.NodeShape, 0);
-    EXPECT_EQ(game.ShowLines, 1);
-    EXPECT_EQ(game.ShowFinished, 0);
-    EXPECT_EQ(game.PrintLineWidth, 4);
-    EXPECT_EQ(game.NodeColour, kBlack);
-    EXPECT_EQ(game.GivenColour, kBlack);
-    const auto& calls = game.pictures.surface.calls;
-    int white = 0;
-    for (const std::string& call : calls) {
-        if (call.rfind("print", 0) == 0) white += call.ends_with(" " + std::to_string(kWhite)) ? 1 : 0;
+TEST_F(OptionsWindow, AJobKeepsItsBoardWhenOptionsAreApplied) {
+    const Job job(game);
+    const int before = game.world.picture.timesCleared;
+    game.Run(command1_Click, form);
+    EXPECT_EQ(game.world.picture.timesCleared, before);
+}
+
+TEST_F(OptionsWindow, ALineWidthThatIsNoneKeepsTheOldOne) {
+    for (const auto& [typed, width] : {std::pair{"", 4}, {"abc", 4}, {"0", 4}, {"1", 1}, {"50", 50}, {"1e9", 50}}) {
+        form.Text3 = typed;
+        game.Run(command1_Click, form);
+        EXPECT_EQ(game.options.PrintLineWidth, width);
     }
-    EXPECT_EQ(white, game.pictures.surface.Count("print"));
-    EXPECT_GT(white, 0);
 }
 
-TEST_F(OptionsTest, ASchemeThatWentMissingFallsBackToTheDesktop) {
-    OptionsForm form = OpenOptions(game);
-    game.prompts.Expect("Color Scheme: gone.col not found", "vbcritical+vbok", 1);
-    Combo1_Click(game, form, "gone");
-    EXPECT_EQ(form.Combo1, "default");
-    command1_Click(game, form);
-    EXPECT_EQ(game.ColourSchemeName, "default.col");
-    EXPECT_GE(Contrast(game.NodeColour, game.Picture1BackColor), kShapeContrast);
+TEST_F(OptionsWindow, BoardColoursAreSuggestedIfTheyCanBeRead) {
+    const std::string dark = "0;0;90\n";
+    const std::string light = "250;250;250\n";
+    const Colours before = Swatches();
+    for (const auto& [grid, chain, given, node] : {std::array{light, dark, light, dark},
+                                                   {dark, light, light, dark},
+                                                   {dark, dark, dark, dark},
+                                                   {dark, dark, dark, light},
+                                                   {dark, "90;0;0\n", light, "0;90;0\n"}}) {
+        const std::string others = dark + dark + light + dark + light;
+        game.ColourListPath = game.folder.Write("own", "own.col\n" + others + grid + chain + given + node + others);
+        game.Run(Combo1_Click, form, "own");
+        EXPECT_EQ(Swatches() == before, chain != "90;0;0\n");
+    }
+    EXPECT_EQ(Swatches(), (Colours{Rgb(90, 0, 0), Rgb(0, 0, 90), Rgb(250, 250, 250), Rgb(0, 90, 0)}));
+    game.world.Expect("Color Scheme: gone.col not found", "vbcritical+vbok");
+    game.Run(Combo1_Click, form, "gone");
+    EXPECT_EQ(form.Combo1, "default") << "a scheme that went missing falls back to the desktop";
+    EXPECT_EQ(Swatches(), (Colours{kDefaultChainColour, kDefaultNodeColour, kDefaultGivenColour, kDefaultNodeColour}));
 }
 
 }  // namespace

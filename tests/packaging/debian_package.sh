@@ -2,7 +2,7 @@
 # The Debian package holds the programs with all that belongs to them, and names what they need.
 . "$(dirname "$0")/support.sh"
 
-need dpkg-deb dpkg-shlibdeps file
+need dpkg-deb dpkg-shlibdeps file lintian
 if grep -q '^TIDEWALK_SANITIZE:STRING=.' "$build/CMakeCache.txt"; then
     echo "skipped: nobody packages a build for finding faults"
     exit 77
@@ -17,8 +17,8 @@ dpkg-deb -I "$package"
 for file in bin/tidewalk share/tidewalk/all.col share/tidewalk/tide.htm share/tidewalk/puzzles.txt \
     share/tidewalk/help/example.svg share/applications/tidewalk.desktop share/metainfo/tidewalk.metainfo.xml \
     share/icons/hicolor/scalable/apps/tidewalk.svg share/icons/hicolor/48x48/apps/tidewalk.png \
-    share/mime/packages/tidewalk-collection.xml share/man/man1/tidewalk.1 share/doc/tidewalk/LICENSE \
-    share/doc/tidewalk/copyright; do
+    share/mime/packages/tidewalk-collection.xml share/man/man1/tidewalk.1.gz share/doc/tidewalk/LICENSE \
+    share/doc/tidewalk/copyright share/doc/tidewalk/changelog.gz share/doc/tidewalk/docs/file-formats.md; do
     [ -s "$scratch/unpacked/usr/$file" ] || fail "no $file in the package"
 done
 others=$(find "$scratch/unpacked" ! -type l -perm /go+w)
@@ -32,4 +32,5 @@ for needed in libqt6widgets6 libqt6printsupport6 libqt6svg6 fonts-liberation lib
         *) fail "$needed is no dependency: $depends" ;;
     esac
 done
+lintian --allow-root --fail-on error "$package" || fail "lintian finds errors"
 "$scratch/unpacked/usr/bin/tidewalk" --version >/dev/null || fail "the packaged program does not start"

@@ -2,7 +2,7 @@
 # The programs that judge desktop entries, metainfo, MIME types and man pages find nothing wrong with ours.
 . "$(dirname "$0")/support.sh"
 
-need desktop-file-validate appstreamcli xmllint update-mime-database groff
+need desktop-file-validate appstreamcli xmllint update-mime-database mandoc
 install_to_scratch
 share=$prefix/share
 
@@ -16,10 +16,7 @@ grep -q ':application/x-tidewalk-collection:\*\.tdw$' "$share/mime/globs2" || fa
 grep -q '^MimeType=application/x-tidewalk-collection;$' "$share/applications/tidewalk.desktop" ||
     fail "collections are not opened with the program"
 
-for page in "$share"/man/man1/*.1; do
-    complaints=$(groff -man -ww -z -Tutf8 "$page" 2>&1)
-    [ -z "$complaints" ] || fail "$page: $complaints"
-done
+mandoc -T lint "$share"/man/man1/*.1 || fail "a man page"
 # Every option that the program has is explained.
 for option in $("$prefix/bin/tidewalk" --help | grep -o -e '--[a-z]*' | sort -u); do
     sed 's/\\-/-/g' "$share/man/man1/tidewalk.1" | grep -q -e "$option" || fail "$option is not in the man page"
@@ -31,3 +28,8 @@ for side in 48 64 128 256; do
     [ "$size" = "${side}x${side}" ] || fail "$icon measures $size"
 done
 xmllint --noout "$share/icons/hicolor/scalable/apps/tidewalk.svg" || fail "the scalable icon"
+
+# What the README names lies beside it.
+for named in $(grep -o '](\([^)]*\))' "$share/doc/tidewalk/README.md" | sed 's/](\(.*\))/\1/'); do
+    [ -s "$share/doc/tidewalk/$named" ] || fail "the installed README names $named"
+done

@@ -1,134 +1,85 @@
 // SPDX-License-Identifier: MIT
 #include "solver/auto_solve.h"
 
-#include <gtest/gtest.h>
+#include <filesystem>
 
-#include "model/load_puzzle.h"
-#include "model/navigation.h"
-#include "solver/difficulty.h"
-#include "solver/valid_solution.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
 namespace {
 
 constexpr const char* kUnable = "Unable to solve\r\nPlease check puzzle layout";
-const std::vector<std::string> kTwoSolutions{"3.3", "...", "3.3"};
+/// Four islands in a ring: one of two solutions, which the rules alone do not find.
+const Lines kRing{"3.3", "...", "3.3"};
+/// The rules finish two of the islands before nothing fits any more.
+const Lines kHopeless{"1.2-2", ".....", "..1.3"};
 
 TEST(AutoSolve, ShowsAndWritesTheSolution) {
-    TestGame game({Record(kTwoSolutions)});
-    ASSERT_EQ(game.Load(1), 0);
-    game.ShowLines = 0;
-    game.pictures.surface.calls.clear();
-    mnuautosol_Click(game);
-    EXPECT_EQ(game.window.statusTexts, (std::vector<std::string>{"Auto solving ...", "Solved"}));
+    TestGame game({Record(kRing)});
+    game.Load(1);
+    game.world.step = 50;
+    std::size_t open = 0;
+    std::size_t choices = 0;
+    game.world.happen = [&] {
+        open = std::max(open, game.List1.Lines().size());
+        choices = std::max(choices, game.List2.Lines().size());
+    };
+    game.collection.leftOpen = true;
+    game.Run(mnuautosol_Click);
+    EXPECT_EQ(open * 10 + choices, 42U) << "the work lists show while it works";
+    EXPECT_TRUE(game.List1.Lines().empty());
+    EXPECT_EQ(game.List2.Lines(),
+              (Lines{"002 2 02 000 000 001 007*1 007*2 ", "001 3 02 000 000 001 003*2 007*1 007*2 "}));
+    EXPECT_TRUE(game.ShowsSolution());
+    EXPECT_EQ(game.board.puzzle.LinkCount(), 8) << "every pair from both ends";
     EXPECT_EQ(game.folder.Read("collection-solution.tdw"), " 3, 3, 8;D;3=3,|.|,3=3,\r\n");
-    EXPECT_EQ(game.pictures.surface.Count("line"), 6) << "two single bridges and two double ones";
-    EXPECT_EQ(game.ShowLines, 0);
-    EXPECT_EQ(game.BusyFlag, NoValue);
-    EXPECT_EQ(game.window.pointer, Pointer::Default);
-    EXPECT_EQ(CheckLinkTotals(game), 0);
-    EXPECT_EQ(game.Load(1), 0);
-    EXPECT_EQ(game.LinkCount(), 0) << "the collection itself is left alone";
+    EXPECT_EQ(game.folder.Read("collection.tdw"), Joined({Record(kRing)}));
+    EXPECT_FALSE(game.collection.leftOpen);
 }
 
 TEST(AutoSolve, WhatCannotBeSolvedComesBack) {
-    TestGame game({Record({"1-1", "...", "1.1"})});
-    ASSERT_EQ(game.Load(1), 0);
-    game.prompts.Expect(kUnable, "vbcritical+vbok", 1);
-    mnuautosol_Click(game);
-    EXPECT_EQ(game.LinkCount(), 1);
-    EXPECT_EQ(game.window.texts[Control::pb], "");
-    EXPECT_FALSE(std::filesystem::exists("collection-solution.tdw"));
-}
-
-TEST(AutoSolve, AFailureLeavesNothingOfItselfOnTheBoard) {
-    // The rules finish two of the islands before nothing fits any more.
-    TestGame game({Record({"1.2.2", ".....", "..1.3"})});
-    ASSERT_EQ(game.Load(1), 0);
-    game.prompts.Expect("puzzle 9 not found", "vbinformation+vbok", 1);
-    ASSERT_EQ(game.Load(9), 1) << "its file stays open";
-    game.prompts.Expect(kUnable, "vbcritical+vbok", 1);
-    mnuautosol_Click(game);
-    EXPECT_EQ(game.IslandGrid(1, 1), 1);
-    EXPECT_EQ(game.PuzzleNumber, 1);
-
-    std::filesystem::remove("collection.tdw");
-    game.BridgeState.Set(1, 3, 1);
-    game.prompts.Expect("puzzle 1 not found", "vbinformation+vbok", 1);
-    game.prompts.Expect(kUnable, "vbcritical+vbok", 1);
-    game.pictures.surface.calls.clear();
-    mnuautosol_Click(game);
-    EXPECT_EQ(game.IslandGrid(1, 1), 1) << "the numbers are back even without their file";
-    EXPECT_EQ(game.LinkCount(), 0);
-    EXPECT_EQ(game.BridgeState(1, 3), 1);
-    EXPECT_GE(game.pictures.surface.Count("print"), 5);
+    for (const bool isThere : {true, false}) {
+        TestGame game({Record(kHopeless)});
+        game.Load(1);
+        game.board.BridgeState.Set(1, 3, 1);
+        game.board.OpenNeighbours[1].Append(3);
+        game.collection.leftOpen = true;
+        if (!isThere) {
+            std::filesystem::remove("collection.tdw");
+            game.world.Expect("puzzle 1 not found", kInformation);
+        }
+        game.world.Expect(kUnable, kCritical);
+        game.Run(mnuautosol_Click);
+        EXPECT_EQ(game.world.Seen(), std::string("busy, status: Auto solving ..., events, progress: 0 of 0, ") +
+                                         (isThere ? "number: 1" : "box") + ", status: , not busy, box, not busy");
+        const Puzzle given = PuzzleFrom(kHopeless);
+        EXPECT_EQ(game.board.puzzle, isThere ? given : WithoutLinks(given));
+        EXPECT_EQ(game.board.BridgeState(1, 3), isThere ? 0 : 1);
+        EXPECT_TRUE(game.board.OpenNeighbours[1].Empty());
+        EXPECT_EQ(game.List1.Lines().size(), 1U) << "where the solver stood";
+        EXPECT_FALSE(std::filesystem::exists("collection-solution.tdw"));
+    }
 }
 
 TEST(AutoSolve, ASolutionThatCannotBeWrittenIsStillShown) {
-    TestGame game({Record(kTwoSolutions)});
-    ASSERT_EQ(game.Load(1), 0);
-    std::filesystem::create_symlink("/dev/full", "collection-solution.tdw");
-    mnuautosol_Click(game);
-    EXPECT_EQ(game.window.texts[Control::pb].find("Solved, but not written: "), 0U);
-    EXPECT_FALSE(game.files.IsOpen(1));
-    EXPECT_EQ(CheckLinkTotals(game), 0);
+    TestGame game({Record(kRing)});
+    game.Load(1);
+    std::filesystem::create_directory("collection-solution.tdw");
+    game.Run(mnuautosol_Click);
+    EXPECT_EQ(game.world.Status(),
+              "Solved, but not written: " + game.folder.Path("collection-solution.tdw") + ": Is a directory");
+    EXPECT_TRUE(game.ShowsSolution());
 }
 
-TEST(AutoSolve, RefusesWithoutIslandsOrDuringAJob) {
+TEST(AutoSolve, WantsAPuzzleWithIslands) {
     TestGame game({Record({"...", "..."})});
-    game.prompts.Expect("There is no puzzle to solve", "vbinformation+vbok", 1);
-    mnuautosol_Click(game);
-    ASSERT_EQ(game.Load(1), 0);
-    game.prompts.Expect("Set the puzzle first", "vbinformation+vbok", 1);
-    mnuautosol_Click(game);
-    EXPECT_EQ(game.window.pointer, Pointer::Default);
-    game.BusyFlag = YesValue;
-    game.prompts.Expect("Cancel Autosolve first", "vbinformation+vbok", 1);
-    mnuautosol_Click(game);
-}
-
-TEST(AutoSolve, ASecondJobCannotNestAndCancelBringsThePuzzleBack) {
-    TestGame game({Record(kTwoSolutions)});
-    ASSERT_EQ(game.Load(1), 0);
-    game.clock.step = 50;
-    game.events.happen = [&] {
-        game.events.happen = nullptr;
-        game.prompts.Expect("Cancel Autosolve first", "vbinformation+vbok", 1);
-        mnuautosol_Click(game);
-        game.CancelFlag = YesValue;
-        game.prompts.Expect(kUnable, "vbcritical+vbok", 1);
-    };
-    mnuautosol_Click(game);
-    EXPECT_EQ(game.IslandGrid(1, 1), 3);
-}
-
-TEST(AutoSolve, APuzzleTypedInTheMiddleStays) {
-    TestGame game({Record(kTwoSolutions), Record({"1-1", "...", "..."})});
-    ASSERT_EQ(game.Load(1), 0);
-    game.clock.step = 50;
-    game.events.happen = [&] {
-        game.events.happen = nullptr;
-        game.window.texts[Control::PuzNumNow] = "2";
-        PuzNumNow_KeyPress(game, kEnterKey);
-    };
-    mnuautosol_Click(game);
-    EXPECT_EQ(game.PuzzleNumber, 2);
-    EXPECT_EQ(game.IslandGrid(1, 1), 1);
-    EXPECT_EQ(game.LinkCount(), 1);
-    EXPECT_EQ(game.BusyFlag, NoValue);
-}
-
-TEST(AutoSolve, NamesTheSolutionBeforeTheLastDot) {
+    game.world.Expect("There is no puzzle to solve", kInformation);
+    game.Run(mnuautosol_Click);
+    game.Load(1);
+    game.world.Expect("Set the puzzle first", kInformation);
+    game.Run(mnuautosol_Click);
     EXPECT_EQ(SolutionPath("/a.b/c.tdw"), "/a.b/c-solution.tdw");
     EXPECT_EQ(SolutionPath("abc"), "-solutionabc");
-}
-
-TEST(Difficulty, HasFourNames) {
-    const std::pair<int, std::string_view> cases[] = {{-3, "VEasy"}, {0, "VEasy"}, {1, "Easy"},  {5, "Easy"},
-                                                      {6, "Hard"},   {10, "Hard"}, {11, "VHard"}};
-    for (const auto& [score, name] : cases)
-        EXPECT_EQ(DifficultyName(score), name) << score;
 }
 
 }  // namespace

@@ -1,146 +1,254 @@
 // SPDX-License-Identifier: MIT
+// What the rules and the search work with: neighbours, links, bridges, checks, and each rule alone.
 #include "solver/rules.h"
 
 #include <gtest/gtest.h>
 
-#include "model/numbers.h"
+#include <random>
+#include <tuple>
+
 #include "solver/connect_islands.h"
+#include "solver/contradictions.h"
 #include "solver/neighbours.h"
 #include "solver/status_list.h"
-#include "support/test_game.h"
+#include "support/board_text.h"
+#include "support/random_boards.h"
 
 namespace tidewalk::test {
 namespace {
 
-/// A board for the solver: digits are needs, 0 a finished island, anything else water.
-struct SolverBoard : TestGame {
-    explicit SolverBoard(const std::vector<std::string>& rows) {
-        Rows = static_cast<int>(rows.size());
-        Cols = static_cast<int>(rows.front().size());
-        NumberCells(*this);
-        for (int row = 1; row <= Rows; ++row) {
-            for (int col = 1; col <= Cols; ++col) {
-                const char c = rows[row - 1][col - 1];
-                IslandGrid(row, col) = c >= '0' && c <= '9' ? c - '0' : -1;
-            }
-        }
-        BuildNeighbourLists(*this);
-        RefreshNeighbours(*this);
+/// A board in the middle of a solve: digits are needs, 0 a finished island, anything else water.
+SolverBoard NeedsOf(const Rows& rows) {
+    SolverBoard board(PuzzleFrom(rows));
+    for (CellNumber id = 1; id <= board.CellCount; ++id) {
+        const auto [row, col] = board.PlaceOf(id);
+        if (rows[static_cast<std::size_t>(row - 1)][static_cast<std::size_t>(col - 1)] == '0') board.IslandGrid[id] = 0;
     }
+    BuildNeighbourLists(board);
+    return board;
+}
 
-    /// Lets the rules look at one island first, and tells what was laid from there.
-    std::string Visit(CellNumber id) {
-        awaitingRules.Clear();
-        awaitingRules.Insert(id);
-        laid.clear();
-        ApplyRules(*this);
-        std::string text;
+std::string OpenOf(const SolverBoard& board, CellNumber id) {
+    return Text(board.OpenNeighbours[id]);
+}
+
+/// The bridges that the rules lay from one island when they look at it first, behind their labels.
+std::string Visit(SolverBoard& board, CellNumber id) {
+    board.awaitingRules.Clear();
+    board.awaitingRules.Insert(id);
+    board.laid.clear();
+    ApplyRules(board);
+    std::string text;
+    std::string label;
+    for (const LaidBridges& laid : board.laid) {
         // Islands behind this one in the pass may have gone on from what it laid.
-        for (const LaidBridges& bridges : laid) {
-            if (bridges.a == id) text += NumText(bridges.b) + "x" + NumText(bridges.count) + " ";
-        }
-        return text;
+        if (laid.a != id) continue;
+        if (label != Label(laid)) text += (text.empty() ? "" : ", ") + (label = Label(laid)) + ":";
+        text += " " + NumText(laid.b) + "x" + NumText(laid.bridges);
     }
-
-    std::string Open(CellNumber id) const { return Text(OpenNeighbours(CellRow[id], CellCol[id])); }
-};
+    return text;
+}
 
 TEST(Neighbours, AreScannedLeftRightUpDownAndListedTwice) {
-    SolverBoard board({"..1..", ".....", "1.2.1", ".....", "..1.."});
-    EXPECT_EQ(board.Open(13), "011 015 003 023 ");
-    EXPECT_EQ(board.LinkCount(), 8);
-    EXPECT_EQ(Text(board.LinkList[1]), "0030132");
-    EXPECT_EQ(Text(board.LinkList[2]), "0110132");
-    EXPECT_EQ(Text(board.LinkList[3]), "0130112");
+    const SolverBoard board = NeedsOf({"..1..", ".....", "1.2.1", ".....", "..1.."});
+    EXPECT_EQ(OpenOf(board, 13), "011 015 003 023 ");
+    EXPECT_EQ(board.LinkList.Count(), 8);
+    EXPECT_EQ(Text(board.LinkList[1]) + Text(board.LinkList[2]) + Text(board.LinkList[3]), "003013201101320130112");
+    EXPECT_EQ(board.LinkList.Links().back(), board.LinkList[8]);
 }
 
 TEST(Neighbours, FinishedIslandsAndBridgesAcrossBlockTheView) {
-    EXPECT_EQ(SolverBoard({"1.0.1"}).Open(1), "");
-    EXPECT_EQ(SolverBoard({"1...1"}).Open(1), "005 ");
-    SolverBoard board({"..2..", "2...2", "..2.."});
-    ConnectIslands(board, "test", 3, 13, 1);
-    EXPECT_EQ(board.CrossGrid(2, 3), Cross::V);
-    EXPECT_EQ(board.Open(6), "") << "across a vertical bridge";
-    EXPECT_EQ(board.Open(3), "013 ");
+    EXPECT_EQ(OpenOf(NeedsOf({"1.0.1"}), 1), "");
+    EXPECT_EQ(OpenOf(NeedsOf({"1...1"}), 1), "005 ");
+    SolverBoard board = NeedsOf({"..2..", "2...2", "..2.."});
+    ConnectIslands(board, Rule::Trial, 3, 13, 1);
+    EXPECT_EQ(board.CrossGrid[8], Cross::V);
+    EXPECT_EQ(OpenOf(board, 6) + OpenOf(board, 10), "") << "across a vertical bridge";
+    EXPECT_EQ(OpenOf(board, 3), "013 ");
+    TakeBackBridges(board, 0);
+    ConnectIslands(board, Rule::Trial, 6, 10, 1);
+    EXPECT_EQ(OpenOf(board, 3) + OpenOf(board, 13), "") << "across a horizontal bridge";
+    TakeBackBridges(board, 0);
+    EXPECT_EQ(OpenOf(board, 3) + OpenOf(board, 6), "013 010 ");
+    ConnectIslands(board, Rule::Trial, 3, 10, 1);
+    EXPECT_EQ(OpenOf(board, 6), "010 ") << "what joins no row or column crosses nothing";
 }
 
 TEST(ConnectIslands, ChangesTheFirstEntryAndCrossesNoEnd) {
-    SolverBoard board({"4..4"});
-    ConnectIslands(board, "test", 1, 4, 1);
-    EXPECT_EQ(Text(board.LinkList[1]), "0010041");
-    EXPECT_EQ(Text(board.LinkList[2]), "0040012");
+    SolverBoard board = NeedsOf({"4..4"});
+    ConnectIslands(board, Rule::Trial, 1, 4, 1);
+    EXPECT_EQ(Text(board.LinkList[1]) + Text(board.LinkList[2]), "00100410040012");
     EXPECT_EQ(GetLinkValue(board, 4, 1), 1);
-    EXPECT_EQ(board.CrossGrid(1, 2), Cross::H);
-    EXPECT_EQ(board.CrossGrid(1, 1), Cross::Free);
+    EXPECT_TRUE(board.CrossGrid[2] == Cross::H && board.CrossGrid[1] == Cross::Free &&
+                board.CrossGrid[4] == Cross::Free);
     EXPECT_EQ(Text(board.ConnectedList[1]), " 4,");
-    ConnectIslands(board, "test", 1, 4, 2);
-    EXPECT_EQ(board.IslandGrid(1, 1), 1);
+    ConnectIslands(board, Rule::Trial, 1, 4, 2);
+    EXPECT_EQ(board.IslandGrid[1], 1);
     EXPECT_EQ(Text(board.LinkList[1]), "0010040") << "no capacity below 0";
-    EXPECT_EQ(board.BridgesLaid, 3);
+    EXPECT_EQ(board.BridgesLaid * 10 + board.ConnectCount, 32);
     EXPECT_EQ(Text(board.ConnectedList[4]), " 1,");
-    EXPECT_EQ(board.Open(1), "004 ") << "a full link stays open until the next refresh";
-    RefreshNeighbours(board);
-    EXPECT_EQ(board.Open(1), "");
+    EXPECT_EQ(OpenOf(board, 1), "004 ") << "a full link stays open until the next refresh";
+    RefreshStaleLists(board);
+    EXPECT_EQ(OpenOf(board, 1), "");
     EXPECT_EQ(GetLinkValue(board, 2, 3), 0);
 }
 
-TEST(Rules, LayWhatNeedAndNeighboursForce) {
-    struct Case {
-        std::vector<std::string> rows;
-        CellNumber island;
-        std::string laid;
-    };
-    const Case cases[] = {
-        {{"1..5"}, 1, "4x1 "},
-        {{"2..5"}, 1, "4x2 "},
+/// The counts of blocked cells as the marks alone tell them.
+auto BlockedByMarks(const SolverBoard& board) {
+    decltype(board.blockedCells) blocked{};
+    for (int link = 1; link <= board.LinkList.Count(); ++link) {
+        const auto [first, second, state] = board.LinkList[link];
+        // Only the first of a pair's two entries counts.
+        if (board.LinkList.Find(first, second) != link) continue;
+        const bool sameRow = board.CellRow[first] == board.CellRow[second];
+        for (CellNumber id = std::min(first, second); id < std::max(first, second); id += sameRow ? 1 : board.Cols)
+            blocked[static_cast<std::size_t>(link)] += board.CrossGrid[id] == (sameRow ? Cross::V : Cross::H);
+    }
+    return blocked;
+}
+
+TEST(ConnectIslands, KeepsTheListsAsAFullRebuildMakesThemAndTakesAllBack) {
+    std::mt19937 random(3);
+    const auto draw = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+    for (int round = 0; round < 100; ++round) {
+        const BoardSize size{4 + draw(22), 4 + draw(22)};
+        SolverBoard board(MakeRandomPuzzle(random, size, 2 + draw(3), false));
+        const SolverBoard before = board;
+        for (int i = 0; i < 40 && board.LinkList.Count() > 0; ++i) {
+            const Link link = board.LinkList[1 + draw(board.LinkList.Count())];
+            // A bridge across another one is never asked for.
+            if (!board.OpenNeighbours[link.first].Contains(link.second)) continue;
+            ConnectIslands(board, Rule::Trial, link.first, link.second, 1 + draw(2));
+            RefreshStaleLists(board);
+            const auto stepwise = board.OpenNeighbours;
+            ASSERT_EQ(BlockedByMarks(board), board.blockedCells) << "board " << round;
+            RefreshNeighbours(board);
+            ASSERT_EQ(stepwise, board.OpenNeighbours) << "board " << round;
+        }
+        TakeBackBridges(board, 0);
+        ASSERT_EQ(board.OpenNeighbours, before.OpenNeighbours) << "board " << round;
+        ASSERT_EQ(board.CrossGrid, before.CrossGrid);
+        ASSERT_EQ(board.IslandGrid, before.IslandGrid);
+        ASSERT_EQ(board.ConnectedList, before.ConnectedList);
+        ASSERT_EQ(board.LinkList.Links(), before.LinkList.Links());
+        ASSERT_EQ(board.BridgesLaid, 0);
+    }
+}
+
+TEST(Rules, LayWhatNeedAndNeighboursForceUnderTheirNames) {
+    const std::tuple<Rows, CellNumber, std::string> cases[] = {
+        {{"1..5"}, 1, "1-1 connect: 4x1"},
+        {{"2..5"}, 1, "2 has only 1 connection: 4x2"},
         {{"3..5"}, 1, ""},
-        {{"5.4.5"}, 3, "1x2 5x2 "},
-        {{"5.6.5", ".....", "..5.."}, 3, "1x2 5x2 13x2 "},
-        {{"1.3.5"}, 3, "1x1 5x2 "},
-        {{"5.3.1"}, 3, "5x1 1x2 "},
-        {{"1.3.1"}, 3, "1x1 5x2 "},
+        {{"5.4.5"}, 3, "4-2 connect: 1x2 5x2"},
+        {{"5.6.5", ".....", "..5.."}, 3, "6-3 connect: 1x2 5x2 13x2"},
+        {{"1.3.5"}, 3, "3-1 connect: 1x1, 3-2 connect: 5x2"},
+        {{"5.3.1"}, 3, "3-1 connect: 5x1, 3-2 connect: 1x2"},
+        {{"1.3.1"}, 3, "3-1 connect: 1x1, 3-2 connect: 5x2"},
         {{"5.3.5"}, 3, ""},
-        {{"5.5.5", ".....", "..5.."}, 3, "1x1 5x1 13x1 "},
-        {{"5.2.1"}, 3, "1x1 "},
-        {{"1.2.1"}, 3, "5x1 "},
+        {{"5.5.5", ".....", "..5.."}, 3, "5-3 links connect: 1x1, 5-3 link connect: 5x1 13x1"},
+        {{"5.2.1"}, 3, "2-1 connect: 1x1"},
+        {{"1.2.1"}, 3, "2-1 connect: 5x1"},
         {{"5.2.5"}, 3, ""},
-        {{"1.3.1", ".....", "..2.."}, 3, "13x1 "},
-        {{"1.3.2", ".....", "..1.."}, 3, "5x1 "},
-        {{"2.3.1", ".....", "..1.."}, 3, "1x1 "},
+        {{"1.3.1", ".....", "..2.."}, 3, "3-3-2 1s connect: 13x1"},
+        {{"1.3.2", ".....", "..1.."}, 3, "3-3-2 1s connect: 5x1"},
+        {{"2.3.1", ".....", "..1.."}, 3, "3-3-2 1s connect: 1x1"},
+        {{"1.3.1", ".....", "..1.."}, 3, "3-3-2 1s connect: 13x1"},
         {{"1.3.2", ".....", "..2.."}, 3, ""},
-        {{"2.4.1", ".....", "..1.."}, 3, "1x1 13x1 "},
-        {{"1.4.5", ".....", "..5.."}, 3, "5x1 13x1 "},
+        {{"2.4.1", ".....", "..1.."}, 3, "4-3-O1 connect: 1x1 13x1"},
+        {{"1.4.5", ".....", "..5.."}, 3, "4-3-O1 connect: 5x1 13x1"},
+        {{"5.4.5", ".....", "..1.."}, 3, "4-3-O1 connect: 1x1 5x1"},
         {{"5.4.5", ".....", "..5.."}, 3, ""},
         {{"1.1.1"}, 3, ""},
         {{"5.7.5", ".....", "..5.."}, 3, ""},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(SolverBoard(c.rows).Visit(c.island), c.laid) << c.rows.front();
+    for (const auto& [rows, island, laid] : cases) {
+        SolverBoard board = NeedsOf(rows);
+        EXPECT_EQ(Visit(board, island), laid) << rows.front();
+    }
+    EXPECT_EQ(Label({.rule = Rule::Trial, .a = 1, .b = 45}), "001connected with045");
+    for (const auto& [rule, name] : {std::pair{Rule::FirstOfThreeToTwo, "3-2 connect part1"},
+                                     {Rule::SecondOfThreeToTwo, "3-2 connect part2"},
+                                     {Rule::TwoOverHalfUsedLinks, "2-R1 connect"},
+                                     {Rule::Trial, ""}})
+        EXPECT_EQ(RuleName(rule), name) << "never laid by a rule";
 }
 
-TEST(Rules, CapacitiesStopTheDoublingOnes) {
-    const auto withBridge = [](const std::vector<std::string>& rows, CellNumber self, CellNumber other) {
-        SolverBoard board(rows);
-        ConnectIslands(board, "test", self, other, 1);
-        RefreshNeighbours(board);
-        return board.Visit(self);
+TEST(Rules, ReadTheCapacityOfEveryLink) {
+    const auto withBridges = [](const Rows& rows, CellNumber self, const std::vector<CellNumber>& others, int bridges) {
+        SolverBoard board = NeedsOf(rows);
+        for (const CellNumber other : others)
+            ConnectIslands(board, Rule::Trial, self, other, bridges);
+        // Without a refresh a full link is open still.
+        if (bridges == 1) RefreshStaleLists(board);
+        return Visit(board, self);
     };
-    EXPECT_EQ(withBridge({"3..9"}, 1, 4), "") << "a need of 2 on a link that takes one more";
-    EXPECT_EQ(withBridge({"9.5.9"}, 3, 1), "") << "the first link is in use";
-    EXPECT_EQ(withBridge({"9.5.9"}, 3, 5), "1x2 ") << "only the second link is in use";
+    EXPECT_EQ(withBridges({"3..9"}, 1, {4}, 1), "") << "a need of 2 on a link that takes one more";
+    EXPECT_EQ(withBridges({"9.5.9"}, 3, {1}, 1), "") << "the first link is in use";
+    EXPECT_EQ(withBridges({"9.5.9"}, 3, {5}, 1), "4-2 connect: 1x2") << "only the second link is in use";
+    EXPECT_EQ(withBridges({"9.4.9"}, 3, {1, 5}, 1), "") << "the rule for half used links comes too late";
+    const Rows cross{"9.5.9", ".....", "..9.."};
+    EXPECT_EQ(withBridges(cross, 3, {1}, 2), "3-3-O1 connect: 5x1 13x1");
+    EXPECT_EQ(withBridges(cross, 3, {5}, 2), "3-3-O1 connect: 1x1 13x1");
+    EXPECT_EQ(withBridges(cross, 3, {13}, 2), "3-3-O1 connect: 1x1 5x1");
+    EXPECT_EQ(withBridges({"9.7.9", ".....", "..9.."}, 3, {1, 13}, 2), "") << "two full links";
+}
+
+TEST(Contradictions, AreOverdrawnLinksMissingBridgesAndClosedGroups) {
+    // The board, the bridges laid one after the other (their number where a link has its state), and the answer.
+    const std::tuple<Rows, std::vector<Link>, bool> cases[] = {
+        {{"2.2"}, {}, false},
+        {{"3.1"}, {}, true},                          // needs more than its neighbour
+        {{"3.9"}, {}, true},                          // needs more than the link takes
+        {{"9..", "...", "2.2"}, {}, true},            // the 9
+        {{"1.3"}, {{1, 3, 2}}, true},                 // a need below 0
+        {{"5.5"}, {{1, 3, 2}, {1, 3, 1}}, true},      // an overdrawn link
+        {{"1.1", "...", "1.1"}, {{1, 3, 1}}, true},   // a pair that is closed
+        {{"1.1"}, {{1, 3, 1}}, false},                // closed, but the whole puzzle
+        {{"2.2", "...", "2.2"}, {{1, 3, 1}}, false},  // a pair that can still grow
+        {{"1.2", "...", "1.2"}, {{1, 3, 1}, {7, 9, 1}}, false},
+        {{"1.2", "...", "1.2"}, {{1, 3, 1}, {7, 9, 1}, {3, 9, 1}}, false},
+    };
+    for (const auto& [rows, bridges, contradiction] : cases) {
+        SolverBoard board = NeedsOf(rows);
+        for (const auto& [a, b, n] : bridges)
+            ConnectIslands(board, Rule::Trial, a, b, n);
+        RefreshStaleLists(board);
+        EXPECT_EQ(FindContradiction(board), contradiction) << rows.front() << " and " << bridges.size();
+        EXPECT_EQ(board.awaitingCheck.Empty(), !contradiction);
+        EXPECT_EQ(FindContradiction(board), contradiction) << "it stays one";
+    }
+}
+
+TEST(Contradictions, AreLookedForWhereSomethingChanged) {
+    SolverBoard board = NeedsOf({"2.2.1"});
+    ASSERT_FALSE(FindContradiction(board));
+    ConnectIslands(board, Rule::Trial, 3, 5, 1);
+    EXPECT_TRUE(FindContradiction(board)) << "island 1 has its neighbour still, which can give it less";
+
+    board = NeedsOf({"1.2.1", ".....", "1...1"});
+    ASSERT_FALSE(FindContradiction(board));
+    ConnectIslands(board, Rule::Trial, 1, 3, 1);
+    ConnectIslands(board, Rule::Trial, 3, 5, 1);
+    RefreshStaleLists(board);
+    EXPECT_EQ(CheckIsolation(board), 1) << "the first of the three that are closed";
 }
 
 TEST(StatusList, SortsByNeedThenNeighboursThenId) {
-    SolverBoard board({"2.3.1", ".....", "..1.."});
-    ShowStatusList(board);
-    EXPECT_EQ(board.List1.Lines(), (std::vector<std::string>{"1 01 000 000 005 003*1 ", "1 01 000 000 013 003*1 ",
-                                                             "2 01 000 000 001 003*1 003*2 ",
-                                                             "3 03 000 000 003 001*1 001*2 005*1 005*2 013*1 013*2 "}));
-    ASSERT_TRUE(FirstStatusLine(board));
-    EXPECT_EQ(Text(*FirstStatusLine(board)), board.List1.Lines().front());
-    ConnectIslands(board, "test", 5, 3, 1);
-    RefreshNeighbours(board);
-    EXPECT_EQ(Text(*FirstStatusLine(board)), "1 01 000 000 013 003*1 ");
+    SolverBoard board = NeedsOf({"2.3.1", ".....", "..1.."});
+    EXPECT_EQ(StatusLines(board),
+              (Rows{"2 01 000 000 001 003*1 003*2 ", "3 03 000 000 003 001*1 001*2 005*1 005*2 013*1 013*2 ",
+                    "1 01 000 000 005 003*1 ", "1 01 000 000 013 003*1 "}));
+    EXPECT_EQ(Text(FirstStatusLine(board).value()), "1 01 000 000 005 003*1 ");
+    ConnectIslands(board, Rule::Trial, 5, 3, 1);
+    RefreshStaleLists(board);
+    EXPECT_EQ(Text(FirstStatusLine(board).value()), "1 01 000 000 013 003*1 ");
+    EXPECT_EQ(Text(FirstStatusLine(NeedsOf({"2.3.2", ".....", "..2.2"})).value()).substr(0, 16), "2 01 000 000 001");
+    EXPECT_EQ(Text(FirstStatusLine(NeedsOf({"2.2", "...", "2.2", "2.."})).value()).substr(0, 16), "2 01 000 000 010");
+    board = NeedsOf({"3.9"});
+    ConnectIslands(board, Rule::Trial, 1, 3, 1);
+    EXPECT_EQ(StatusLines(board).front(), "2 01 000 000 001 003*1 ") << "the link takes one more";
+    EXPECT_FALSE(FirstStatusLine(NeedsOf({"0.."})));
 }
 
 }  // namespace

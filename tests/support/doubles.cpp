@@ -1,172 +1,106 @@
 // SPDX-License-Identifier: MIT
 #include "support/doubles.h"
 
-#include <algorithm>
-#include <sstream>
+#include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace tidewalk::test {
 
-namespace {
-
-template <class... Parts>
-std::string Join(const Parts&... parts) {
-    std::ostringstream out;
-    const char* blank = "";
-    ((out << blank << parts, blank = " "), ...);
-    return out.str();
+std::string OverlayOf(const Board& board) {
+    const auto words = [](Point point) { return std::to_string(point.x) + " " + std::to_string(point.y) + " "; };
+    std::string all;
+    if (board.Line1.visible) all += "band " + words(board.Line1.from) + words(board.Line1.to);
+    if (board.Shape1.visible) all += "marker " + std::to_string(board.puzzle.CellId(board.Shape1.cell)) + " ";
+    if (board.focusShows) all += "focus " + std::to_string(FocusedIsland(board));
+    return all;
 }
 
-const char* StyleOf(SystemButtons buttons) {
-    return buttons == SystemButtons::Ok ? "system ok" : "system yesno";
-}
-
-}  // namespace
-
-ExpectedPrompts::~ExpectedPrompts() {
-    Verify();
-}
-
-void ExpectedPrompts::Verify() {
-    for (const Expected& missing : expected_)
+World::~World() {
+    for (const Question& missing : expected_)
         ADD_FAILURE() << "never asked: " << missing.text;
-    expected_.clear();
+    EXPECT_FALSE(batch || print) << "never asked for a batch or what to print";
 }
 
-void ExpectedPrompts::Expect(std::string text, std::string style, int answer) {
-    expected_.push_back({std::move(text), std::move(style), answer});
+void World::Expect(const std::string& text, const std::string& style, int answer) {
+    expected_.push_back({text + "|" + style, answer, ""});
 }
 
-void ExpectedPrompts::ExpectSystemBox(std::string text, SystemButtons buttons, int answer) {
-    expected_.push_back({std::move(text), StyleOf(buttons), answer});
-}
-
-int ExpectedPrompts::Show(const std::string& text, std::string_view style) {
-    return Answer(text, std::string(style));
-}
-
-int ExpectedPrompts::SystemBox(const std::string& text, SystemButtons buttons) {
-    return Answer(text, StyleOf(buttons));
-}
-
-int ExpectedPrompts::Answer(const std::string& text, const std::string& style) {
-    if (answerToAll_) return *answerToAll_;
+World::Question World::Answer(const std::string& question) {
+    if (answerToAll_ != 0) return {"", answerToAll_, ""};
     if (expected_.empty()) {
-        ADD_FAILURE() << "nobody expected: " << text << " (" << style << ")";
-        return 0;
+        ADD_FAILURE() << "nobody expected: " << question;
+        return {};
     }
-    const Expected next = expected_.front();
+    Question next = expected_.front();
     expected_.pop_front();
-    EXPECT_EQ(text, next.text);
-    EXPECT_EQ(style, next.style);
-    return next.answer;
+    EXPECT_EQ(question, next.text);
+    return next;
 }
 
-ExpectedFiles::~ExpectedFiles() {
-    for (const std::string& path : answers_)
-        ADD_FAILURE() << "nobody asked for a file: " << path;
-}
-
-std::string ExpectedFiles::Pick(const FileRequest& request) {
-    requests.push_back(request);
-    if (answers_.empty()) {
-        ADD_FAILURE() << "nobody expected a question for a file: " << request.title;
-        return "";
+std::string World::Seen() {
+    std::string all;
+    for (const std::string& entry : std::exchange(log_, {})) {
+        const bool isLabel = entry.starts_with("size: ") || entry.starts_with("count: ") || entry.starts_with("name: ");
+        if (!isLabel) all += (all.empty() ? "" : ", ") + entry;
     }
-    std::string path = answers_.front();
-    answers_.pop_front();
-    return path;
+    return all;
 }
 
-std::string WindowDouble::Text(Control control) const {
-    const auto found = texts.find(control);
-    return found == texts.end() ? "" : found->second;
+int World::Show(const std::string& text, std::string_view style) {
+    Note("box");
+    return Answer(text + "|" + std::string(style)).answer;
 }
 
-void WindowDouble::SetText(Control control, const std::string& text) {
-    texts[control] = text;
-    if (control == Control::pb) statusTexts.push_back(text);
+std::string World::Pick(const FileRequest& request) {
+    Note("pick");
+    EXPECT_EQ(request.startFolder, game->AppFolder);
+    // A file dialog may do that.
+    std::filesystem::current_path("/");
+    const char* const mode = request.mode == FileRequest::Mode::Open ? "open" : "save";
+    return Answer(request.title + "|" + request.patterns + "|" + request.patternName + "|" + mode).path;
 }
 
-void WindowDouble::SetProgress(int done, int total) {
-    progressDone = done;
-    progressTotal = total;
-}
-
-void RecordingSurface::Clear(Colour background) {
-    calls.push_back(Join("clear", background));
-}
-
-void RecordingSurface::Line(double x1, double y1, double x2, double y2, Colour colour) {
-    calls.push_back(Join("line", x1, y1, x2, y2, colour));
-}
-
-void RecordingSurface::Box(double x1, double y1, double x2, double y2, Colour colour) {
-    calls.push_back(Join("box", x1, y1, x2, y2, colour));
-}
-
-void RecordingSurface::FilledBox(double x1, double y1, double x2, double y2, Colour colour) {
-    calls.push_back(Join("filledbox", x1, y1, x2, y2, colour));
-}
-
-void RecordingSurface::Circle(double x, double y, double radius, Colour outline, Colour fill) {
-    calls.push_back(Join("circle", x, y, radius, outline, fill));
-}
-
-Surface::Extent RecordingSurface::TextExtent(const std::string& text) {
-    constexpr double kTwipsPerPoint = 20;
-    return {static_cast<double>(text.size()) * fontSize * kTwipsPerPoint / 2, fontSize * kTwipsPerPoint};
-}
-
-void RecordingSurface::Print(double x, double y, const std::string& text, Colour colour) {
-    calls.push_back(Join("print", x, y, text, colour));
-}
-
-int RecordingSurface::Count(const std::string& kind) const {
-    return static_cast<int>(std::count_if(calls.begin(), calls.end(), [&](const std::string& call) {
-        return call.compare(0, kind.size() + 1, kind + " ") == 0;
-    }));
-}
-
-bool ClipboardDouble::SetPicture(const DrawFunction& draw) {
-    if (works) drawn = draw(picture);
-    return works;
+void World::SetText(WindowText which, const std::string& text) {
+    const char* const names[] = {"status: ", "number: ", "count: ", "name: ", "size: "};
+    texts[which] = text;
+    Note(names[static_cast<int>(which)] + text);
 }
 
 namespace {
 
-class DocumentDouble final : public PrintDocument {
+class Document final : public PrintDocument {
  public:
-    explicit DocumentDouble(PrintersDouble& printers) : printers_(printers) { printers_.pages.emplace_back(); }
+    explicit Document(World& world) : world_(world) { world_.pages.assign(1, {}); }
+    ~Document() override { world_.Note("document gone"); }
 
-    Surface& Page() override { return printers_.pages.back(); }
-    Surface::Area Printable() const override { return printers_.printable; }
+    Surface& Page() override { return world_.pages.back(); }
+    Surface::Area Printable() const override { return world_.printable; }
     bool NewPage() override {
-        if (static_cast<int>(printers_.pages.size()) + 1 == printers_.failAtPage) return false;
-        printers_.pages.emplace_back();
+        if (static_cast<int>(world_.pages.size()) + 1 == world_.failAtPage) return false;
+        world_.pages.emplace_back();
         return true;
     }
-    bool End() override { return printers_.printed = !printers_.failAtEnd; }
+    bool End() override {
+        if (world_.failAtPage == 0) world_.Note("printed");
+        return world_.failAtPage == 0;
+    }
     std::string Error() const override { return "out of paper"; }
 
  private:
-    PrintersDouble& printers_;
+    World& world_;
 };
 
 }  // namespace
 
-std::unique_ptr<PrintDocument> PrintersDouble::Begin(const std::string& name, const std::string& path,
-                                                     std::string& error) {
-    printer = name;
-    file = path;
-    pages.clear();
-    printed = false;
+std::unique_ptr<PrintDocument> World::Begin(const std::string& printer, const std::string& file, std::string& error) {
+    printedTo = printer + "|" + file;
     error = beginError;
-    if (!error.empty()) return nullptr;
-    return std::make_unique<DocumentDouble>(*this);
+    return error.empty() ? std::make_unique<Document>(*this) : nullptr;
 }
 
-void PrintersDouble::Preview(const std::string& name, const PageFunction& draw) {
-    printer = name;
+void World::Preview(const std::string& printer, const PageFunction& draw) {
+    printedTo = printer + "|";
     pages.assign(1, {});
     draw(pages.front(), printable);
 }

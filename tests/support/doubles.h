@@ -1,210 +1,158 @@
 // SPDX-License-Identifier: MIT
-// Doubles of the seams: they record what was asked, answer what they were told to, and fail on what nobody expected.
+// The world around a game, for tests.
 #pragma once
-
-#include <gtest/gtest.h>
 
 #include <deque>
 #include <functional>
 #include <map>
-#include <optional>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "model/seams.h"
+#include "game/game.h"
+#include "support/recording_surface.h"
 
 namespace tidewalk::test {
 
-/// Message boxes that are expected in their order.
-class ExpectedPrompts final : public Prompts {
+/// The board's picture: what was drawn since it was last wiped, with its pens.
+class BoardPicture final : public RecordingSurface {
  public:
-    ~ExpectedPrompts() override;
+    void Clear(Colour background) override {
+        calls.clear();
+        ++timesCleared;
+        RecordingSurface::Clear(background);
+    }
+    void SetDrawWidth(int pixels) override { calls.push_back("pen " + std::to_string(pixels)); }
 
-    /// The next message box has to be this one; it is answered with `answer`.
-    void Expect(std::string text, std::string style, int answer);
-    /// The next box has to be this plain one of the system.
-    void ExpectSystemBox(std::string text, SystemButtons buttons, int answer);
-    /// From now on every box is answered with `answer`, for tests of inputs that may or may not be refused.
+    int timesCleared = 0;
+};
+
+/// Everything that lies over the board's picture, in words.
+std::string OverlayOf(const Board& board);
+
+/// A double of every seam. It records what the game does, answers what it was told to, and fails on a question that
+/// nobody expected and on an answer that nobody asked for.
+class World final : public Prompts,
+                    public FilePicker,
+                    public Questions,
+                    public MainWindow,
+                    public BoardPictures,
+                    public PendingEvents,
+                    public Clock,
+                    public Clipboard,
+                    public Printers {
+ public:
+    /// Fails when a question that was expected has not come.
+    ~World() override;
+
+    /// The next question has to be this message box, or the system's own one with the style "system ok" or "system
+    /// yesno"; it is answered with `answer`.
+    void Expect(const std::string& text, const std::string& style, int answer = kOk);
+    /// The next question has to be for a file: "title|patterns|name of the patterns|open".
+    void ExpectPick(const std::string& request, const std::string& path) { expected_.push_back({request, 0, path}); }
+    /// From now on every box is answered with `answer`, for inputs that may or may not be refused.
     void AnswerAll(int answer) { answerToAll_ = answer; }
-    /// Fails when a box that was expected has not come yet.
-    void Verify();
+
+    std::string Status() const { return Text(WindowText::Status); }
+    /// What happened since the last look, in its order and without the labels of puzzles: "busy, box, status: Solved".
+    std::string Seen();
 
     int Show(const std::string& text, std::string_view style) override;
-    int SystemBox(const std::string& text, SystemButtons buttons) override;
-
- private:
-    struct Expected {
-        std::string text;
-        std::string style;
-        int answer;
-    };
-    int Answer(const std::string& text, const std::string& style);
-
-    std::deque<Expected> expected_;
-    std::optional<int> answerToAll_;
-};
-
-/// Answers one path a question.
-class ExpectedFiles final : public FilePicker {
- public:
-    ~ExpectedFiles() override;
-
-    void Answer(std::string path) { answers_.push_back(std::move(path)); }
-    std::string Pick(const FileRequest& request) override;
-
-    std::vector<FileRequest> requests;
-
- private:
-    std::deque<std::string> answers_;
-};
-
-/// Answers with a request that was typed, or as a window that is left without OK.
-class BatchDouble final : public BatchWindow {
- public:
-    bool Ask(BatchRequest& request) override {
-        ++timesAsked;
-        if (accepted) request = typed;
-        return accepted;
+    int SystemBox(const std::string& text, SystemButtons buttons) override {
+        return Show(text, buttons == SystemButtons::Ok ? "system ok" : "system yesno");
     }
+    std::string Pick(const FileRequest& request) override;
+    bool AskBatch(BatchRequest& request) override { return Note("batch?"), std::exchange(batch, nullptr)(request); }
+    bool AskPrint(PrintRequest& request) override { return Note("print?"), std::exchange(print, nullptr)(request); }
 
-    BatchRequest typed;
-    bool accepted = true;
-    int timesAsked = 0;
-};
-
-/// Remembers the texts and states of the main window.
-class WindowDouble final : public MainWindow {
- public:
-    std::string Text(Control control) const override;
-    void SetText(Control control, const std::string& text) override;
-    void SetToolTip(Control control, const std::string& text) override { toolTips[control] = text; }
-    void SetPointer(Pointer to) override { pointer = to; }
-    void SetProgress(int done, int total) override;
-    void ApplyColours() override { ++timesColoured; }
+    std::string Text(WindowText which) const override { return texts.count(which) == 0 ? "" : texts.at(which); }
+    void SetText(WindowText which, const std::string& text) override;
+    void SetToolTip(WindowText which, const std::string& text) override { toolTips[which] = text; }
+    void SetPointer(Pointer to) override { Note((pointer = to) == Pointer::Busy ? "busy" : "not busy"); }
+    void SetProgress(int done, int total) override {
+        Note("progress: " + std::to_string(done) + " of " + std::to_string(progressTotal = total));
+    }
+    void ApplyColours() override { Note("colours"); }
     Colour Desktop(DesktopColour colour) const override { return desktop.at(colour); }
-    void EndProgram() override { ended = true; }
+    void EndProgram() override { Note("end"); }
 
-    std::map<Control, std::string> texts;
-    std::map<Control, std::string> toolTips;
-    std::vector<std::string> statusTexts;  ///< everything that the status line has shown
-    Pointer pointer = Pointer::Default;
-    int progressDone = 0;
-    int progressTotal = 0;
-    int timesColoured = 0;
+    Surface::Extent ContainerExtent() const override { return container; }
+    Surface& Picture() override { return picture; }
+    void PlacePicture() override { placed = game->board.layout.Picture1; }
+    void ShowOverlay() override { overlay = OverlayOf(game->board); }
+    void SetEnabled(bool to) override { Note((enabled = to) ? "board on" : "board off"); }
+    void SetVisible(bool to) override { visible = to; }
+    bool IsVisible() const override { return visible; }
+    void Freeze(bool to) override { Note((frozen = to) ? "frozen" : "thawed"); }
+    void StartMarkerTime() override { markerTime = true; }
+    void StopMarkerTime() override { markerTime = false; }
+
+    void DoEvents() override {
+        if (step == 0) Note("events");
+        if (happen) happen();
+    }
+    double Timer() override { return 0; }
+    std::int64_t Milliseconds() override { return milliseconds += step; }
+
+    std::string Text() override { return clipboard; }
+    bool SetPicture(const DrawFunction& draw) override { return copy = draw, copies; }
+    std::vector<std::string> Names() override { return printers; }
+    std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
+                                         std::string& error) override;
+    void Preview(const std::string& printer, const PageFunction& draw) override;
+
+    const Game* game = nullptr;  ///< the game that this is the world of
+    void Note(const std::string& entry) { log_.push_back(entry); }
+
+    std::function<bool(BatchRequest&)> batch;  ///< answers the next question for a batch
+    std::function<bool(PrintRequest&)> print;  ///< answers the next question for puzzles to print
+
+    std::map<WindowText, std::string> texts;
+    std::map<WindowText, std::string> toolTips;
     /// A light desktop.
     std::map<DesktopColour, Colour> desktop{{DesktopColour::WindowFace, Rgb(239, 239, 239)},
                                             {DesktopColour::ListBackground, Rgb(252, 252, 252)},
                                             {DesktopColour::ButtonFace, Rgb(230, 230, 230)},
                                             {DesktopColour::Highlight, Rgb(48, 140, 198)}};
-    bool ended = false;
-};
+    Pointer pointer = Pointer::Default;
+    int progressTotal = 0;
 
-/// Records drawing calls as lines of text, such as "line 0 0 10 10 255".
-class RecordingSurface final : public Surface {
- public:
-    void Clear(Colour background) override;
-    void SetDrawWidth(int pixels) override { drawWidth = pixels; }
-    void Line(double x1, double y1, double x2, double y2, Colour colour) override;
-    void Box(double x1, double y1, double x2, double y2, Colour colour) override;
-    void FilledBox(double x1, double y1, double x2, double y2, Colour colour) override;
-    void Circle(double x, double y, double radius, Colour outline, Colour fill) override;
-    void SetFontSize(double points) override { fontSize = points; }
-    /// Every character is half a font size wide and one high.
-    Extent TextExtent(const std::string& text) override;
-    void Print(double x, double y, const std::string& text, Colour colour) override;
-
-    /// How many calls begin with `kind`.
-    int Count(const std::string& kind) const;
-
-    std::vector<std::string> calls;
-    int drawWidth = 0;
-    double fontSize = 0;
-};
-
-class PicturesDouble final : public BoardPictures {
- public:
-    Surface::Extent Picture5Extent() const override { return extent; }
-    Surface& Picture1() override { return surface; }
-    void PlacePicture1() override { ++timesPlaced; }
-    void ShowOverlay() override {}
-    void SetEnabled(bool to) override { enabled = to; }
-    void SetVisible(bool to) override { visible = to; }
-    bool IsVisible() const override { return visible; }
-    void Freeze(bool to) override { frozen = to; }
-    void EnableTimer1(bool to) override { timerEnabled = to; }
-
-    RecordingSurface surface;
-    Surface::Extent extent{9000, 9000};
-    int timesPlaced = 0;
+    Surface::Extent container{9000, 9000};
+    BoardPicture picture;
+    Frame placed;         ///< where the board's picture was placed
+    std::string overlay;  ///< what was shown over it
     bool enabled = true;
     bool visible = true;
     bool frozen = false;
-    bool timerEnabled = false;
-};
+    bool markerTime = false;
 
-/// Does what a test wants to happen while a routine lets events through.
-class EventsDouble final : public PendingEvents {
- public:
-    void DoEvents() override {
-        ++count;
-        if (happen) happen();
-    }
-
-    int count = 0;
-    std::function<void()> happen;
-};
-
-/// A clock that a test sets; each look at the milliseconds lets `step` pass.
-class ClockDouble final : public Clock {
- public:
-    double Timer() override { return seconds; }
-    std::int64_t Milliseconds() override { return milliseconds += step; }
-
-    double seconds = 0;
+    std::function<void()> happen;  ///< what happens when events are let through
     std::int64_t milliseconds = 0;
-    std::int64_t step = 0;
-};
+    std::int64_t step = 0;  ///< what passes between two looks at the milliseconds
 
-/// Keeps what was copied as drawing calls.
-class ClipboardDouble final : public Clipboard {
- public:
-    std::string Text() override { return text; }
-    bool SetPicture(const DrawFunction& draw) override;
+    std::string clipboard;
+    DrawFunction copy;  ///< what draws the picture that was copied
+    bool copies = true;
 
-    std::string text;
-    RecordingSurface picture;
-    Surface::Area drawn;
-    bool works = true;
-};
-
-/// A printer that keeps the pages of a document as drawing calls, and fails where a test wants it to.
-class PrintersDouble final : public Printers {
- public:
-    std::vector<std::string> Names() override { return names; }
-    std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
-                                         std::string& error) override;
-    void Preview(const std::string& printer, const PageFunction& draw) override;
-
-    std::vector<std::string> names{"Office", "PDF file"};
+    std::vector<std::string> printers{"Office", "PDF file"};
     std::string beginError;  ///< why no document can begin
-    int failAtPage = 0;      ///< the page that the printer refuses, 0 for none
-    bool failAtEnd = false;
-
-    std::string printer;                  ///< the one that was asked last
-    std::string file;                     ///< the file that it was to write
-    std::vector<RecordingSurface> pages;  ///< of the last document
-    bool printed = false;                 ///< the last document came to its end
+    int failAtPage = 0;      ///< the page that the printer refuses, or the end if there are fewer; 0 for none
+    std::string printedTo;   ///< "printer|file" of the last document
+    std::vector<RecordingSurface> pages;
     Surface::Area printable{360, 360, 11540, 16480};
-};
 
-/// Does with the window's fields what a test wants.
-class Form5Double final : public Form5Window {
- public:
-    void ShowModal(Form5Fields& fields) override {
-        if (play) play(fields);
-    }
+ private:
+    struct Question {
+        std::string text;
+        int answer;
+        std::string path;
+    };
+    Question Answer(const std::string& question);
 
-    std::function<void(Form5Fields&)> play;
+    std::deque<Question> expected_;
+    std::vector<std::string> log_;
+    int answerToAll_ = 0;
 };
 
 }  // namespace tidewalk::test

@@ -2,135 +2,84 @@
 #include "support/invariants.h"
 
 #include <algorithm>
-#include <array>
-#include <cstring>
-
-#include "model/job.h"
 
 namespace tidewalk::test {
 
 namespace {
 
-/// Keeps what is wrong. A text is made only when it is needed: most of what is looked at is right.
-class Findings {
- public:
-    void Add(const std::string& what) { text_ += what + "\n"; }
+/// Looks at a game and keeps what is wrong with it.
+struct Examination {
+    const Game& game;
+    const Board& board = game.board;
+    const Puzzle& puzzle = game.board.puzzle;
+    std::string findings = {};
+
     void Demand(bool holds, const char* what) {
-        if (!holds) Add(what);
+        if (!holds) findings += std::string("not so: ") + what + "\n";
     }
-    const std::string& Text() const { return text_; }
-
- private:
-    std::string text_;
-};
-
-bool IsCell(CellNumber id) {
-    return id >= 1 && id <= kMaxCells;
-}
-
-/// Before the first load there is no board; after it there is one that fits the tables.
-void CheckSizes(const Game& game, Findings& found) {
-    const bool none = game.Rows == 0 && game.Cols == 0;
-    const bool fits = game.Rows >= 1 && game.Rows <= kMaxSide && game.Cols >= 1 && game.Cols <= kMaxSide;
-    if (!none && !fits) {
-        found.Add("the board measures " + std::to_string(game.Rows) + "x" + std::to_string(game.Cols));
+    bool IsCell(CellNumber id) const { return id >= 1 && id <= puzzle.CellCount(); }
+    bool IsIsland(CellNumber id) const { return IsCell(id) && puzzle.IslandAt(id) > 0; }
+    bool IsIsland(int row, int col) const { return puzzle.IslandGrid(row, col) > 0; }
+    bool IsPair(CellNumber a, CellNumber b) const {
+        return IsIsland(a) && IsIsland(b) &&
+               (puzzle.CellRow(a) == puzzle.CellRow(b)) != (puzzle.CellCol(a) == puzzle.CellCol(b));
     }
-    found.Demand(game.CellCount >= 0 && game.CellCount <= kMaxCells, "the cells are too many");
-}
 
-void CheckLinks(const Game& game, Findings& found) {
-    for (int i = 1; i <= game.LinkCount(); ++i) {
-        const Link& link = game.LinkList[i];
-        const bool fine = IsCell(link.first) && IsCell(link.second) && link.state <= 2;
-        if (!fine) found.Add("link " + std::to_string(i) + " is " + Text(link));
+    /// What every index relies on, and what no job touches.
+    void Always() {
+        const bool none = puzzle.Rows == 0 && puzzle.Cols == 0;
+        Demand(none || (puzzle.Rows >= 1 && puzzle.Rows <= kMaxSide && puzzle.Cols >= 1 && puzzle.Cols <= kMaxSide),
+               "the board has a size");
+        const Options& options = game.options;
+        const auto isColour = [](Colour colour) { return colour <= kWhite; };
+        Demand(std::all_of(options.SchemeColours.begin(), options.SchemeColours.end(), isColour),
+               "colours are colours");
+        for (const Colour colour : {options.NodeColour, options.GivenColour, options.ChainColour, options.GridColour})
+            Demand(isColour(colour), "a colour of the board is one");
+        Demand(options.NodeShape == 0 || options.NodeShape == 1, "islands have a shape");
+        Demand(options.PrintLineWidth >= 1 && options.PrintLineWidth <= 50, "printed bridges have a width");
+        const Collection& collection = game.collection;
+        Demand(collection.PuzzleNumber >= 0 && collection.PuzzleCount >= 0, "puzzles count from 1");
+        Demand(collection.PuzzleCount == 0 || !collection.CollectionPath.empty(), "puzzles have a file");
     }
-}
 
-void CheckUndoList(const Game& game, Findings& found) {
-    for (const UndoRecord& record : game.UndoList) {
+    void Play() {
+        for (const Link& link : puzzle.LinkList)
+            Demand(IsCell(link.first) && IsCell(link.second) && link.state <= 2, "a link is on the board");
+        for (const auto& [a, b, bridges] : board.BridgeState.InBothOrders())
+            Demand(IsPair(a, b) && (bridges == 1 || bridges == 2), "one or two bridges join two islands");
         // A move that came from no selected island names the cell 0.
-        const bool cells = record.a >= 0 && record.a <= kMaxCells && IsCell(record.b);
-        if (!cells || record.state < 0 || record.state > 2) found.Add("the undo list has a line " + Text(record));
+        for (const auto& [a, b, state] : board.history.UndoList())
+            Demand((a == 0 || IsIsland(a)) && IsIsland(b) && state >= 0 && state <= 2, "a move was made on this board");
     }
-}
 
-void CheckNumbering(const Game& game, Findings& found) {
-    found.Demand(game.CellCount == game.Rows * game.Cols, "the cells are not rows times columns");
-    found.Demand(game.MaxDim == std::max(game.Rows, game.Cols), "the larger side is wrong");
-    CellNumber id = 0;
-    for (int row = 1; row <= game.Rows; ++row) {
-        for (int col = 1; col <= game.Cols; ++col) {
-            ++id;
-            if (game.CellId(row, col) != id || game.PlaceOf(id) != CellPlace{row, col}) {
-                found.Add("cell " + std::to_string(id) + " has another number");
-            }
-            const int number = game.IslandGrid(row, col);
-            if (number < -1 || number > 9) found.Add("an island has the number " + std::to_string(number));
-        }
+    void Marks() {
+        const auto isNone = [](int row, int col) { return row == col && (row == 0 || row == -1); };
+        Demand(isNone(board.HoverRow, board.HoverCol) || puzzle.OnBoard(board.HoverRow, board.HoverCol),
+               "the pointer's cell is on the board");
+        Demand(isNone(board.AnchorRow, board.AnchorCol) || IsIsland(board.AnchorRow, board.AnchorCol),
+               "the selected cell is an island");
+        Demand(SelectedIsland(board) == 0 || board.Line1.visible, "the selected island shows");
+        Demand(board.FocusRow == 0 || IsIsland(board.FocusRow, board.FocusCol), "the focus is on an island");
+        const auto& [marked, cell] = board.Shape1;
+        Demand(!marked || IsIsland(cell.row, cell.col), "the marker is around an island");
+        if (puzzle.CellCount() == 0) return;
+        Demand(board.layout.CellSize >= kSmallestCell && board.layout.CellSize <= kLargestCell, "a cell has its size");
+        Demand(board.layout.size == puzzle.Size(), "the layout is that of the puzzle");
     }
-}
-
-/// A bridge joins two islands of one row or column of the board that there is.
-void CheckBridge(const Game& game, CellNumber a, CellNumber b, Findings& found) {
-    const int state = game.BridgeState(a, b);
-    const std::string name = std::to_string(state) + " from " + std::to_string(a) + " to " + std::to_string(b);
-    if (state != game.BridgeState(b, a)) found.Add("a bridge counts in one direction only: " + name);
-    if (state > 2) found.Add("so many bridges: " + name);
-    if (a < 1 || b < 1 || a > game.CellCount || b > game.CellCount || a == b) {
-        found.Add("a bridge leaves the board: " + name);
-        return;
-    }
-    const CellPlace from = game.PlaceOf(a);
-    const CellPlace to = game.PlaceOf(b);
-    if (from.row != to.row && from.col != to.col) found.Add("a bridge is askew: " + name);
-    if (game.IslandAt(a) < 1 || game.IslandAt(b) < 1) found.Add("a bridge ends in the water: " + name);
-}
-
-void CheckBridges(const Game& game, Findings& found) {
-    constexpr auto kIds = static_cast<std::size_t>(kMaxCells) + 1;
-    static constexpr std::array<std::uint8_t, kIds> kNone{};
-    for (CellNumber a = 0; a <= kMaxCells; ++a) {
-        // Nearly all cells have no bridge, and this is looked at after every click of thousands.
-        if (std::memcmp(game.BridgeState.Row(a).data(), kNone.data(), kIds) == 0) continue;
-        for (CellNumber b = 0; b <= kMaxCells; ++b) {
-            if (game.BridgeState(a, b) != 0) CheckBridge(game, a, b, found);
-        }
-    }
-}
-
-void CheckLayout(const Game& game, Findings& found) {
-    constexpr int kSmallest = 200;
-    constexpr int kLargest = 700;
-    if (game.CellSize < kSmallest || game.CellSize > kLargest) {
-        found.Add("a cell measures " + std::to_string(game.CellSize));
-    }
-    found.Demand(game.Picture1.width >= 0 && game.Picture1.height >= 0, "the board has no size");
-    const auto onBoard = [&](int row, int col) {
-        return (row <= 0 && row >= -1 && col <= 0 && col >= -1) || game.OnBoard(row, col);
-    };
-    found.Demand(onBoard(game.HoverRow, game.HoverCol), "the pointer's cell is beside the board");
-    found.Demand(onBoard(game.AnchorRow, game.AnchorCol), "the selected island is beside the board");
-}
+};
 
 }  // namespace
 
 std::string CheckInvariants(const Game& game) {
-    Findings found;
-    CheckSizes(game, found);
-    CheckLinks(game, found);
-    CheckUndoList(game, found);
-    // A job that the end of the program has cut short leaves the grids as they were in the middle of it.
-    if (game.ending) return found.Text();
-    if (JobRuns(game)) {
-        found.Demand(game.jobRunning, "the busy flag is left of a job that has ended");
-        return found.Text();
+    Examination examination{game};
+    examination.Always();
+    // A job that is cut short by the end of the program leaves the board as it was in the middle of it.
+    if (examination.findings.empty() && !game.job.BusyFlag() && !game.job.Ending()) {
+        examination.Play();
+        examination.Marks();
     }
-    CheckNumbering(game, found);
-    CheckBridges(game, found);
-    if (game.Rows > 0) CheckLayout(game, found);
-    found.Demand(game.PuzzleNumber >= 0 && game.PuzzleCount >= 0, "the place in the collection is negative");
-    found.Demand(game.PuzzleCount == 0 || !game.CollectionPath.empty(), "the puzzles come from no collection");
-    return found.Text();
+    return examination.findings;
 }
 
 }  // namespace tidewalk::test

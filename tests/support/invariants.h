@@ -4,14 +4,14 @@
 
 #include <string>
 
-#include "model/game.h"
+#include "game/game.h"
 
 namespace tidewalk::test {
 
 /// "" when the game is whole; otherwise a line for each thing that is wrong.
 ///
-/// While a job runs the grids and the sizes are the job's, and only what every index relies on is looked at; so it is
-/// once the program ends.
+/// While a job runs the board is the job's, and only what every index relies on is looked at; so it is once the program
+/// ends.
 std::string CheckInvariants(const Game& game);
 
 }  // namespace tidewalk::test

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
-// Random boards for tests that compare two ways of doing the same.
+// Random boards for tests and benchmarks of the solver.
 #pragma once
 
 #include <random>
 
-#include "model/game.h"
+#include "model/puzzle.h"
 
 namespace tidewalk::test {
 
-/// Makes `game` an unsolved board of `rows` by `cols`: islands on about one of `spacing` cells, numbered so that the
-/// bridges drawn at random between neighbours solve it, though they need not form one group. With `spoil` one number is
-/// changed afterwards.
-void MakeRandomBoard(Game& game, std::mt19937& random, int rows, int cols, int spacing, bool spoil);
+/// Islands on about one of `spacing` cells, numbered so that bridges drawn at random between neighbours solve them,
+/// though these need not form one group. With `spoil` one number is 1 too high.
+Puzzle MakeRandomPuzzle(std::mt19937& random, BoardSize size, int spacing, bool spoil);
 
 }  // namespace tidewalk::test

@@ -1,78 +1,79 @@
 // SPDX-License-Identifier: MIT
 #include "support/test_game.h"
 
-#include <fstream>
-#include <sstream>
+#include <filesystem>
 
+#include "board/drawing.h"
 #include "model/load_puzzle.h"
-#include "model/numbers.h"
+#include "model/navigation.h"
+#include "model/plain_grid.h"
+#include "support/invariants.h"
 
 namespace tidewalk::test {
 
-const char* const kSmallPuzzle = " 7, 7, 22;D;..4===2,1.I....,|.6===3,|.I...|,|.I2..|,2-3I..|,.1-4--2,";
+namespace {
 
-TempFolder::TempFolder() : before_(std::filesystem::current_path()) {
-    static int made = 0;
-    const auto unique = std::to_string(std::chrono::steady_clock::now().time_since_epoch().count());
-    path_ = std::filesystem::temp_directory_path() / ("tidewalk-test-" + unique + "-" + std::to_string(++made));
-    std::filesystem::create_directories(path_);
-    std::filesystem::current_path(path_);
+Seams SeamsTo(World& world) {
+    return {world, world, world, world, world, world, world, world, world};
 }
 
-TempFolder::~TempFolder() {
-    std::error_code ignored;
-    std::filesystem::current_path(before_, ignored);
-    std::filesystem::remove_all(path_, ignored);
+}  // namespace
+
+std::string Joined(const Lines& lines) {
+    std::string bytes;
+    for (const std::string& line : lines)
+        bytes += line + "\r\n";
+    return bytes;
 }
 
-std::string TempFolder::Path(const std::string& name) const {
-    return (path_ / name).string();
+Lines LinesOf(const std::string& bytes) {
+    Lines lines;
+    std::size_t at = 0;
+    for (std::size_t end = 0; (end = bytes.find("\r\n", at)) != std::string::npos; at = end + 2)
+        lines.push_back(bytes.substr(at, end - at));
+    EXPECT_EQ(at, bytes.size()) << "the last line has no end";
+    return lines;
 }
 
-std::string TempFolder::Write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(path_ / name, std::ios::binary) << bytes;
-    return Path(name);
-}
-
-std::string TempFolder::Read(const std::string& name) const {
-    std::ostringstream bytes;
-    bytes << std::ifstream(path_ / name, std::ios::binary).rdbuf();
-    return bytes.str();
-}
-
-TestGame::TestGame()
-    : Game(Seams{.prompts = SeamDoubles::prompts,
-                 .filePicker = SeamDoubles::filePicker,
-                 .window = SeamDoubles::window,
-                 .pictures = SeamDoubles::pictures,
-                 .board = SeamDoubles::board,
-                 .events = SeamDoubles::events,
-                 .clock = SeamDoubles::clock,
-                 .batchWindow = SeamDoubles::batchWindow,
-                 .clipboard = SeamDoubles::clipboard,
-                 .printers = SeamDoubles::printers,
-                 .form5 = SeamDoubles::form5}) {
+TestGame::TestGame(const Lines& lines) : Game(SeamsTo(Surroundings::world)) {
+    world.game = this;
     AppFolder = folder.Path("");
     random.UseSeed(1);
+    if (!lines.empty()) collection.CollectionPath = folder.Write("collection.tdw", Joined(lines));
 }
 
-TestGame::TestGame(const std::vector<std::string>& records) : TestGame() {
-    std::string bytes;
-    for (const std::string& record : records)
-        bytes += record + "\r\n";
-    CollectionPath = folder.Write("collection.tdw", bytes);
+void TestGame::Load(int number) {
+    ASSERT_TRUE(Run(LoadPuzzle, collection.CollectionPath, number));
+    world.Seen();
 }
 
-int TestGame::Load(int number) {
-    return LoadPuzzle(*this, CollectionPath, number);
+void TestGame::TypeNumber(const std::string& number) {
+    world.texts[WindowText::PuzzleNumber] = number;
+    Run(PuzNumNow_KeyPress, kEnterKey);
 }
 
-std::string Record(const std::vector<std::string>& rows) {
-    std::string record =
-        Str(static_cast<int>(rows.size())) + "," + Str(static_cast<int>(rows.front().size())) + ", 0;D;";
-    for (const std::string& row : rows)
-        record += row + ",";
-    return record;
+Lines TestGame::FreshPicture(bool solution) const {
+    BoardPicture picture;
+    BoardDrawing(picture, board, options).RedrawBoard(solution);
+    return picture.calls;
+}
+
+Lines TestGame::Numbers() const {
+    return PlainGrid(board.puzzle);
+}
+
+void TestGame::ExpectWhole() const {
+    EXPECT_EQ(CheckInvariants(*this), "");
+    EXPECT_EQ(std::filesystem::current_path().string() + "/", folder.Path(""));
+    if (job.BusyFlag() || job.Ending()) return;
+    EXPECT_EQ(world.pointer, Pointer::Default);
+    EXPECT_EQ(world.progressTotal, 0);
+    EXPECT_TRUE(world.enabled && !world.frozen) << "the board is not the player's";
+    EXPECT_EQ(world.markerTime, board.Shape1.visible);
+    EXPECT_EQ(world.overlay, OverlayOf(board));
+    EXPECT_EQ(world.placed, board.layout.Picture1);
+    if (board.puzzle.CellCount() == 0 || ShowsSolution()) return;
+    EXPECT_EQ(world.picture.calls, FreshPicture(false));
 }
 
 }  // namespace tidewalk::test

@@ -1,79 +1,63 @@
 // SPDX-License-Identifier: MIT
-// A game of its own for each test, with doubles for every seam and a folder that goes away with it.
+// A game of its own for each test, with a double of its world and a folder that goes away with it.
 #pragma once
 
-#include <filesystem>
+#include <gtest/gtest.h>
+
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "board/drawing.h"
-#include "model/game.h"
+#include "support/board_text.h"
 #include "support/doubles.h"
+#include "support/temp_folder.h"
 
 namespace tidewalk::test {
 
-/// A folder that exists for as long as the object. It is the current directory meanwhile.
-class TempFolder {
- public:
-    TempFolder();
-    ~TempFolder();
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
+inline constexpr const char* kInformation = "vbinformation+vbok";
+inline constexpr const char* kCritical = "vbcritical+vbok";
 
-    /// The full path of a file in the folder.
-    std::string Path(const std::string& name) const;
-    /// Writes the bytes as they are and returns the file's path.
-    std::string Write(const std::string& name, const std::string& bytes) const;
-    std::string Read(const std::string& name) const;
+using Lines = std::vector<std::string>;
+
+/// The lines as a file holds them, each with its end.
+std::string Joined(const Lines& lines);
+/// The lines of such a file.
+Lines LinesOf(const std::string& bytes);
+
+/// What a game is made of; it has to be there before the game is.
+struct Surroundings {
+    TempFolder folder;
+    World world;
+};
+
+/// A game with these lines as its collection; nothing is loaded yet. Random draws are those of seed 1.
+class TestGame : public Surroundings, public Game {
+ public:
+    explicit TestGame(const Lines& lines = {});
+
+    /// Runs a handler; afterwards the game is whole, and the screen shows what it holds.
+    template <class Result, class... Parameters, class... Arguments>
+    Result Run(Result (*handler)(Game&, Parameters...), Arguments&&... arguments) {
+        struct Judge {
+            ~Judge() { game.ExpectWhole(); }
+            const TestGame& game;
+        } const judge{*this};
+        return handler(*this, std::forward<Arguments>(arguments)...);
+    }
+
+    /// Loads puzzle `number` of the collection, and forgets what was logged.
+    void Load(int number);
+    /// Types a puzzle number and Enter.
+    void TypeNumber(const std::string& number);
+    /// What a fresh redraw of the board would draw.
+    Lines FreshPicture(bool solution) const;
+    bool ShowsSolution() const { return world.picture.calls == FreshPicture(true); }
+    /// The board's numbers, a row a text.
+    Lines Numbers() const;
+    std::string PathOfCollection() const { return folder.Path("collection.tdw"); }
 
  private:
-    std::filesystem::path path_;
-    std::filesystem::path before_;
+    void ExpectWhole() const;
 };
-
-struct SeamDoubles {
-    TempFolder folder;
-    ExpectedPrompts prompts;
-    ExpectedFiles filePicker;
-    WindowDouble window;
-    PicturesDouble pictures;
-    DrawnBoard board;
-    EventsDouble events;
-    ClockDouble clock;
-    BatchDouble batchWindow;
-    ClipboardDouble clipboard;
-    PrintersDouble printers;
-    Form5Double form5;
-};
-
-/// A game with its doubles. Random draws are those of seed 1.
-class TestGame : private SeamDoubles, public Game {
- public:
-    TestGame();
-    /// A game whose collection is a file of these lines; nothing is loaded yet.
-    explicit TestGame(const std::vector<std::string>& records);
-
-    /// Loads puzzle `number` of the collection.
-    int Load(int number);
-
-    using Game::board;
-    using SeamDoubles::folder;
-    ExpectedPrompts& prompts = SeamDoubles::prompts;
-    ExpectedFiles& filePicker = SeamDoubles::filePicker;
-    WindowDouble& window = SeamDoubles::window;
-    PicturesDouble& pictures = SeamDoubles::pictures;
-    EventsDouble& events = SeamDoubles::events;
-    ClockDouble& clock = SeamDoubles::clock;
-    BatchDouble& batchWindow = SeamDoubles::batchWindow;
-    ClipboardDouble& clipboard = SeamDoubles::clipboard;
-    PrintersDouble& printers = SeamDoubles::printers;
-    Form5Double& form5 = SeamDoubles::form5;
-};
-
-/// A record with the header that `rows` need and these rows of the board.
-std::string Record(const std::vector<std::string>& rows);
-
-/// A small puzzle of 7x7 with its solution, fifteen bridges on ten links.
-extern const char* const kSmallPuzzle;
 
 }  // namespace tidewalk::test

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
+// The board under the keyboard, and as a screen reader meets it.
 #include "board/board_keys.h"
-
-#include <QAccessible>
-#include <QAction>
-#include <QApplication>
 
 #include "ui/board_accessible.h"
 #include "window_game.h"
@@ -11,136 +8,139 @@
 namespace tidewalk::test {
 namespace {
 
+constexpr CellPlace kLeft{1, 3};
+constexpr CellPlace kRight{1, 7};
+
 /// The window in front, as on a desktop: only then has the board the keyboard.
 struct KeyWindow : WindowGame {
     explicit KeyWindow(const std::vector<std::string>& records = {kSmallPuzzle}) : WindowGame(records) {
-        form().activateWindow();
-        board().setFocus();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&form()));
+        form.activateWindow();
+        view.setFocus();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&form));
     }
 
-    void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    void Key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
     }
-    CellNumber Focused() { return FocusedIsland(game()); }
-    CellNumber At(int row, int col) { return game().CellId(row, col); }
-
-    /// Goes to an island with Page Up and Page Down.
-    void GoTo(CellNumber to) {
-        while (Focused() != to) {
-            const CellNumber before = Focused();
-            Press(before < to ? Qt::Key_PageDown : Qt::Key_PageUp);
-            ASSERT_NE(Focused(), before);
-        }
+    /// The key is held down.
+    void Repeat(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QKeyEvent event(QEvent::KeyPress, key, modifiers, QString(), true);
+        QApplication::sendEvent(&view, &event);
     }
+    CellPlace Focused() const { return {board.FocusRow, board.FocusCol}; }
 };
-
-TEST(BoardKeys, APuzzlePlayedWithTheKeyboardIsAllDone) {
-    KeyWindow window;
-    window.Press(Qt::Key_Home);
-    for (int i = 1; i <= window.game().LinkCount(); ++i) {
-        const Link link = window.game().LinkList[i];
-        if (link.state == 2) continue;
-        window.GoTo(link.first);
-        window.Press(i % 2 == 0 ? Qt::Key_Space : Qt::Key_Return);
-        window.GoTo(link.second);
-        window.Press(Qt::Key_Enter, link.state == 0 ? Qt::ShiftModifier : Qt::NoModifier);
-    }
-    const BoxAnswer done("All Done!", "Ok");
-    window.Press(Qt::Key_F5);
-}
 
 TEST(BoardKeys, EveryKeyDoesItsPart) {
     KeyWindow window;
-    window.Press(Qt::Key_Down);
-    EXPECT_EQ(window.Focused(), window.At(1, 3)) << "the first key shows where the focus is";
-    window.Press(Qt::Key_Right, Qt::KeypadModifier);
-    EXPECT_EQ(window.Focused(), window.At(1, 7));
-    window.Press(Qt::Key_Space);
-    window.Press(Qt::Key_Left);
-    window.Press(Qt::Key_Space, Qt::ShiftModifier);
-    EXPECT_EQ(window.Bridges(1, 3, 1, 7), 2);
-    for (const int key : {Qt::Key_Delete, Qt::Key_Backspace}) {
-        window.Press(Qt::Key_Return);
-        window.Press(key == Qt::Key_Delete ? Qt::Key_Right : Qt::Key_Left);
-        window.Press(key);
-        EXPECT_EQ(window.Bridges(1, 3, 1, 7), 0);
-        window.game().BridgeState.Set(window.At(1, 3), window.At(1, 7), 1);
+    window.Key(Qt::Key_Down);
+    EXPECT_EQ(window.Focused(), kLeft) << "the first key shows where the focus is";
+    const std::vector<std::pair<Qt::Key, CellPlace>> walk{
+        {Qt::Key_Right, kRight}, {Qt::Key_Down, {3, 7}},   {Qt::Key_Left, {3, 3}}, {Qt::Key_Up, kLeft},
+        {Qt::Key_End, {7, 7}},   {Qt::Key_PageUp, {7, 4}}, {Qt::Key_Home, kLeft},  {Qt::Key_PageDown, kRight}};
+    for (const auto& [key, place] : walk) {
+        window.Key(key, Qt::KeypadModifier);
+        EXPECT_EQ(window.Focused(), place) << key;
     }
-    window.Press(Qt::Key_Return);
-    EXPECT_TRUE(window.game().Line1.visible);
-    window.Press(Qt::Key_Escape);
-    EXPECT_FALSE(window.game().Line1.visible);
-    window.Press(Qt::Key_Left, Qt::ControlModifier);
-    EXPECT_EQ(window.Focused(), window.At(1, 3)) << "keys with Ctrl belong to others";
+    for (const int remove : {Qt::Key_Delete, Qt::Key_Backspace}) {
+        window.Key(Qt::Key_Space);
+        window.Key(Qt::Key_Left);
+        window.Key(Qt::Key_Enter, Qt::ShiftModifier | Qt::KeypadModifier);
+        EXPECT_EQ(window.Bridges(kLeft, kRight), 2);
+        window.Key(Qt::Key_Return);
+        window.Key(Qt::Key_Right);
+        window.Key(remove);
+        EXPECT_EQ(window.Bridges(kLeft, kRight), 0);
+    }
+    window.Key(Qt::Key_Return);
+    EXPECT_TRUE(window.board.Line1.visible);
+    window.Key(Qt::Key_Escape);
+    EXPECT_FALSE(window.board.Line1.visible);
+    window.Key(Qt::Key_F5);
+    EXPECT_EQ(Get(window.form, "pb"), "Not done yet") << "shortcuts are in force";
+    // Keys with Ctrl belong to others, and so do arrows with Shift; a board that takes no mouse takes no keys.
+    window.Key(Qt::Key_Left, Qt::ControlModifier);
+    window.Key(Qt::Key_Left, Qt::ShiftModifier);
+    window.game.pictures.SetEnabled(false);
+    window.Key(Qt::Key_End);
+    EXPECT_EQ(window.Focused(), kRight);
 }
 
 TEST(BoardKeys, AKeyThatIsHeldDownWalksButLaysOnce) {
     KeyWindow window;
-    window.Press(Qt::Key_Home);
-    const auto repeat = [&](Qt::Key key) {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
-        QApplication::sendEvent(&window.board(), &event);
-    };
-    repeat(Qt::Key_Right);
-    EXPECT_EQ(window.Focused(), window.At(1, 7));
-    repeat(Qt::Key_Return);
-    EXPECT_FALSE(window.game().Line1.visible);
+    window.Key(Qt::Key_Home);
+    window.Repeat(Qt::Key_Return);
+    EXPECT_FALSE(window.board.Line1.visible);
+    window.Key(Qt::Key_Return);
+    window.Repeat(Qt::Key_Right);
+    EXPECT_EQ(window.Focused(), kRight);
+    window.Repeat(Qt::Key_Return, Qt::ShiftModifier);
+    window.Repeat(Qt::Key_Delete);
+    EXPECT_TRUE(window.board.history.UndoList().empty());
 }
 
-TEST(BoardKeys, TheFocusShowsOnlyWhileTheKeyboardIsInUse) {
+TEST(BoardKeys, ABoardLargerThanAnOblongWindowMovesAfterTheFocus) {
     KeyWindow window;
-    const QImage still = window.board().grab().toImage();
-    window.Press(Qt::Key_Home);
-    const QImage focused = window.board().grab().toImage();
+    BoardContainer& container = window.form.Container();
+    for (const QSize size : {QSize(900, 280), QSize(300, 700)}) {
+        window.form.resize(size);
+        QCoreApplication::processEvents();
+        for (const int key : {Qt::Key_End, Qt::Key_Home}) {
+            window.Key(key);
+            const QPoint at = window.view.mapTo(&container, window.At(window.Focused()));
+            EXPECT_TRUE(container.rect().contains(at)) << container.height() << " high, at " << at.x() << " " << at.y();
+        }
+    }
+}
+
+TEST(BoardKeys, TheFocusComesWithTabAndShowsOnlyWhileTheKeyboardIsInUse) {
+    KeyWindow window;
+    const QImage still = window.Shown();
+    Of(window.form, "UndoList").setFocus();
+    window.Key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget(), &window.view);
+    EXPECT_EQ(window.Focused(), kLeft);
+    const QImage focused = window.Shown();
     EXPECT_NE(focused, still);
-    window.Find<QWidget>("UndoList").setFocus();
-    EXPECT_EQ(window.board().grab().toImage(), still) << "the keyboard is elsewhere";
-    window.board().setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(window.board().grab().toImage(), focused);
-    QTest::mouseClick(&window.board(), Qt::LeftButton, {}, {3, 3});
-    EXPECT_EQ(window.board().grab().toImage(), still) << "the mouse was used last";
+    Of(window.form, "UndoList").setFocus();
+    EXPECT_EQ(window.Shown(), still) << "the keyboard is elsewhere";
+    window.view.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(window.Shown(), focused);
+    QTest::mouseClick(&window.view, Qt::LeftButton, {}, {3, 3});
+    EXPECT_EQ(window.Shown(), still) << "the mouse was used last";
+    window.view.clearFocus();
+    window.view.setFocus(Qt::ActiveWindowFocusReason);
+    EXPECT_EQ(window.Shown(), still) << "a window that comes to the front shows no more than before";
 }
 
-TEST(BoardKeys, TabToTheBoardGivesAnIslandTheFocus) {
-    KeyWindow window;
-    window.Find<QWidget>("UndoList").setFocus();
-    EXPECT_EQ(window.Focused(), 0);
-    window.Press(Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(QApplication::focusWidget(), &window.board());
-    EXPECT_EQ(window.Focused(), window.At(1, 3));
-}
-
-TEST(BoardKeys, AScreenReaderHearsWhereTheFocusIsAndWhatChanges) {
-    KeyWindow window;
-    std::vector<std::string> said;
+TEST(ScreenReader, HearsWhereTheFocusIsAndWhatChanges) {
+    KeyWindow window({kSmallPuzzle, Record({"1-1"})});
+    QStringList said;
     // On a desktop without screen readers nobody is told, so the test has an announcer of its own.
     IslandAnnouncer announcer([&](QAccessibleInterface* island, QAccessible::Event what) {
-        said.push_back((what == QAccessible::Focus ? "focus: " : "name: ") +
-                       island->text(QAccessible::Name).toStdString());
+        said += (what == QAccessible::Focus ? "focus: " : "name: ") + island->text(QAccessible::Name);
     });
-    QObject::connect(&window.program->handlers(), &Handlers::Changed, &window.board(),
-                     [&] { announcer.Announce(window.board()); });
-    const auto heard = [&] { return std::exchange(said, {}); };
-    const std::string left = "row 1, column 3, needs " + std::to_string(window.game().IslandGrid(1, 3)) + ", has ";
-    const std::string right = "row 1, column 7, needs " + std::to_string(window.game().IslandGrid(1, 7)) + ", has ";
-    using Lines = std::vector<std::string>;
-    window.Press(Qt::Key_Home);
-    EXPECT_EQ(heard(), (Lines{"focus: " + left + "0"}));
-    window.Press(Qt::Key_Space);
-    EXPECT_EQ(heard(), Lines{});
-    window.Press(Qt::Key_Right);
-    EXPECT_EQ(heard(), (Lines{"focus: " + right + "0"}));
-    window.Press(Qt::Key_Space, Qt::ShiftModifier);
-    EXPECT_EQ(heard(), (Lines{"name: " + left + "2", "name: " + right + "2"}));
-    window.Find<QAction>("cmdundo").trigger();
-    EXPECT_EQ(heard(), (Lines{"name: " + left + "0", "name: " + right + "0"}));
+    QObject::connect(&window.program.handlers(), &Handlers::Changed, &window.view,
+                     [&] { announcer.Announce(window.view); });
+    const auto heard = [&] { return std::exchange(said, {}).join("; ").toStdString(); };
+    const std::string left = "row 1, column 3, needs 4, has ";
+    const std::string right = "row 1, column 7, needs 2, has ";
+    window.Key(Qt::Key_Home);
+    EXPECT_EQ(heard(), "focus: " + left + "0");
+    window.Key(Qt::Key_Space);
+    EXPECT_EQ(heard(), "");
+    window.Key(Qt::Key_Right);
+    EXPECT_EQ(heard(), "focus: " + right + "0");
+    window.Key(Qt::Key_Space, Qt::ShiftModifier);
+    EXPECT_EQ(heard(), "name: " + left + "2; name: " + right + "2");
+    window.Trigger("cmdundo");
+    EXPECT_EQ(heard(), "name: " + left + "0; name: " + right + "0");
+    window.Click("arrows2");
+    EXPECT_EQ(heard(), "") << "another puzzle is no news of its islands, and none has the focus";
 }
 
-TEST(BoardKeys, EveryIslandIsAChildOfTheBoard) {
+TEST(ScreenReader, FindsEveryIslandAsAChildOfTheBoard) {
     KeyWindow window({kSmallPuzzle, Record({"1-1"})});
-    QAccessibleInterface* const board = QAccessible::queryAccessibleInterface(&window.board());
-    ASSERT_NE(board, nullptr);
+    QAccessibleInterface* const board = QAccessible::queryAccessibleInterface(&window.view);
     EXPECT_EQ(board->text(QAccessible::Name), "Board");
     int needs = 0;
     for (int i = 0; i < board->childCount(); ++i) {
@@ -150,35 +150,36 @@ TEST(BoardKeys, EveryIslandIsAChildOfTheBoard) {
         EXPECT_EQ(board->childAt(island->rect().center().x(), island->rect().center().y()), island);
         needs += island->text(QAccessible::Name).section(" needs ", 1).section(',', 0, 0).toInt();
     }
-    EXPECT_EQ(needs, window.game().NumberTotal);
+    EXPECT_EQ(needs, window.board.puzzle.NumberTotal());
     EXPECT_EQ(board->child(-1), nullptr);
     EXPECT_EQ(board->child(board->childCount()), nullptr);
+    const QPoint water = window.view.mapToGlobal(window.At({7, 1}));
+    EXPECT_EQ(board->childAt(water.x(), water.y()), nullptr);
     QAccessibleInterface* const first = board->child(0);
+    first->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(first->state().focused && !first->state().selected && !board->child(1)->state().focused);
     first->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(first->state().selected);
-    EXPECT_TRUE(first->state().focused);
     EXPECT_EQ(board->focusChild(), first);
-    window.game().BusyFlag = YesValue;
-    EXPECT_EQ(board->childCount(), 0) << "the grids are the job's";
+    window.game.job.Begin();
+    EXPECT_EQ(board->childCount(), 0) << "the board is the job's";
     EXPECT_FALSE(first->isValid());
-    window.game().BusyFlag = NoValue;
-    window.ClickButton("arrows2");
+    window.game.job.End();
+    window.Click("arrows2");
     EXPECT_FALSE(first->isValid()) << "that board is gone";
     EXPECT_EQ(first->text(QAccessible::Name), "");
     EXPECT_EQ(board->childCount(), 2);
     EXPECT_EQ(board->child(1)->text(QAccessible::Name), "row 1, column 3, needs 1, has 0");
 }
 
-TEST(BoardKeys, EveryControlOfTheWindowHasANameToBeReadOut) {
+TEST(ScreenReader, HasANameForEveryControlOfTheWindow) {
     KeyWindow window;
-    for (QWidget* const widget : window.form().findChildren<QWidget*>()) {
+    for (QWidget* const widget : window.form.findChildren<QWidget*>()) {
         // What Qt makes inside of a control is read out with it.
         const bool inside = widget->inherits("QComboBoxListView") || widget->objectName().startsWith("qt_");
         if (widget->focusPolicy() == Qt::NoFocus || inside) continue;
-        QAccessibleInterface* const control = QAccessible::queryAccessibleInterface(widget);
-        ASSERT_NE(control, nullptr);
-        EXPECT_FALSE(control->text(QAccessible::Name).isEmpty())
-            << widget->objectName().toStdString() << " " << widget->metaObject()->className();
+        const QAccessibleInterface* const control = QAccessible::queryAccessibleInterface(widget);
+        EXPECT_FALSE(control->text(QAccessible::Name).isEmpty()) << widget->objectName().toStdString();
     }
 }
 

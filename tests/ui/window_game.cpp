@@ -1,88 +1,152 @@
 // SPDX-License-Identifier: MIT
 #include "window_game.h"
 
-#include <QApplication>
-#include <QPushButton>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QMetaProperty>
+#include <QRegularExpression>
+
+#include "board/drawing.h"
+#include "ui/msg_form.h"
 
 namespace tidewalk::test {
 
-WindowGame::WindowGame(const std::vector<std::string>& records) : program(std::make_unique<Program>()) {
+std::string Get(const QObject& window, const QString& names) {
+    QStringList contents;
+    for (const QString& name : names.split(' ')) {
+        const auto& control = Of<QObject>(window, name.toLatin1());
+        const QMetaProperty property = control.metaObject()->userProperty();
+        contents += (property.isValid() ? property.read(&control) : control.property("text")).toString();
+    }
+    return contents.join(' ').toStdString();
+}
+
+void Set(const QObject& window, const QString& contents) {
+    for (const QString& content : contents.split(' ')) {
+        auto& control = Of<QObject>(window, content.section('=', 0, 0).toLatin1());
+        EXPECT_TRUE(control.metaObject()->userProperty().write(&control, content.section('=', 1)));
+    }
+}
+
+void Press(const QObject& window, const char* button) {
+    for (auto* const candidate : window.findChildren<QAbstractButton*>()) {
+        if (candidate->objectName() != button && candidate->text().remove('&') != button) continue;
+        // The box of a tick lies at its left end.
+        return QTest::mouseClick(candidate, Qt::LeftButton, {}, QPoint(8, candidate->height() / 2));
+    }
+    ADD_FAILURE() << "no such button: " << button;
+}
+
+Act Answer(const char* button) {
+    return [button](QDialog& dialog) { Press(dialog, button); };
+}
+
+Act Choose(const std::string& path) {
+    return [path](QDialog& files) {
+        Set(files, "fileNameEdit=" + QString::fromStdString(path));
+        files.accept();
+    };
+}
+
+std::string NameOf(const QDialog& dialog) {
+    if (const auto* const box = qobject_cast<const MsgForm*>(&dialog)) return box->Message();
+    if (const auto* const box = qobject_cast<const QMessageBox*>(&dialog))
+        return "system: " + box->text().toStdString();
+    const bool files = qobject_cast<const QFileDialog*>(&dialog) != nullptr;
+    return (files ? "file: " + dialog.windowTitle() : dialog.objectName()).toStdString();
+}
+
+qsizetype PagesOf(const char* path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
+    return QString::fromLatin1(file.readAll()).count(QRegularExpression("/Type\\s*/Page\\b"));
+}
+
+WindowGame::WindowGame(const std::vector<std::string>& records) {
     std::string bytes;
     for (const std::string& record : records)
         bytes += record + "\r\n";
     std::filesystem::copy_file(std::string(TIDEWALK_DATA_DIR) + "/all.col", "all.col");
     folder.Write("tide.cfg", "xp.col\r\n 1  0  250  12  1315860  16777215  128  12632256  1  0 \r\npuzzles.txt\r\n");
-    StartRequest request;
-    request.appFolder = folder.Path("");
-    request.collection = folder.Write("collection.tdw", bytes);
-    program->game().random.UseSeed(1);
-    QObject::connect(&program->handlers(), &Handlers::Ended, [this] { ended = true; });
-    const auto fatal = program->Start(request);
-    EXPECT_FALSE(fatal.has_value()) << *fatal;
+    game.random.UseSeed(1);
+    QObject::connect(&program.handlers(), &Handlers::Ended, [this] { ended = true; });
+    EXPECT_EQ(program.Start({folder.Path(""), folder.Write("collection.tdw", bytes), {}}), std::nullopt);
 }
 
 WindowGame::~WindowGame() {
+    for (const auto& [name, act] : expected)
+        ADD_FAILURE() << "never came up: " << name;
     QApplication::setPalette(QPalette());
 }
 
-void WindowGame::ClickButton(const char* name, Qt::MouseButton button) {
-    QTest::mouseClick(&Button(name), button);
+void WindowGame::Click(const char* button, Qt::MouseButton with) {
+    QTest::mouseClick(&Of<BoxControl>(form, button), with);
 }
 
-QPoint WindowGame::IslandAt(int row, int col) {
-    const CellNumber id = game().CellId(row, col);
-    return {qRound(game().IslandX[id] / kTwipsPerPixel), qRound(game().IslandY[id] / kTwipsPerPixel)};
+void WindowGame::Look() {
+    auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || std::count(inUse.begin(), inUse.end(), dialog) > 0) return;
+    const std::string name = NameOf(*dialog);
+    if (expected.empty() || expected.front().first != name) {
+        ADD_FAILURE() << "nobody expected: " << name;
+        return dialog->reject();
+    }
+    const Act act = expected.front().second;
+    expected.pop_front();
+    inUse.push_back(dialog);
+    if (act) act(*dialog);
+    inUse.pop_back();
+    if (QApplication::activeModalWidget() == dialog) dialog->reject();
+}
+
+QPoint WindowGame::At(CellPlace cell) const {
+    const Point at = board.layout.At(cell);
+    return {qRound(at.x / kTwipsPerPixel), qRound(at.y / kTwipsPerPixel)};
 }
 
 void WindowGame::MoveTo(QPoint onBoard, Qt::MouseButtons held) {
-    // QTest moves the real pointer instead, which does not leave the screen that there is.
-    QMouseEvent move(QEvent::MouseMove, onBoard, board().mapToGlobal(onBoard), Qt::NoButton, held, Qt::NoModifier);
-    QApplication::sendEvent(&board(), &move);
+    QMouseEvent move(QEvent::MouseMove, onBoard, view.mapToGlobal(onBoard), Qt::NoButton, held, Qt::NoModifier);
+    QApplication::sendEvent(&view, &move);
 }
 
-void WindowGame::ClickIsland(int row, int col, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
-    MoveTo(IslandAt(row, col));
-    QTest::mouseClick(&board(), button, modifiers, IslandAt(row, col));
+void WindowGame::ClickIsland(CellPlace cell, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+    QTest::mouseClick(&view, button, modifiers, At(cell));
 }
 
-int WindowGame::Bridges(int row1, int col1, int row2, int col2) {
-    return game().BridgeState(game().CellId(row1, col1), game().CellId(row2, col2));
+void WindowGame::ClickIslands(std::initializer_list<CellPlace> cells) {
+    for (const CellPlace& cell : cells)
+        ClickIsland(cell);
 }
 
-QColor WindowGame::ColourAt(QPoint onBoard) {
-    return board().grab().toImage().pixelColor(onBoard * board().devicePixelRatio());
+int WindowGame::Bridges(CellPlace a, CellPlace b) const {
+    return board.BridgeState(board.puzzle.CellId(a), board.puzzle.CellId(b));
 }
 
-BoxAnswer::BoxAnswer(std::string text, QString press) : text_(std::move(text)), press_(std::move(press)) {
-    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
-    timer_.start(10);
+QImage WindowGame::Bare() {
+    const auto before = std::tuple(board.Line1, board.Shape1, board.focusShows);
+    board.Line1.visible = board.Shape1.visible = board.focusShows = false;
+    const QImage picture = Shown();
+    std::tie(board.Line1, board.Shape1, board.focusShows) = before;
+    return picture;
 }
 
-BoxAnswer::~BoxAnswer() {
-    EXPECT_TRUE(asked_) << "never asked: " << text_;
-}
-
-void BoxAnswer::Look() {
-    auto* const box = qobject_cast<MsgForm*>(QApplication::activeModalWidget());
-    if (box == nullptr) return;
-    constexpr int kPatience = 100;
-    if (box->Message() != text_) {
-        if (++looks_ < kPatience) return;
-        ADD_FAILURE() << "nobody expected: " << box->Message();
-        box->reject();
-        return;
-    }
-    asked_ = true;
-    timer_.stop();
-    if (press_.isEmpty()) {
-        box->close();
-        return;
-    }
-    for (QPushButton* const button : box->findChildren<QPushButton*>()) {
-        if (button->text() == press_) return QTest::mouseClick(button, Qt::LeftButton);
-    }
-    ADD_FAILURE() << "no such button: " << press_.toStdString();
-    box->reject();
+QImage WindowGame::Fresh(bool solution) {
+    QPixmap picture(Shown().size());
+    picture.setDevicePixelRatio(view.devicePixelRatioF());
+    QtSurface surface(96, kTwipsPerPixel);
+    surface.SetTarget(&picture);
+    BoardDrawing(surface, board, game.options).RedrawBoard(solution);
+    surface.SetTarget(nullptr);
+    return picture.toImage();
 }
 
 }  // namespace tidewalk::test
+
+int main(int argc, char** argv) {
+    // Set before anything of Qt exists: the tests are also listed while they are built, with no environment of theirs.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    const QApplication app(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

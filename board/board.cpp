@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "board/board.h"
+
+namespace tidewalk {
+
+CellNumber SelectedIsland(const Board& board) {
+    return board.puzzle.OnBoard(board.AnchorRow, board.AnchorCol)
+               ? board.puzzle.CellId(board.AnchorRow, board.AnchorCol)
+               : 0;
+}
+
+CellNumber FocusedIsland(const Board& board) {
+    const bool onIsland = board.puzzle.IslandGrid(board.FocusRow, board.FocusCol) > 0;
+    return onIsland ? board.puzzle.CellId(board.FocusRow, board.FocusCol) : 0;
+}
+
+void DropSelection(Board& board) {
+    board.HoverRow = board.HoverCol = 0;
+    board.AnchorRow = board.AnchorCol = 0;
+    board.Line1.visible = false;
+}
+
+void TakePuzzle(Board& board, const Puzzle& puzzle) {
+    ++board.loadCount;
+    board.puzzle = puzzle;
+    board.OpenNeighbours.Fill({});
+    board.BridgeState.Clear();
+    board.history.Clear();
+    DropSelection(board);
+    board.FocusRow = board.FocusCol = 0;
+    board.Shape1.visible = false;
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// The board: the puzzle on the screen, and what the player has done on it.
+#pragma once
+
+#include "board/bridge_table.h"
+#include "board/history.h"
+#include "board/layout.h"
+#include "model/cell_words.h"
+#include "model/puzzle.h"
+
+namespace tidewalk {
+
+/// The board's state. It is drawn by `RedrawBoard` and changed by the handlers of the mouse, the keyboard and the
+/// menus.
+struct Board {
+    Puzzle puzzle;
+    PerCell<NeighbourList> OpenNeighbours;  ///< by island: whom it could still be bridged to when a solve ended
+
+    BoardLayout layout;
+    int FittedCellSize = 0;  ///< the cell size with which the last loaded puzzle fitted its container, 0 before that
+
+    BridgeTable BridgeState;
+    History history;
+    int loadCount = 0;  ///< how often the puzzle was replaced as a whole
+
+    int HoverRow = 0;  ///< the cell that a click is for; 0 or -1 for none
+    int HoverCol = 0;
+    int AnchorRow = 0;  ///< the selected island; 0 or -1 for none
+    int AnchorCol = 0;
+    int FocusRow = 0;  ///< the island with the keyboard's focus; 0 for none
+    int FocusCol = 0;
+    bool focusShows = false;  ///< the last move on the board was made with a key
+    int DragOffsetX = 0;      ///< the pointer less the board's corner when the left button went down, in twips
+    int DragOffsetY = 0;
+    bool dragging = false;  ///< the offsets are those of the button that is down now
+
+    /// The rubber band from the selected island to the pointer, in twips on the board.
+    struct {
+        bool visible = false;
+        Point from;
+        Point to;
+    } Line1;
+
+    /// The frame around the island that a check found wrong.
+    struct {
+        bool visible = false;
+        CellPlace cell;
+    } Shape1;
+
+    /// Where the island of a cell lies, in twips.
+    Point At(CellNumber id) const { return layout.At(puzzle.PlaceOf(id)); }
+};
+
+/// The selected island, or 0.
+CellNumber SelectedIsland(const Board& board);
+
+/// The island with the keyboard's focus, or 0.
+CellNumber FocusedIsland(const Board& board);
+
+/// Forgets the cell under the pointer and the selected island.
+void DropSelection(Board& board);
+
+/// Puts a puzzle on the board. Bridges, moves and selection were made on another one and are gone. The layout stays.
+void TakePuzzle(Board& board, const Puzzle& puzzle);
+
+}  // namespace tidewalk

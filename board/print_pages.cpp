@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#include "board/print_pages.h"
+
+#include "drawing/render_puzzle.h"
+#include "model/collection_file.h"
+
+namespace tidewalk {
+
+void DrawPage(const PuzzlePage& content, int lineWidth, Surface& page, const Surface::Area& printable) {
+    RenderPuzzle(content.puzzle, page, PageRequest(content.title, lineWidth, printable));
+}
+
+PrintEnd PrintPages(PrintDocument& document, int pages, int lineWidth, const PageSource& source,
+                    const MayGoOn& mayGoOn) {
+    for (int number = 0; number < pages; ++number) {
+        if (!mayGoOn()) return PrintEnd::Cancelled;
+        // The page comes before the puzzle, so that the last one is not followed by an empty sheet.
+        if (number > 0 && !document.NewPage()) return PrintEnd::Failed;
+        if (const auto content = source(number)) {
+            DrawPage(*content, lineWidth, document.Page(), document.Printable());
+        }
+    }
+    return document.End() ? PrintEnd::Printed : PrintEnd::Failed;
+}
+
+std::optional<PuzzlePage> PageOf(const std::string& collection, int number) {
+    const auto puzzle = ReadPuzzle(collection, number);
+    if (!puzzle) return std::nullopt;
+    return PuzzlePage{*puzzle, PrintTitle("Puzzle#", number, collection)};
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "board/show_board.h"
+
+#include "board/drawing.h"
+#include "model/numbers.h"
+#include "model/paths.h"
+
+namespace tidewalk {
+
+void RedrawBoard(Game& game, bool showSolution) {
+    BoardDrawing(game.pictures.Picture(), game.board, game.options).RedrawBoard(showSolution);
+}
+
+void LayOutBoard(Game& game, int cellSize) {
+    game.board.layout = LayoutBoard(game.board.puzzle.Size(), cellSize, game.pictures.ContainerExtent());
+    game.pictures.PlacePicture();
+}
+
+void LayoutNewBoard(Game& game, BoardSize size) {
+    game.board.puzzle = Puzzle(size);
+    LayOutBoard(game, FittingCellSize(size, game.pictures.ContainerExtent().width));
+}
+
+void PutOnBoard(Game& game, const Puzzle& puzzle) {
+    TakePuzzle(game.board, puzzle);
+    game.job.PuzzleReplaced();
+    game.pictures.StopMarkerTime();
+    game.pictures.ShowOverlay();
+}
+
+void FitBoard(Game& game) {
+    const int fitting = FittingCellSize(game.board.puzzle.Size(), game.pictures.ContainerExtent().width);
+    game.board.FittedCellSize = fitting;
+    LayOutBoard(game, fitting);
+}
+
+void ShowPuzzleLabels(Game& game, const std::string& path) {
+    const Puzzle& puzzle = game.board.puzzle;
+    game.window.SetText(WindowText::BoardSize, NumText(puzzle.Rows) + "x" + NumText(puzzle.Cols));
+    game.window.SetText(WindowText::PuzzleCount, " of" + Str(game.collection.PuzzleCount));
+    game.window.SetText(WindowText::CollectionName, FileNameOf(path));
+    game.window.SetToolTip(WindowText::CollectionName, path);
+}
+
+void CentreBoard(Game& game) {
+    CentreBoard(game.board.layout, game.pictures.ContainerExtent());
+    game.pictures.PlacePicture();
+}
+
+void ShowEmptyBoard(Game& game) {
+    PutOnBoard(game, Puzzle(game.board.puzzle.Size()));
+    LayOutBoard(game, game.board.layout.CellSize);
+    RedrawBoard(game, false);
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "cli/collection_lines.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "model/file_error.h"
+#include "model/puzzle_record.h"
+
+namespace tidewalk {
+
+CollectionLines::CollectionLines(Console& console, const std::string& path)
+    : path_(path),
+      stopSignal_(console.stopSignal),
+      file_(path == kStandard ? nullptr : std::make_unique<InputDescriptor>(path, console.stopSignal)),
+      reader_(file_ ? *file_ : *console.in.rdbuf(), path),
+      size_(file_ ? file_->Size() : -1) {}
+
+/// Reads a line, as much of it as a record may have and a byte that shows that it has more.
+bool CollectionLines::ReadLine(std::string& text) {
+    const std::uint64_t start = reader_.Position();
+    try {
+        return reader_.Next(text, kLongestRecord + 1);
+    } catch (const FileError&) {
+        if (reader_.Position() - start <= kLongestLine) throw;
+        throw FileError(path_ + ": line " + std::to_string(number_ + 1) + " has no end");
+    }
+}
+
+bool CollectionLines::Next(NumberedLine& line) {
+    line.text.clear();
+    if (ended_ || stopSignal_ != 0) return false;
+    const bool read = ReadLine(line.text);
+    ended_ = !read || !reader_.LineEnded();
+    // A signal in the middle of a line looks like the end of the file.
+    if (!read || (ended_ && stopSignal_ != 0)) return false;
+    line.number = ++number_;
+    line.part = size_ <= 0 ? -1 : static_cast<double>(reader_.Position()) / static_cast<double>(size_);
+    return true;
+}
+
+std::optional<Puzzle> ReadOnePuzzle(Console& console, const std::string& path, int number) {
+    CollectionLines lines(console, path);
+    NumberedLine line;
+    while (lines.Number() < number && lines.Next(line)) {
+    }
+    if (lines.Number() < number) {
+        if (!console.Stopped()) SayIfMissing(console, path, {number, number}, lines.Number());
+        return std::nullopt;
+    }
+    std::optional<Puzzle> puzzle = ParsePuzzleRecord(line.text);
+    if (!puzzle) SayOfPuzzle(console, path, number, kNoRecord);
+    return puzzle;
+}
+
+int SayIfMissing(Console& console, const std::string& path, const PuzzleRange& range, int count) {
+    const int firstMissing = std::max(range.first, count + 1);
+    // All puzzles of a file are never too many.
+    if (range.last == PuzzleRange::kEnd || firstMissing > range.last) return 0;
+    const std::string holds = count == 0 ? "the file is empty" : "the last one is " + std::to_string(count);
+    SayOfPuzzle(console, path, firstMissing, "there is no such puzzle, " + holds);
+    return 1;
+}
+
+}  // namespace tidewalk

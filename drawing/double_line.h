@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+// The two strokes of a double bridge.
+#pragma once
+
+#include "drawing/surface.h"
+
+namespace tidewalk {
+
+/// Two strokes between points of one row or column, the second one `gap` twips to the right of the first or below it.
+void DrawDoubleLine(Surface& target, double x1, double y1, double x2, double y2, double gap, Colour colour);
+
+}  // namespace tidewalk

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: MIT
+#include "drawing/render_puzzle.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "drawing/double_line.h"
+#include "model/numbers.h"
+
+namespace tidewalk {
+
+namespace {
+
+constexpr int kLargestPrintedCell = 900;
+constexpr int kPuzzleBelowOffset = 800;
+constexpr int kSolutionBelowOffset = 11800;
+constexpr int kHeadingY = 11500;
+constexpr int kTitleAboveOffset = 200;
+constexpr double kTitleSize = 8;
+constexpr double kHeadingSize = 6;
+constexpr double kSolutionNumberSize = 5;
+constexpr double kFooterSize = 6;
+constexpr double kFooterGap = 120;  ///< above the footer, in twips
+constexpr double kHeadingGap = 60;  ///< between a heading in the margin and the board, in twips
+
+/// Two fifths of a cell: discs of neighbours two cells apart leave more than a cell of their bridges to be seen, and
+/// both strokes of a double bridge, a seventh of a cell apart at most, end well inside the disc.
+constexpr double kRadiusInCells = 0.4;
+
+/// A digit reaches about this far from its centre, corner to corner, in twips for each point of its size.
+constexpr double kDigitReach = 9.2;
+
+/// The drawn rectangle grows by everything that is drawn.
+void Include(Surface::Area& drawn, double left, double top, double right, double bottom) {
+    drawn.left = std::min(drawn.left, left);
+    drawn.top = std::min(drawn.top, top);
+    drawn.right = std::max(drawn.right, right);
+    drawn.bottom = std::max(drawn.bottom, bottom);
+}
+
+/// The pen, but no wider than leaves the two strokes of a double bridge clearly apart.
+int LimitedPen(const PrintedBoard& board, int lineWidth) {
+    constexpr double kShare = 0.55;
+    const int widest = static_cast<int>(board.Gap() / kTwipsPerPen * kShare);
+    return std::clamp(lineWidth, 1, std::max(widest, 1));
+}
+
+/// `text` without its middle, as long as it can be in `width` twips; characters of several bytes stay whole.
+std::string Shortened(Surface& surface, const std::string& text, double width) {
+    if (surface.TextExtent(text).width <= width) return text;
+    const auto cut = [&text](std::size_t kept) {
+        std::size_t head = kept / 2;
+        std::size_t tail = text.size() - (kept - head);
+        const auto continues = [&text](std::size_t at) {
+            return (static_cast<unsigned char>(text[at]) & 0xC0U) == 0x80U;
+        };
+        while (head > 0 && continues(head))
+            --head;
+        while (tail < text.size() && continues(tail))
+            ++tail;
+        return text.substr(0, head) + "..." + text.substr(tail);
+    };
+    std::size_t fits = 0;
+    for (std::size_t step = std::size_t{1} << 16U; step > 0; step /= 2) {
+        if (fits + step < text.size() && surface.TextExtent(cut(fits + step)).width <= width) fits += step;
+    }
+    return cut(fits);
+}
+
+void PrintText(Surface& surface, double x, double y, const std::string& text, Surface::Area& drawn) {
+    const Surface::Extent extent = surface.TextExtent(text);
+    surface.Print(x, y, text, kBlack);
+    Include(drawn, x, y, x + extent.width, y + extent.height);
+}
+
+std::string FooterText() {
+    return "Tidewalk - bridges puzzles to play, solve and make";
+}
+
+void DrawBridges(const Puzzle& puzzle, Surface& surface, const PrintedBoard& board) {
+    for (const Link& link : puzzle.LinkList) {
+        const CellPlace a = puzzle.PlaceOf(link.first);
+        const CellPlace b = puzzle.PlaceOf(link.second);
+        const double x1 = board.X(a.col);
+        const double y1 = board.Y(a.row);
+        const double x2 = board.X(b.col);
+        const double y2 = board.Y(b.row);
+        if (link.Bridges() == 1) surface.Line(x1, y1, x2, y2, kBlack);
+        if (link.Bridges() == 2) DrawDoubleLine(surface, x1, y1, x2, y2, board.Gap(), kBlack);
+    }
+}
+
+void DrawIslands(const Puzzle& puzzle, Surface& surface, const PrintedBoard& board, Surface::Area& drawn) {
+    const double reach = board.Radius() + board.lineWidth * kTwipsPerPen / 2;
+    for (CellNumber id = 1; id <= puzzle.CellCount(); ++id) {
+        const int number = puzzle.IslandAt(id);
+        if (number <= 0) continue;
+        const auto [row, col] = puzzle.PlaceOf(id);
+        const std::string text = NumText(number);
+        const Surface::Extent extent = surface.TextExtent(text);
+        const double x = board.X(col);
+        const double y = board.Y(row);
+        surface.Circle(x, y, board.Radius(), kBlack, kWhite);
+        surface.Print(x - extent.width / 2, y - extent.height / 2, text, kBlack);
+        Include(drawn, x - reach, y - reach, x + reach, y + reach);
+    }
+}
+
+void DrawBoard(const Puzzle& puzzle, Surface& surface, const PrintedBoard& board, bool solution, Surface::Area& drawn) {
+    surface.SetDrawWidth(board.lineWidth);
+    surface.SetFontSize(board.fontSize);
+    if (solution) DrawBridges(puzzle, surface, board);
+    DrawIslands(puzzle, surface, board, drawn);
+}
+
+/// The heading stands at a fixed height, which boards of 15 to 22 rows reach; it then goes into the left margin.
+void PrintHeading(const Puzzle& puzzle, Surface& surface, const RenderRequest& request, const PrintedBoard& board,
+                  Surface::Area& drawn) {
+    surface.SetFontSize(kHeadingSize);
+    const std::string text = "Solution" + Str(puzzle.Rows) + "x" + NumText(puzzle.Cols);
+    const double boardEnd = board.top + puzzle.Rows * board.cell;
+    double x = request.x0;
+    if (boardEnd > kHeadingY) x -= surface.TextExtent(text).width + kHeadingGap;
+    PrintText(surface, std::max(x, request.limit.left), kHeadingY, text, drawn);
+}
+
+/// Title on top, footer under the boards of a picture or at the foot of a page.
+void PrintTitleLine(Surface& surface, const RenderRequest& request, Surface::Area& drawn) {
+    surface.SetFontSize(kTitleSize);
+    const std::string title = Shortened(surface, request.title, request.limit.right - request.x0);
+    PrintText(surface, request.x0, request.y0 - kTitleAboveOffset, title, drawn);
+}
+
+void PrintFooter(Surface& surface, const RenderRequest& request, Surface::Area& drawn) {
+    surface.SetFontSize(kFooterSize);
+    const double height = surface.TextExtent(FooterText()).height;
+    const double y = request.mode == RenderMode::Page ? request.limit.bottom - height : drawn.bottom + kFooterGap;
+    PrintText(surface, request.x0, y, FooterText(), drawn);
+}
+
+double FooterHeight(Surface& surface) {
+    surface.SetFontSize(kFooterSize);
+    return surface.TextExtent(FooterText()).height + kFooterGap;
+}
+
+/// The cell that the larger side of the board asks for, before its limit.
+int WantedCell(const Puzzle& puzzle) {
+    return 965 - 30 * (puzzle.MaxDim() - 5);
+}
+
+}  // namespace
+
+double PrintedBoard::Radius() const {
+    return kRadiusInCells * cell;
+}
+
+int PrintedBoard::Gap() const {
+    return RoundHalfEven(cell / 8.0);
+}
+
+PrintedBoard LayoutPrintedPuzzle(const Puzzle& puzzle, const RenderRequest& request) {
+    PrintedBoard board;
+    board.cell = std::min(WantedCell(puzzle), kLargestPrintedCell);
+    board.half = RoundHalfEven(WantedCell(puzzle) / 2.0);
+    board.left = request.x0;
+    board.top = request.y0 + kPuzzleBelowOffset;
+    board.fontSize = 14 - (puzzle.Rows - 5) / 3.0;
+    board.lineWidth = LimitedPen(board, request.lineWidth);
+    return board;
+}
+
+PrintedBoard LayoutPrintedSolution(const Puzzle& puzzle, const RenderRequest& request, double footerHeight) {
+    PrintedBoard board = LayoutPrintedPuzzle(puzzle, request);
+    board.top = request.y0 + kSolutionBelowOffset;
+    const double width = (request.limit.right - board.left) / std::max(puzzle.Cols, 1);
+    const double height = (request.limit.bottom - footerHeight - board.top) / std::max(puzzle.Rows, 1);
+    const int fitting = std::max(static_cast<int>(std::floor(std::min(width, height))), 1);
+    if (fitting < board.cell) {
+        board.cell = fitting;
+        board.half = RoundHalfEven(fitting / 2.0);
+    }
+    board.fontSize = std::min(kSolutionNumberSize, board.Radius() / kDigitReach);
+    board.lineWidth = LimitedPen(board, request.lineWidth);
+    return board;
+}
+
+Surface::Area RenderPuzzle(const Puzzle& puzzle, Surface& surface, const RenderRequest& request) {
+    const PrintedBoard board = LayoutPrintedPuzzle(puzzle, request);
+    const double top = request.y0 - kTitleAboveOffset;
+    Surface::Area drawn{static_cast<double>(request.x0), top, static_cast<double>(request.x0), top};
+    if (request.mode != RenderMode::Page) surface.Clear(kWhite);
+    PrintTitleLine(surface, request, drawn);
+    DrawBoard(puzzle, surface, board, request.mode == RenderMode::Solution, drawn);
+    if (request.mode == RenderMode::Page) {
+        PrintHeading(puzzle, surface, request, board, drawn);
+        const PrintedBoard solution = LayoutPrintedSolution(puzzle, request, FooterHeight(surface));
+        DrawBoard(puzzle, surface, solution, true, drawn);
+    }
+    PrintFooter(surface, request, drawn);
+    return drawn;
+}
+
+std::string PrintTitle(std::string_view kind, int number, const std::string& path) {
+    return std::string(kind) + Str(number) + " file:" + path;
+}
+
+RenderRequest PictureRequest(RenderMode mode, std::string title, int lineWidth) {
+    return {kPictureOffset, kPictureOffset, mode, std::move(title), lineWidth, {0, 0, kPictureExtent, kPictureExtent}};
+}
+
+RenderRequest PageRequest(std::string title, int lineWidth, const Surface::Area& printable) {
+    return {kPageOffsetX, kPageOffsetY, RenderMode::Page, std::move(title), lineWidth, printable};
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+// The game: what the window's handlers share.
+#pragma once
+
+#include <string>
+
+#include "board/board.h"
+#include "game/job_state.h"
+#include "game/list_box.h"
+#include "game/main_window.h"
+#include "game/messages.h"
+#include "game/output.h"
+#include "game/questions.h"
+#include "model/random_source.h"
+#include "options/options.h"
+
+namespace tidewalk {
+
+/// One reference to each seam, the ways in which handlers reach the world.
+struct Seams {
+    Prompts& prompts;
+    FilePicker& filePicker;
+    Questions& questions;
+    MainWindow& window;
+    BoardPictures& pictures;
+    PendingEvents& events;
+    Clock& clock;
+    Clipboard& clipboard;
+    Printers& printers;
+};
+
+/// The collection that is open, and the place in it of the puzzle that was loaded last.
+struct Collection {
+    std::string CollectionPath;
+    int PuzzleNumber = 0;  ///< from 1; 0 before the first load
+    int PuzzleCount = 0;   ///< lines of the collection
+
+    /// A load that failed has left its file open, and as long as it is, the next load fails too. Whoever begins
+    /// something else with files closes it.
+    bool leftOpen = false;
+};
+
+/// One run of the program. Games share nothing; every test makes its own.
+struct Game : Seams {
+    explicit Game(const Seams& seams) : Seams(seams), random([this] { return clock.Timer(); }) {}
+    Game(const Game&) = delete;
+    Game& operator=(const Game&) = delete;
+
+    Board board;
+    Collection collection;
+    Options options;
+    JobState job;
+    RandomSource random;
+
+    ListBox List1{ListBox::Order::Sorted};   ///< the island status list, or the lines of the last check
+    ListBox List2{ListBox::Order::AsAdded};  ///< the open choice points of the trial search
+
+    std::string AppFolder;         ///< the program's folder, with a separator at its end
+    std::string ColourListPath;    ///< "all.col" in it
+    std::string SolutionTempPath;  ///< "TempPuzzleSolFile.tdw" in it
+    std::string printerName;       ///< the printer that was chosen last, "" for the system's own choice
+};
+
+}  // namespace tidewalk

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "game/job.h"
+
+#include "solver/status_list.h"
+
+namespace tidewalk {
+
+bool RefuseWhileBusy(Game& game) {
+    if (!game.job.BusyFlag()) return false;
+    game.prompts.Show("Cancel Autosolve first", "vbinformation+vbok");
+    return true;
+}
+
+void LetEventsThrough(Game& game) {
+    game.events.DoEvents();
+    game.job.Polled(game.clock.Milliseconds());
+}
+
+void PollEvents(Game& game) {
+    if (game.job.PollIsDue(game.clock.Milliseconds())) LetEventsThrough(game);
+}
+
+Job::Job(Game& game) : game_(game) {
+    game_.job.Begin();
+}
+
+Job::~Job() {
+    game_.job.End();
+    game_.window.SetProgress(0, 0);
+}
+
+MayGoOn Watched(Game& game, const SolverBoard& board) {
+    return [&game, &board] {
+        if (game.job.PollIsDue(game.clock.Milliseconds())) {
+            ShowWorkLists(game, board);
+            LetEventsThrough(game);
+        }
+        return !game.job.MustStop();
+    };
+}
+
+void ShowWorkLists(Game& game, const SolverBoard& board) {
+    game.List1.SetLines(StatusLines(board));
+    game.List2.SetLines(ChoicePointLines(board));
+}
+
+}  // namespace tidewalk

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Whether a long job runs, and whether it has to stop.
+#pragma once
+
+#include <cstdint>
+
+namespace tidewalk {
+
+/// What the handlers know of the running job. Whatever changes it does so through the functions here.
+class JobState {
+ public:
+    /// A long job runs: the board takes no moves, and commands that would replace the puzzle refuse.
+    bool BusyFlag() const { return busy_; }
+
+    /// The running job was asked to stop.
+    bool CancelFlag() const { return cancelled_; }
+
+    /// Another puzzle was loaded in the middle of the running job.
+    bool Superseded() const { return superseded_; }
+
+    /// The window was closed: jobs stop, nothing more is asked or saved.
+    bool Ending() const { return ending_; }
+
+    /// The running job is to stop as soon as it can.
+    bool MustStop() const { return cancelled_ || superseded_ || ending_; }
+
+    void Cancel() { cancelled_ = true; }
+    void TakeBackCancel() { cancelled_ = false; }
+    void EndProgram() { ending_ = true; }
+    /// The board holds another puzzle now.
+    void PuzzleReplaced() { superseded_ = busy_; }
+
+    /// True when 20 ms have passed since pending events last happened, so that a loop may ask as often as it likes.
+    /// `now` in milliseconds.
+    bool PollIsDue(std::int64_t now) const;
+    void Polled(std::int64_t now) { lastPoll_ = now; }
+
+    /// For `Job` alone: a job begins, takes what is on the board for its own, ends.
+    void Begin();
+    void Adopt() { superseded_ = false; }
+    void End();
+
+ private:
+    bool busy_ = false;
+    bool cancelled_ = false;
+    bool superseded_ = false;
+    bool ending_ = false;
+    std::int64_t lastPoll_ = 0;
+};
+
+}  // namespace tidewalk

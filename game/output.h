@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+// The seams of what leaves the program as a picture: the clipboard and the printers.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "drawing/surface.h"
+
+namespace tidewalk {
+
+/// What draws a picture or a page: it draws on the surface, which takes pen widths in 1/300 inch, and returns the
+/// rectangle that holds what it drew, in twips.
+using DrawFunction = std::function<Surface::Area(Surface&)>;
+
+/// What draws a page: the surface, and the rectangle of the paper that can be printed on, in twips from its corner.
+using PageFunction = std::function<void(Surface&, const Surface::Area&)>;
+
+/// The system's clipboard.
+class Clipboard {
+ public:
+    virtual ~Clipboard() = default;
+
+    /// The clipboard's text, "" when it holds none.
+    virtual std::string Text() = 0;
+
+    /// Puts a picture on the clipboard, cut to what `draw` drew and an equal margin on all sides. `draw` may be called
+    /// more than once. False when the picture could not be made; the clipboard then stays as it was.
+    virtual bool SetPicture(const DrawFunction& draw) = 0;
+};
+
+/// A document on its way to a printer. One that goes away before its end is not printed.
+class PrintDocument {
+ public:
+    virtual ~PrintDocument() = default;
+
+    /// The current page, with pen widths in 1/300 inch.
+    virtual Surface& Page() = 0;
+
+    /// The rectangle of the page that can be printed on, in twips from the paper's corner.
+    virtual Surface::Area Printable() const = 0;
+
+    /// Begins the next page. False when the printer refuses.
+    virtual bool NewPage() = 0;
+
+    /// Hands the document over. False when that failed.
+    virtual bool End() = 0;
+
+    /// Why the last call failed, in words for the player.
+    virtual std::string Error() const = 0;
+};
+
+/// The printer that is always there: a file.
+inline constexpr std::string_view kPdfPrinter = "PDF file";
+
+/// The printers.
+class Printers {
+ public:
+    virtual ~Printers() = default;
+
+    /// All names, the system's default first and `kPdfPrinter` last.
+    virtual std::vector<std::string> Names() = 0;
+
+    /// Begins a document. `file` is the path that `kPdfPrinter` writes to; a file that is there is replaced at the end
+    /// of the document. Nothing comes back when the printer refuses; the reason is then in `error`.
+    virtual std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
+                                                 std::string& error) = 0;
+
+    /// Shows what a document of this one page looks like on a printer.
+    virtual void Preview(const std::string& printer, const PageFunction& draw) = 0;
+};
+
+}  // namespace tidewalk

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+// The seams of what is asked in windows of its own: a file, a batch, a range to print.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tidewalk {
+
+/// What the file-name picker is to ask.
+struct FileRequest {
+    enum class Mode { Open, Save };
+
+    std::string title;
+    std::string patterns;     ///< "*.tdw;*.txt;*.dat"
+    std::string patternName;  ///< "Tidewalk Files"
+    std::string startFolder;
+    Mode mode = Mode::Open;
+};
+
+/// Asks for a file name.
+class FilePicker {
+ public:
+    virtual ~FilePicker() = default;
+
+    /// The chosen path, or "" when the player thinks better of it. Never asks about overwriting.
+    virtual std::string Pick(const FileRequest& request) = 0;
+};
+
+/// A batch of new puzzles: the texts as they were typed.
+struct BatchRequest {
+    std::string count;
+    std::string rows;
+    std::string cols;
+    std::string outputFile;
+};
+
+/// Puzzles of a collection to print, as far as the player has come with saying which.
+struct PrintRequest {
+    std::string collection;
+    std::string first;  ///< the first puzzle, as typed
+    std::string last;
+    int puzzleCount = 0;                ///< in the collection, as last counted
+    std::vector<std::string> printers;  ///< to choose from
+    std::string printer;                ///< the chosen one
+};
+
+/// The windows that a command waits for.
+class Questions {
+ public:
+    virtual ~Questions() = default;
+
+    /// Asks for a batch of new puzzles. True when OK was accepted; `request` then holds what was typed.
+    virtual bool AskBatch(BatchRequest& request) = 0;
+
+    /// Asks for puzzles to print, beginning with `request`. True when OK was accepted.
+    virtual bool AskPrint(PrintRequest& request) = 0;
+};
+
+}  // namespace tidewalk

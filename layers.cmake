@@ -1,0 +1,71 @@
+# SPDX-License-Identifier: MIT
+# The layers of the house, from the ground up. A layer is a static library; its files see those of the layers that it
+# stands on and no others, which the test "Layers" checks include by include.
+#
+# tidewalk_layer(NAME [ON LAYER...] FILES STEM...): a stem stands for its .h and its .cpp, whichever there are.
+
+function(tidewalk_layer name)
+    cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "ON;FILES")
+    set(files "")
+    foreach(stem IN LISTS layer_FILES)
+        foreach(file IN ITEMS ${stem}.h ${stem}.cpp)
+            if(EXISTS ${CMAKE_SOURCE_DIR}/${file})
+                list(APPEND files ${file})
+            endif()
+        endforeach()
+    endforeach()
+    list(TRANSFORM files PREPEND ${CMAKE_SOURCE_DIR}/ OUTPUT_VARIABLE sources)
+    add_library(tidewalk_${name} STATIC ${sources})
+    set_target_properties(tidewalk_${name} PROPERTIES LINKER_LANGUAGE CXX)
+    target_include_directories(tidewalk_${name} PUBLIC ${CMAKE_SOURCE_DIR})
+    list(TRANSFORM layer_ON PREPEND tidewalk_ OUTPUT_VARIABLE below)
+    target_link_libraries(tidewalk_${name} PUBLIC tidewalk_build ${below})
+    file(WRITE ${CMAKE_BINARY_DIR}/layers/${name}.cmake "set(layers_below ${layer_ON})\nset(layer_files ${files})\n")
+endfunction()
+
+file(REMOVE_RECURSE ${CMAKE_BINARY_DIR}/layers)
+
+# The engine: values and functions that know no window, no shared state and no event. The standard library alone.
+
+tidewalk_layer(model FILES
+    model/cell_set model/cell_words model/characters model/check model/collection_file model/convert_layout
+    model/file_error model/grid model/line_reader model/link model/may_go_on model/numbers model/paths
+    model/plain_grid model/puzzle model/puzzle_record model/random_source model/replace_file)
+
+tidewalk_layer(solver ON model FILES
+    solver/connect_islands solver/contradictions solver/count_solutions solver/difficulty solver/laid_bridges
+    solver/link_table solver/neighbours solver/rules solver/solve_puzzle solver/solver_board solver/status_list
+    solver/trial_search solver/valid_solution)
+
+tidewalk_layer(generator ON solver FILES
+    generator/create_puzzle generator/grid_size generator/grow generator/shuffle_lines)
+
+# The picture of a puzzle on any surface, and the board with what the player has done on it: on values, too.
+
+tidewalk_layer(drawing ON model FILES
+    drawing/contrast drawing/double_line drawing/render_puzzle drawing/surface)
+
+tidewalk_layer(board ON drawing FILES
+    board/board board/bridge_table board/check_bridges board/drawing board/history board/layout board/place_bridge
+    options/options)
+
+# The game: what the window's handlers share, and the seams to the world.
+
+tidewalk_layer(game ON board generator FILES
+    game/game game/job game/job_state game/list_box game/main_window game/messages game/output game/pick_file
+    game/questions game/system_clock)
+
+# The handlers of menus, buttons, mouse and keys, each beside its subject.
+
+tidewalk_layer(commands ON game FILES
+    board/board_commands board/board_keys board/board_mouse board/copy_and_print board/print_pages board/show_board
+    generator/batch generator/new_puzzle generator/shuffle
+    model/collection_commands model/configuration model/import_grid model/load_puzzle model/navigation
+    model/number_grid
+    options/colour_scheme options/options_form options/window_colours
+    solver/auto_solve)
+
+# The start and the end of a run.
+
+tidewalk_layer(program ON commands FILES
+    program/escape program/exit program/first_collection program/form_load)

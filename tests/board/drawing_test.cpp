@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: MIT
+// The board's geometry and its picture.
+#include "board/drawing.h"
+
+#include <gtest/gtest.h>
+
+#include "drawing/contrast.h"
+#include "support/board_text.h"
+#include "support/doubles.h"
+
+namespace tidewalk::test {
+namespace {
+
+TEST(Layout, FollowsFromTheCellSize) {
+    const BoardLayout layout = LayoutBoard({7, 9}, 250, {9000, 7000});
+    EXPECT_EQ(layout.DoubleGap, 42);
+    EXPECT_EQ(layout.Picture1, (Frame{(9000 - 2587.5) / 2, (7000 - 2012.5) / 2, 2587.5, 2012.5}));
+    // The origin, 168.75 and 256.25: half a cell lower than in the middle.
+    EXPECT_EQ(layout.At({3, 7}), (Point{169 + 6 * 250, 256 + 2 * 250}));
+    struct {
+        int wanted, cell, half, pen;
+    } const cases[] = {{0, 300, 150, 1},   {1, 200, 100, 1},   {205, 205, 102, 1}, {399, 399, 200, 1},
+                       {400, 400, 200, 2}, {600, 600, 300, 3}, {701, 700, 350, 3}};
+    for (const auto& expected : cases) {
+        const BoardLayout other = LayoutBoard({7, 7}, expected.wanted, {9000, 9000});
+        EXPECT_EQ(other.CellSize, expected.cell);
+        EXPECT_EQ(other.HalfCell, expected.half);
+        EXPECT_EQ(other.LineWidth, expected.pen);
+        EXPECT_EQ(other.fontSize, expected.cell / 50.0);
+    }
+    EXPECT_EQ(FittingCellSize({25, 9}, 9000), 333);
+    EXPECT_EQ(FittingCellSize({7, 8}, 4505), 450) << "450.5, halves go to even";
+}
+
+TEST(Layout, ACellReachesHalfACellAroundItsIsland) {
+    const BoardLayout layout = LayoutBoard({7, 9}, 300, {9000, 9000});
+    const Point at = layout.At({1, 4});
+    EXPECT_EQ(CellUnder(layout, {at.x - 149, at.y + 149}), (CellPlace{1, 4}));
+    EXPECT_EQ(CellUnder(layout, {at.x - 151, at.y + 150}), (CellPlace{2, 3}));
+    EXPECT_EQ(CellUnder(layout, {at.x, at.y - 151}), (CellPlace{0, 4}));
+    CellUnder(layout, {1e300, -1e300});
+}
+
+/// A board of one row in cells of 400 twips and colours that are easy to tell apart. Its islands are a 1 at (90, 230)
+/// and a 2 at (890, 230), 300 twips wide, their numbers 80 wide and 160 high.
+struct Drawn : testing::Test {
+    Drawn() {
+        options.SchemeColours[kBackgroundEntry] = kWhite;
+        options.SchemeColours[kOutlineEntry] = 33;
+        options.GridColour = 1;
+        options.NodeColour = 2;
+        options.GivenColour = 3;
+        options.ChainColour = 4;
+        Take("1-2");
+    }
+    void Take(const std::string& row) {
+        board.puzzle = PuzzleFrom({row});
+        board.layout = LayoutBoard(board.puzzle.Size(), 400, {9000, 9000});
+    }
+
+    /// What is drawn, but for the outlines of all cells but the first.
+    std::string Redraw(bool solution) const {
+        BoardPicture picture;
+        BoardDrawing(picture, board, options).RedrawBoard(solution);
+        EXPECT_EQ(picture.Count("box"), 3);
+        picture.calls.erase(picture.calls.begin() + 3, picture.calls.begin() + 5);
+        std::string all;
+        for (const std::string& call : picture.calls)
+            all += (all.empty() ? "" : ", ") + call;
+        return all;
+    }
+
+    Board board;
+    Options options;
+    const std::string start = "clear 16777215, pen 1, box -110 30 290 430 33, pen 2, ";
+    const std::string ends =
+        "filledbox -60 80 240 380 2, print 50 150 1 3, filledbox 740 80 1040 380 2, print 850 150 2 3";
+    const std::string line = "line 90 230 890 230 ";
+    const std::string second = "line 90 297 890 297 ";  ///< of a double line
+};
+
+TEST_F(Drawn, BoardHasOutlinesLinesAndIslands) {
+    EXPECT_EQ(Redraw(false), start + line + "1, " + ends + ", pen 4, pen 2");
+    options.ShowLines = 0;
+    options.NodeShape = 1;
+    EXPECT_EQ(Redraw(false), start +
+                                 "circle 90 230 200 2 2, print 50 150 1 3, circle 890 230 200 2 2, print 850 150 2 3, "
+                                 "pen 4, pen 2");
+}
+
+TEST_F(Drawn, SolutionHasItsBridgesWhateverElseShows) {
+    options.ShowLines = 0;
+    options.ShowFinished = 1;
+    board.BridgeState.Set(1, 3, 1);
+    EXPECT_EQ(Redraw(true), start + line + "1, " + ends);
+    board.puzzle.LinkList = {MakeLink(1, 3, 0), MakeLink(3, 1, 2)};
+    EXPECT_EQ(Redraw(true), start + line + "1, " + second + "1, " + ends);
+}
+
+TEST_F(Drawn, PlayersBridgesLieOverTheIslandsAndUnderTheirEnds) {
+    Take("1.2");
+    board.OpenNeighbours[3].Append(1);
+    board.BridgeState.Set(3, 1, 1);
+    const std::string before = start + "line 890 230 90 230 1, " + ends + ", pen 4, ";
+    std::string drawn = Redraw(false);
+    std::string expected = before + line + "16777215, " + second + "16777215, " + line + "4, " + ends + ", ";
+    EXPECT_EQ(drawn.substr(0, expected.size()), expected);
+    board.BridgeState.Set(3, 1, 2);
+    drawn = Redraw(false);
+    expected = before + line + "4, " + second + "4, " + ends + ", ";
+    EXPECT_EQ(drawn.substr(0, expected.size()), expected);
+}
+
+TEST_F(Drawn, FinishedIslandsArePaleAndAllNumbersCanBeRead) {
+    Take("1.2");
+    options.NodeColour = options.GivenColour = kBlack;
+    EXPECT_NE(Redraw(false).find("print 50 150 1 16777215, "), std::string::npos);
+    options.ShowFinished = 1;
+    board.BridgeState.Set(1, 3, 1);
+    // A black rim of an eighth of the shape around a light grey, and a dark number; the other one lacks a bridge.
+    const std::string pale = "filledbox -60 80 240 380 0, filledbox -42 98 222 362 " +
+                             std::to_string(Mixed(kBlack, kWhite, 0.8)) +
+                             ", print 50 150 1 0, filledbox 740 80 1040 380 0, print 850 150 2 16777215, ";
+    EXPECT_EQ(Redraw(false).substr(start.size(), pale.size()), pale);
+}
+
+}  // namespace
+}  // namespace tidewalk::test

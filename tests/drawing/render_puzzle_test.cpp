@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: MIT
+// The picture of a puzzle, and what can be told from its background.
+#include "drawing/render_puzzle.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <sstream>
+#include <tuple>
+
+#include "drawing/contrast.h"
+#include "support/board_text.h"
+#include "support/recording_surface.h"
+
+namespace tidewalk::test {
+namespace {
+
+/// A4 and Letter, of which a quarter of an inch is left on every side.
+const Surface::Area kPapers[] = {{360, 360, 11546, 16478}, {360, 360, 11880, 15480}};
+
+const std::string kTitle = "Puzzle# 1 file:x";
+
+/// A board of this size with islands in its corners.
+Puzzle Corners(int rows, int cols) {
+    Puzzle puzzle({rows, cols});
+    puzzle.SetIsland(1, 8);
+    puzzle.SetIsland(puzzle.CellCount(), 8);
+    return puzzle;
+}
+
+/// The numbers of a recorded call.
+std::vector<double> NumbersOf(const std::string& call) {
+    std::istringstream words(call.substr(call.find(' ')));
+    std::vector<double> numbers;
+    for (double number = 0; words >> number;)
+        numbers.push_back(number);
+    return numbers;
+}
+
+std::string CallWith(const RecordingSurface& surface, const std::string& text) {
+    const auto found = std::find_if(surface.calls.begin(), surface.calls.end(),
+                                    [&](const std::string& call) { return call.find(text) != std::string::npos; });
+    return found == surface.calls.end() ? "" : *found;
+}
+
+TEST(RenderPuzzle, CellShrinksWithTheLargerSideAndNumbersWithTheRows) {
+    // Rows, columns, the cell, its half, the numbers' size.
+    const std::tuple<int, int, int, int, double> cases[] = {{7, 7, 900, 452, 13.333},
+                                                            {8, 8, 875, 438, 13},
+                                                            {7, 25, 365, 182, 13.333},
+                                                            {25, 7, 365, 182, 7.333},
+                                                            {25, 25, 365, 182, 7.333}};
+    for (const auto& [rows, cols, cell, half, fontSize] : cases) {
+        const PrintedBoard board =
+            LayoutPrintedPuzzle(Corners(rows, cols), PictureRequest(RenderMode::Puzzle, kTitle, 4));
+        EXPECT_EQ(board.cell, cell) << rows << "x" << cols;
+        EXPECT_EQ(board.half, half) << rows << "x" << cols;
+        EXPECT_NEAR(board.fontSize, fontSize, 0.001) << rows << "x" << cols;
+    }
+}
+
+TEST(RenderPuzzle, PictureIsDrawnFromItsTitleToItsFooter) {
+    const Puzzle puzzle = PuzzleFrom({"2=5-1.", "..I...", "..2..."});
+    RecordingSurface picture;
+    const Surface::Area drawn = RenderPuzzle(puzzle, picture, PictureRequest(RenderMode::Solution, kTitle, 9));
+    // A cell is 900 twips and its centre 468 from its corner. The pen reaches out of an island by half its width. A
+    // digit of 15 points is 147 twips wide and 293 high.
+    const Rows calls{"clear 16777215",
+                     "print 400 200 Puzzle# 1 file:x 0",
+                     "line 2668 1668 4468 1668 0",
+                     "line 868 1668 2668 1668 0",
+                     "line 868 1780 2668 1780 0",
+                     "line 2668 1668 2668 3468 0",
+                     "line 2780 1668 2780 3468 0",
+                     "circle 868 1668 360 0 16777215",
+                     "print 794.667 1521.33 2 0",
+                     "circle 2668 1668 360 0 16777215",
+                     "print 2594.67 1521.33 5 0",
+                     "circle 4468 1668 360 0 16777215",
+                     "print 4394.67 1521.33 1 0",
+                     "circle 2668 3468 360 0 16777215",
+                     "print 2594.67 3321.33 2 0",
+                     "print 400 3969.6 Tidewalk - bridges puzzles to play, solve and make 0"};
+    EXPECT_EQ(picture.calls, calls);
+    EXPECT_EQ(picture.drawWidth, 9);
+    EXPECT_EQ(drawn.left, 400);
+    EXPECT_EQ(drawn.top, 200);
+    EXPECT_GT(drawn.right, 3040);
+    EXPECT_NEAR(drawn.bottom, 4089.6, 0.1);
+    RecordingSurface numbers;
+    RenderPuzzle(puzzle, numbers, PictureRequest(RenderMode::Puzzle, kTitle, 9));
+    EXPECT_EQ(numbers.Count("line"), 0);
+    EXPECT_EQ(numbers.Count("circle"), 4);
+}
+
+TEST(RenderPuzzle, PenLeavesTheStrokesOfADoubleBridgeApart) {
+    const auto widthOf = [](int side, int wanted) {
+        return LayoutPrintedPuzzle(Corners(side, side), PictureRequest(RenderMode::Solution, kTitle, wanted)).lineWidth;
+    };
+    EXPECT_EQ(widthOf(7, 99), 12) << "a bit more than half of the 112 twips between them, in pens of 4.8";
+    EXPECT_EQ(widthOf(25, 99), 5);
+    EXPECT_EQ(widthOf(25, 0), 1);
+}
+
+TEST(RenderPuzzle, PageHoldsEverythingAndTheSolutionIsAsLargeAsItLets) {
+    for (const Surface::Area& paper : kPapers) {
+        const RenderRequest request = PageRequest("Puzzle# 1 file:" + std::string(500, 'x'), 4, paper);
+        for (int cell = 0; cell < kMaxCells; ++cell) {
+            const Puzzle puzzle = Corners(1 + cell / kMaxSide, 1 + cell % kMaxSide);
+            const std::string size = "on " + NumText(puzzle.Rows) + "x" + NumText(puzzle.Cols);
+            RecordingSurface page;
+            const Surface::Area drawn = RenderPuzzle(puzzle, page, request);
+            EXPECT_TRUE(drawn.left >= paper.left && drawn.top >= paper.top) << size;
+            EXPECT_TRUE(drawn.right <= paper.right && drawn.bottom <= paper.bottom) << size;
+            EXPECT_EQ(page.Count("circle"), cell == 0 ? 2 : 4) << size << ": the puzzle and its solution";
+
+            const PrintedBoard whole = LayoutPrintedPuzzle(puzzle, request);
+            const PrintedBoard board = LayoutPrintedSolution(puzzle, request, 200);
+            const bool larger = board.top + puzzle.Rows * (board.cell + 1) <= paper.bottom - 200 &&
+                                board.left + puzzle.Cols * (board.cell + 1) <= paper.right;
+            EXPECT_TRUE(board.cell == whole.cell || !larger) << size;
+            EXPECT_EQ(board.half, board.cell == whole.cell ? whole.half : RoundHalfEven(board.cell / 2.0)) << size;
+            EXPECT_EQ(board.top, 800 + 11800);
+            EXPECT_GT(board.Gap() - board.lineWidth * kTwipsPerPen, board.Gap() * 0.4) << size << ": one thick stroke";
+            EXPECT_LE(std::hypot(board.fontSize * 5.6, board.fontSize * 7.2), board.Radius()) << size << ": a number";
+            EXPECT_LE(board.fontSize, 5);
+        }
+    }
+}
+
+TEST(RenderPuzzle, PageHasItsHeadingWhereTheBoardLeavesRoom) {
+    for (const auto& [rows, atOffset] : {std::pair{7, true}, {14, true}, {15, false}, {22, false}, {25, true}}) {
+        RecordingSurface page;
+        RenderPuzzle(Corners(rows, 9), page, PageRequest(kTitle, 4, kPapers[0]));
+        const std::string heading = CallWith(page, "Solution");
+        EXPECT_NE(heading.find(" Solution " + NumText(rows) + "x9 0"), std::string::npos) << heading;
+        EXPECT_EQ(NumbersOf(heading)[1], 11500);
+        EXPECT_EQ(NumbersOf(heading)[0], atOffset ? 1200 : std::max(360, 1200 - 60 - 60 * (rows < 10 ? 12 : 13)));
+        EXPECT_EQ(NumbersOf(CallWith(page, "Tidewalk"))[1], 16478 - 120) << "the footer stands at the foot";
+        EXPECT_EQ(page.calls.front(), "print 1200 600 Puzzle# 1 file:x 0") << "paper is not cleared";
+    }
+}
+
+TEST(RenderPuzzle, LongTitleLosesItsMiddleBetweenCharacters) {
+    std::string path;
+    for (int i = 0; i < 300; ++i)
+        path += "\xC3\xBC";
+    for (const std::string start : {"", "a"}) {
+        RecordingSurface page;
+        const std::string title = PrintTitle("Puzzle#", 1, start + path + "/end.tdw");
+        RenderPuzzle(Corners(7, 7), page, PageRequest(title, 4, kPapers[0]));
+        const std::string& shown = page.calls.front();
+        EXPECT_EQ(shown.rfind("print 1200 600 Puzzle# 1 file:", 0), 0U);
+        EXPECT_NE(shown.find("/end.tdw 0"), std::string::npos);
+        const std::size_t dots = shown.find("...");
+        ASSERT_NE(dots, std::string::npos);
+        EXPECT_EQ(shown.substr(dots - 2, 2), "\xC3\xBC");
+        EXPECT_EQ(shown.substr(dots + 3, 2), "\xC3\xBC");
+        // 80 twips a byte between the offset and the edge of the page.
+        EXPECT_NEAR(static_cast<double>(shown.size()), 15 + (11546 - 1200) / 80 + 2, 4) << "no shorter than it must be";
+    }
+}
+
+TEST(Contrast, TellsWhatIsLegible) {
+    EXPECT_NEAR(Contrast(kBlack, kWhite), 21, 0.001);
+    EXPECT_NEAR(Contrast(Rgb(0x77, 0x77, 0x77), kWhite), 4.478, 0.001);
+    EXPECT_NEAR(Contrast(Rgb(255, 0, 0), Rgb(0, 0, 10)), 5.229, 0.001);
+    EXPECT_NEAR(Contrast(Rgb(0, 255, 0), Rgb(0, 0, 255)), 6.262, 0.001);
+    EXPECT_EQ(LegibleOn(kWhite, Rgb(0x76, 0x76, 0x76)), Rgb(0x76, 0x76, 0x76));
+    EXPECT_EQ(LegibleOn(kWhite, Rgb(0x77, 0x77, 0x77)), kBlack);
+    EXPECT_EQ(LegibleOn(kWhite, Rgb(0x77, 0x77, 0x77), kShapeContrast), Rgb(0x77, 0x77, 0x77));
+    EXPECT_EQ(LegibleOn(Rgb(0, 0, 120), Rgb(0, 0, 130)), kWhite);
+    EXPECT_EQ(Mixed(Rgb(0, 100, 200), Rgb(100, 0, 200), 0.25), Rgb(25, 75, 200));
+    EXPECT_EQ(Rgb(1, 2, 3), 0x030201U);
+    EXPECT_TRUE(RedOf(0x030201) == 1 && GreenOf(0x030201) == 2 && BlueOf(0x030201) == 3);
+}
+
+}  // namespace
+}  // namespace tidewalk::test

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: MIT
+// Collections on disk: lines, records, the older layout.
+#include "model/collection_file.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <sstream>
+
+#include "model/convert_layout.h"
+#include "model/file_error.h"
+#include "model/line_reader.h"
+#include "support/board_text.h"
+#include "support/temp_folder.h"
+
+namespace tidewalk::test {
+namespace {
+
+constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
+
+/// All lines of a file that holds `bytes`, an end shown as "|".
+std::string LinesOf(const std::string& bytes) {
+    const TempFolder folder;
+    LineReader lines(folder.Write("a", bytes));
+    std::string all;
+    for (std::string line; lines.Next(line);)
+        all += line + (lines.LineEnded() ? "|" : "");
+    EXPECT_EQ(lines.Position(), bytes.size());
+    return all;
+}
+
+TEST(LineReader, TakesBothEndsAndALastLineWithoutOne) {
+    EXPECT_EQ(LinesOf("1\r\n2\n\n4"), "1|2||4");
+    EXPECT_EQ(LinesOf("a\rb\r\r\n"), "a\rb\r|") << "only the CR of the end goes";
+    EXPECT_EQ(LinesOf(""), "");
+    EXPECT_EQ(LinesOf(kByteOrderMark), "");
+    const std::string mark = kByteOrderMark;
+    EXPECT_EQ(LinesOf(mark + "1\n" + mark + "2"), "1|" + mark + "2");
+}
+
+TEST(LineReader, LinesMayBeLongerThanWhatIsReadAtATime) {
+    const std::string longLine(300000, 'x');
+    EXPECT_EQ(LinesOf(longLine + "\r\n" + longLine + "\n3"), longLine + "|" + longLine + "|3");
+    for (const std::size_t length : {131071, 131070, 131072})
+        EXPECT_EQ(LinesOf(std::string(length, 'x') + "\r\ny\r\n"), std::string(length, 'x') + "|y|");
+    const TempFolder folder;
+    LineReader lines(folder.Write("a", longLine + "\nshort\nnext"));
+    std::string line;
+    EXPECT_TRUE(lines.Next(line, 200000));
+    EXPECT_EQ(line.size(), 200000U);
+    EXPECT_TRUE(lines.Next(line, 3));
+    EXPECT_EQ(line, "sho");
+    EXPECT_EQ(lines.Position(), 300007U);
+    EXPECT_TRUE(lines.Skip());
+    EXPECT_FALSE(lines.Skip());
+    EXPECT_FALSE(lines.Next(line));
+    EXPECT_EQ(line, "");
+}
+
+TEST(LineReader, ReadsWhatIsTypedAndRefusesWhatHasNoEnd) {
+    std::istringstream typed("1 one\n2 two");
+    LineReader lines(*typed.rdbuf(), "standard input");
+    std::string line;
+    EXPECT_TRUE(lines.Next(line) && lines.Next(line));
+    EXPECT_EQ(line, "2 two");
+    const TempFolder folder;
+    const std::string path = folder.Write("huge", "7,7,0");
+    std::error_code error;
+    std::filesystem::resize_file(path, std::uintmax_t{1} << 36U, error);
+    if (error) GTEST_SKIP() << "no room for a sparse file: " << error.message();
+    EXPECT_THROW(LineReader(path).Next(line), FileError) << "it would fill the memory";
+    EXPECT_LT(line.size(), kLongestLine + 1000000);
+    EXPECT_FALSE(ReadPuzzle(path, 1));
+}
+
+TEST(Collection, CountsItsLinesAndGivesTheirPuzzles) {
+    const TempFolder folder;
+    const std::string path = folder.Write("a", kByteOrderMark + Record({"1-1"}) + "\r\nno record\n" + Record({"2=2"}));
+    EXPECT_EQ(CountLines(path), 3);
+    EXPECT_EQ(CountLines(folder.Write("b", "1\n")), 1);
+    EXPECT_EQ(CountLines(folder.Path("missing")) + CountLines(folder.Path("")), 0);
+    EXPECT_EQ(ReadPuzzle(path, 1), PuzzleFrom({"1-1"}));
+    EXPECT_EQ(ReadPuzzle(path, 3), PuzzleFrom({"2=2"}));
+    for (const int number : {-1, 0, 2, 4})
+        EXPECT_FALSE(ReadPuzzle(path, number)) << number;
+    std::string line;
+    EXPECT_FALSE(ReadCollectionLine(path, 4, line));
+    EXPECT_TRUE(ReadCollectionLine(path, 2, line));
+    EXPECT_EQ(line, "no record");
+    EXPECT_FALSE(ReadPuzzle(folder.Path(""), 1));
+    EXPECT_THROW(ReadCollectionLine("missing", 1, line), FileError);
+}
+
+TEST(Collection, TakesRecordsAtItsEnd) {
+    const TempFolder folder;
+    AppendRecord("made", "1");
+    AppendRecord("made", "2");
+    EXPECT_EQ(folder.Read("made"), "1\r\n2\r\n");
+    folder.Write("endless", "1");
+    AppendRecord("endless", "2");
+    EXPECT_EQ(folder.Read("endless"), "1\r\n2\r\n") << "a record must not become the tail of another";
+    const Puzzle puzzle = PuzzleFrom({"1-1"});
+    WritePuzzleRecord("made", puzzle, WriteMode::Append);
+    EXPECT_EQ(ReadPuzzle("made", 3), puzzle);
+    WritePuzzleRecord("made", puzzle, WriteMode::Replace);
+    EXPECT_EQ(folder.Read("made"), " 1, 3, 1;D;1-1,\r\n");
+}
+
+TEST(Collection, LosesOneLineThroughAWorkFile) {
+    const TempFolder folder;
+    folder.Write("a", "1\r\n2\n3");
+    EXPECT_EQ(DeleteLine("a", 2, "work"), 2);
+    EXPECT_EQ(folder.Read("a"), "1\r\n3\r\n");
+    EXPECT_EQ(folder.Read("work"), "1\r\n3\r\n");
+    EXPECT_EQ(DeleteLine("a", 3, "work"), 2) << "there is no such line";
+    EXPECT_EQ(DeleteLine("a", 1, "work") + DeleteLine("a", 1, "work"), 1);
+    EXPECT_EQ(folder.Read("a"), "");
+}
+
+/// Files cannot grow beyond some bytes for as long as it lives, as on a disk that is full.
+class NoSpace {
+ public:
+    NoSpace() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit few{5, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &few);
+    }
+    ~NoSpace() {
+        ::setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    NoSpace(const NoSpace&) = delete;
+    NoSpace& operator=(const NoSpace&) = delete;
+
+ private:
+    void (*handler_)(int);
+    rlimit before_{};
+};
+
+TEST(Collection, SaysWhatCannotBeReadOrWrittenAndKeepsTheOldFile) {
+    const TempFolder folder;
+    folder.Write("old", "1\r\n");
+    ASSERT_EQ(::mkfifo("pipe", 0600), 0);
+    std::filesystem::create_directory("sub");
+    const std::string full = ": No space left on device";
+    EXPECT_EQ(Refusal([] { AppendRecord("pipe", "2"); }), "pipe: Invalid argument") << "nobody waits at its other end";
+    EXPECT_EQ(Refusal([] { AppendRecord("no/folder", "2"); }), "no/folder: No such file or directory");
+    EXPECT_EQ(Refusal([] { AppendRecord("/dev/full", "2"); }), "/dev/full" + full);
+    EXPECT_EQ(Refusal([] { DeleteLine("sub", 1, "work"); }), "sub: Is a directory");
+    EXPECT_EQ(Refusal([] { DeleteLine("old", 2, "sub"); }), "sub: Is a directory");
+    EXPECT_EQ(Refusal([] { DeleteLine("old", 2, "/dev/full"); }), "/dev/full" + full);
+    EXPECT_EQ(Refusal([] { DeleteLine("old", 2, "no/folder"); }), "no/folder: No such file or directory");
+    EXPECT_EQ(Refusal([] { ConvertLayout("pipe", "new"); }), "pipe: Invalid argument");
+    EXPECT_EQ(Refusal([] { ConvertLayout("old", "sub"); }), "sub: Is a directory");
+    EXPECT_EQ(Refusal([] { ConvertLayout("old", "no/folder"); }), "no/folder: No such file or directory");
+    folder.Write("layout", "#0\r\nD\r\n7,7,3\r\n1.\r\n#1\r\n");
+    EXPECT_EQ(Refusal([] { ConvertLayout("layout", "/dev/full"); }), "/dev/full" + full);
+    {
+        const NoSpace nothing;
+        EXPECT_EQ(Refusal([] { WritePuzzleRecord("old", PuzzleFrom({"1-1"}), WriteMode::Replace); }),
+                  "old: File too large");
+        EXPECT_EQ(Refusal([] { AppendRecord("old", "a longer one"); }), "old: File too large");
+    }
+    EXPECT_EQ(folder.Read("old").substr(0, 3), "1\r\n");
+}
+
+TEST(ConvertLayout, TurnsEachPuzzleIntoALineAndDropsTheLast) {
+    const TempFolder folder;
+    const auto converted = [&](const std::string& bytes) {
+        ConvertLayout(folder.Write("old.dat", bytes), "new.txt");
+        return folder.Read("new.txt");
+    };
+    EXPECT_EQ(converted("#0\r\n Dx y\r\n 7, 7, 3\r\n1.\r\n2.\r\n#1\r\nE\r\n 8, 8, 1\r\n3\r\n4\r\nlast, never used"),
+              " 7, 7, 3;D;1.,2.,\r\n 8, 8, 1;E;3,4,\r\n");
+    EXPECT_EQ(converted("#0\nD\n 7, 7, 3\n1.\n#1\nE\n"), " 7, 7, 3;D;1.,\r\n") << "no header behind the last kind";
+    EXPECT_EQ(converted(""), "");
+    std::string rows;
+    for (int row = 0; row < 1002; ++row)
+        rows += std::to_string(row % 10) + "\n";
+    const std::string endless = converted("#\nD\nh\n" + rows + "end");
+    EXPECT_EQ(std::count(endless.begin(), endless.end(), ','), 1000);
+    EXPECT_EQ(ConvertedPath("/a.b/c.dat"), "/a-newformat.txt");
+    EXPECT_EQ(ConvertedPath("abc"), "");
+}
+
+}  // namespace
+}  // namespace tidewalk::test

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+// Grids of numbers from files, from the clipboard and from the number editor.
+#include "model/import_grid.h"
+
+#include <filesystem>
+
+#include "model/number_grid.h"
+#include "support/test_game.h"
+
+namespace tidewalk::test {
+namespace {
+
+constexpr const char* kLoadPick = "Select a grid file|*.grd;*.txt|Grid Files|open";
+constexpr const char* kSavePick = "Save the grid|*.grd;*.txt|Grid Files|save";
+
+TEST(ReadGridFile, AGridBecomesThePuzzleAndTheCollectionStaysWhatItWas) {
+    TestGame game({kSmallPuzzle, kSmallPuzzle});
+    game.Load(2);
+    game.collection.leftOpen = true;
+    const std::string path = game.folder.Write("grid.txt", "2.9\n1\n");
+    for (const auto& [file, number, error] :
+         {std::tuple{path, 2, "Grid 2 not found"}, {"missing", 1, "Error reading grid from:\r\nmissing"}}) {
+        game.world.Expect(error, kCritical);
+        EXPECT_FALSE(game.Run(ReadGridFile, file, number));
+        EXPECT_EQ(game.board.puzzle, *ParsePuzzleRecord(kSmallPuzzle));
+    }
+    game.board.BridgeState.Set(3, 7, 1);
+    EXPECT_TRUE(game.Run(ReadGridFile, path, 1));
+    EXPECT_EQ(game.Numbers(), (Lines{"2.9", "1.."}));
+    EXPECT_EQ(game.world.Seen(), "box, box, status: Edited puzzle read");
+    const auto& texts = game.world.texts;
+    EXPECT_EQ(texts.at(WindowText::BoardSize) + texts.at(WindowText::CollectionName), "2x3grid.txt");
+    EXPECT_EQ(game.world.toolTips[WindowText::CollectionName], path);
+    EXPECT_TRUE(game.board.BridgeState.InBothOrders().empty());
+    EXPECT_EQ(game.board.FittedCellSize, 1800);
+    EXPECT_EQ(game.collection.PuzzleNumber, 2);
+    EXPECT_EQ(game.collection.CollectionPath, game.PathOfCollection());
+    EXPECT_FALSE(game.collection.leftOpen);
+}
+
+TEST(Import, NamesTheFileWhateverBecameOfIt) {
+    TestGame game;
+    const std::string missing = game.folder.Path("missing.txt");
+    for (const std::string& path : {std::string(), game.folder.Write("out.txt", "1.1\r\n"), missing}) {
+        game.world.ExpectPick("Select a grid file|*.txt|Tide Files|open", path);
+        if (path == missing) game.world.Expect("Error reading grid from:\r\n" + missing, kCritical);
+        game.Run(mnuimport_Click);
+    }
+    EXPECT_EQ(game.world.Seen(),
+              "pick, pick, status: Edited puzzle read, status: File out.txt imported, pick, box, "
+              "status: File missing.txt imported");
+}
+
+TEST(Paste, TakesLinesOfBothEndsAndPassesOverEmptyOnesAtTheEnd) {
+    std::string row = "1.3.";
+    for (int i = 0; i < 21; ++i)
+        row += "ä";
+    for (const std::string end : {"\n", "\r\n"}) {
+        TestGame game;
+        for (int i = 0; i < 25; ++i)
+            game.world.clipboard += row + end;
+        game.world.clipboard += end + end;
+        game.Run(mnupastepuzzle_Click);
+        EXPECT_EQ(game.Numbers(), Lines(25, "1.3." + std::string(21, '.')));
+        EXPECT_EQ(game.world.Seen(), "status: Edited puzzle read, status: Puzzle imported");
+        EXPECT_EQ(game.folder.Read("tempin.txt"), Joined(Lines(25, row)));
+    }
+}
+
+TEST(Paste, RefusesWhatFitsNoBoard) {
+    TestGame game({kSmallPuzzle});
+    game.Load(1);
+    std::filesystem::create_directory("tempin.txt");
+    for (const std::string& text : {std::string(), std::string("  "), std::string("\r\n\r\n"), Joined(Lines(26, "1")),
+                                    std::string(26, '1') + "\n1\n", std::string("\n1\n"), std::string("1.1")}) {
+        game.world.clipboard = text;
+        game.Run(mnupastepuzzle_Click);
+        EXPECT_EQ(game.world.Seen(), "status: Error importing puzzle") << text;
+    }
+    EXPECT_EQ(game.board.puzzle.Rows, 7);
+    std::filesystem::remove("tempin.txt");
+    game.world.Expect("Error reading grid from:\r\ntempin.txt", kCritical);
+    game.world.clipboard = "#9999\n1.1";
+    game.Run(mnupastepuzzle_Click);
+    EXPECT_EQ(game.world.Seen(), "box, status: Puzzle imported") << "the reader has said it";
+}
+
+/// A number editor that is typed into.
+struct Typed : NumberGrid {
+    Typed(int rows, int cols, const std::string& keys) {
+        Resize(rows, cols);
+        for (const char key : keys)
+            Type(key);
+    }
+    std::string Text() const { return MarkedGrid(Numbers()); }
+};
+
+TEST(NumberGrid, DigitsFillTheGridInReadingOrderAndOtherKeysDoNothing) {
+    EXPECT_EQ(NumberGrid().Numbers(), Puzzle({7, 7}));
+    Typed grid(2, 3, "1.29x/");
+    EXPECT_EQ(grid.Cursor(), (CellPlace{2, 1}));
+    EXPECT_FALSE(grid.Type('9'));
+    EXPECT_TRUE(grid.Type(' ') && grid.Type('0') && grid.Type('8'));
+    EXPECT_EQ(grid.Cursor(), (CellPlace{2, 3}));
+    EXPECT_EQ(grid.Text(), "#0203\r\n1.2\r\n..8\r\n");
+    grid.MoveBy(-1, -2);
+    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
+    grid.Delete();
+    EXPECT_EQ(grid.At(1, 1), 0);
+    grid.MoveTo(2, 2);
+    grid.Clear();
+    EXPECT_EQ(grid.Numbers(), Puzzle({2, 3}));
+    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
+}
+
+TEST(NumberGrid, BackspaceTakesTheLastTypedNumberBack) {
+    Typed grid(2, 2, "1234");
+    for (const char* expected : {"12\r\n3.", "12\r\n..", "1.\r\n..", "..\r\n..", "..\r\n.."}) {
+        grid.Backspace();
+        EXPECT_EQ(grid.Text(), "#0202\r\n" + std::string(expected) + "\r\n");
+    }
+    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
+}
+
+TEST(NumberGrid, ASmallerGridForgetsWhatLiesOutsideAndKeepsTheCursorIn) {
+    Typed grid(25, 26, "1");
+    grid.MoveTo(25, 99);
+    grid.Type('8');
+    EXPECT_EQ(grid.Cursor(), (CellPlace{25, 25}));
+    grid.Resize(0, 3);
+    EXPECT_EQ(grid.Text(), "#0103\r\n1..\r\n");
+    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 3}));
+    grid.MoveTo(-5, -5);
+    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
+    grid.Delete();
+    grid.Resize(99, 25);
+    EXPECT_EQ(grid.Numbers(), Puzzle({25, 25}));
+    grid.Take(Puzzle());
+    EXPECT_EQ(grid.Numbers(), Puzzle({1, 1})) << "before the first load there is no board";
+}
+
+TEST(NumberGrid, IsSavedLoadedAndPlayed) {
+    TestGame game({Record({"2-----2"})});
+    game.Load(1);
+    Typed grid(7, 7, "123");
+    EditCurrentPuzzle(game, grid);
+    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
+    const std::string marked = "#0107\r\n2.....2\r\n";
+    EXPECT_EQ(grid.Text(), marked);
+    const std::string path = game.folder.Path("mine");
+    for (const bool again : {false, true}) {
+        game.world.ExpectPick(kSavePick, path);
+        if (again) game.world.Expect("OverWrite file: " + path + ".grd ?", "system yesno", kNo);
+        EXPECT_EQ(game.Run(SaveNumberGrid, grid), !again);
+    }
+    EXPECT_EQ(game.folder.Read("mine.grd"), marked);
+    NumberGrid loaded;
+    game.world.ExpectPick(kLoadPick, path + ".grd");
+    EXPECT_TRUE(game.Run(LoadNumberGrid, loaded) && loaded.Type('3'));
+    EXPECT_TRUE(game.Run(UseNumberGrid, loaded));
+    EXPECT_EQ(game.folder.Read("tempeditpuzzle.txt"), "#0107\r\n3.....2\r\n");
+    EXPECT_EQ(game.Numbers(), Lines{"3.....2"});
+}
+
+TEST(NumberGrid, WhatCannotBeReadOrWrittenChangesNothing) {
+    TestGame game;
+    NumberGrid grid;
+    game.world.ExpectPick(kSavePick, "");
+    EXPECT_FALSE(game.Run(SaveNumberGrid, grid));
+    const std::string bad = game.folder.Write("bad.grd", "#9999\n");
+    for (const std::string& path : {std::string(), bad}) {
+        game.world.ExpectPick(kLoadPick, path);
+        if (path == bad) game.world.Expect("Error reading grid from:\r\n" + bad, kCritical);
+        EXPECT_FALSE(game.Run(LoadNumberGrid, grid));
+        EXPECT_EQ(grid.Rows(), 7);
+    }
+    std::filesystem::create_directory("tempeditpuzzle.txt");
+    game.world.Expect("The grid could not be written:\r\ntempeditpuzzle.txt: Is a directory", kCritical);
+    EXPECT_FALSE(game.Run(UseNumberGrid, grid));
+}
+
+}  // namespace
+}  // namespace tidewalk::test

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include "model/puzzle_record.h"
+
+#include <gtest/gtest.h>
+
+#include "support/board_text.h"
+
+namespace tidewalk::test {
+namespace {
+
+std::vector<std::string> LinkTexts(const Puzzle& puzzle) {
+    std::vector<std::string> texts;
+    for (const Link& link : puzzle.LinkList)
+        texts.push_back(Text(link));
+    return texts;
+}
+
+TEST(PuzzleRecord, GivesNumbersAndBridges) {
+    const auto puzzle =
+        ParsePuzzleRecord(" 7,9 , 0;;1-2..1=2.3,|.I......,1.4====.-4,I...-....,2........,.........,.........,");
+    ASSERT_TRUE(puzzle);
+    EXPECT_EQ(puzzle->Size(), (BoardSize{7, 9}));
+    EXPECT_EQ(puzzle->IslandGrid(1, 2), 0) << "a bridge is water";
+    EXPECT_EQ(puzzle->NumberTotal(), 13) << "a character beyond the last column does not count";
+    // Row by row the single and then the double bridges, then the columns' single bridges, then their double ones. A
+    // run that ends on water is recorded, one that no island begins is not.
+    EXPECT_EQ(LinkTexts(*puzzle),
+              (std::vector<std::string>{"0010031", "0060080", "0210260", "0010191", "0190370", "0030210"}));
+}
+
+TEST(PuzzleRecord, ARunToTheEdgeIsNoBridge) {
+    EXPECT_EQ(PuzzleFrom({"1--", "I..", "I.."}).LinkCount(), 0);
+    EXPECT_EQ(PuzzleFrom({"..1", "..|", "..1"}).LinkCount(), 1) << "the last column, too";
+    EXPECT_EQ(PuzzleFrom({"...", "...", "1-1"}).LinkCount(), 1) << "the last row, too";
+    EXPECT_EQ(PuzzleFrom({"1-=1", "1..."}).LinkCount(), 1) << "another stroke ends the run";
+}
+
+TEST(PuzzleRecord, AColumnIsACharacterWhateverItsBytes) {
+    const auto puzzle = ParsePuzzleRecord("6,4,0;D;\xE2\x82\xAC\xC3\xBC.4,...|,1-\xF0\x9F\x8C\x8A.,...1,...|,\xFF..2,");
+    ASSERT_TRUE(puzzle);
+    EXPECT_EQ(puzzle->IslandGrid(1, 4) * 10 + puzzle->IslandGrid(6, 4), 42);
+    EXPECT_EQ(LinkTexts(*puzzle), (std::vector<std::string>{"0090111", "0040121", "0160241"}));
+}
+
+TEST(PuzzleRecord, IsReadLeniently) {
+    const auto puzzle = ParsePuzzleRecord(" 7 ,+7.5, x;;1,1,1,1,1,1,1");
+    ASSERT_TRUE(puzzle) << "blanks, signs, fractions and short rows are fine";
+    EXPECT_EQ(puzzle->Cols, 8) << "halves go to even";
+    EXPECT_EQ(puzzle->IslandCount(), 7);
+    EXPECT_TRUE(ParsePuzzleRecord("1,25,0,9;D;;rest;"));
+    EXPECT_TRUE(ParsePuzzleRecord("25,1,;\xC3\xBC\t;,,,,,,,,,,,,,,,,,,,,,,,,"));
+}
+
+TEST(PuzzleRecord, IsRefusedWhenItIsNone) {
+    for (const char* record : {"", " 7, 7;D;..,", " 7, 7, 0;D", "26, 7, 0;D;,", " 0, 7, 0;D;,", " 7, 0, 0;D;,",
+                               "7,26,0;D;,,,,,,,", " -7, 7, 0;D;,", "1e99, 7, 0;D;,"}) {
+        Puzzle puzzle({3, 3});
+        EXPECT_EQ(ReadPuzzleRecord(record, puzzle), RecordRead::Nothing) << record;
+        EXPECT_EQ(puzzle.CellCount(), 0) << record;
+    }
+    Puzzle puzzle;
+    EXPECT_EQ(ReadPuzzleRecord(" 7, 7, 0;D;1-1,1,1,1,1,1", puzzle), RecordRead::Rows);
+    EXPECT_EQ(puzzle.IslandCount() * 10 + puzzle.LinkCount(), 70) << "the rows before the one that is missing";
+    EXPECT_FALSE(ParsePuzzleRecord(" 7, 7, 0;D;1,1,1,1,1,1"));
+}
+
+TEST(PuzzleRecord, HasNoBytesThatNoTextHasAndIsNotEndless) {
+    const std::string record = Record({"1-1", "\t\xC3\xBC", ""});
+    EXPECT_TRUE(MayBeRecord(record));
+    EXPECT_FALSE(ParsePuzzleRecord(record + '\0'));
+    EXPECT_FALSE(ParsePuzzleRecord(record + '\x1F'));
+    EXPECT_FALSE(ParsePuzzleRecord(record + '\x7F'));
+    EXPECT_TRUE(MayBeRecord(record + std::string(kLongestRecord - record.size(), ' ')));
+    EXPECT_FALSE(MayBeRecord(std::string(kLongestRecord + 1, ' ')));
+}
+
+TEST(PuzzleRecord, ComesBackAsItWasWritten) {
+    const Puzzle puzzle = ParsePuzzleRecord(kSmallPuzzle).value();
+    // The header counts the links that were found, whatever the old header told.
+    EXPECT_EQ(PuzzleRecord(puzzle), " 7, 7, 10;D;..4===2,1.I....,|.6===3,|.I...|,|.I2..|,2-3I..|,.1-4--2,");
+    EXPECT_EQ(ParsePuzzleRecord(PuzzleRecord(puzzle)), puzzle);
+}
+
+TEST(PuzzleRecord, DrawsEachLinkAsItsStateAndOrderTell) {
+    Puzzle puzzle = PuzzleFrom({"3.2", "...", "3.2"});
+    for (const char* link : {"0030011", "0090070", "0070010", "0030092", "0010091", "0010011"})
+        puzzle.LinkList.push_back(ParseLink(link).value());
+    EXPECT_EQ(PuzzleRecord(puzzle), " 3, 3, 6;D;3 -2,I..,3=2,") << "no slanting ones";
+    puzzle = PuzzleFrom({"..1.", "1..1", "..1."});
+    puzzle.LinkList = {MakeLink(3, 11, 1), MakeLink(8, 5, 0)};
+    EXPECT_EQ(PuzzleRecord(puzzle), " 3, 4, 2;D;..1.,1=|1,..1.,") << "the first bridge over a cell stays";
+}
+
+}  // namespace
+}  // namespace tidewalk::test

@@ -1,0 +1,401 @@
+// SPDX-License-Identifier: MIT
+// Message boxes, file dialogs, and the windows beside the main one.
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <set>
+
+#include "support/layout_checker.h"
+#include "ui/colours.h"
+#include "ui/msg_form.h"
+#include "window_game.h"
+
+namespace tidewalk::test {
+namespace {
+
+/// The style's buttons as "Caption=code ..." in their order, and what the frame answers.
+std::string Buttons(std::string_view style) {
+    const MessageStyle parsed = ParseMessageStyle(style);
+    std::string all;
+    for (const MessageButton& button : parsed.buttons)
+        all += std::string(button.caption) + "=" + std::to_string(button.code) + " ";
+    return all + "or " + std::to_string(parsed.FrameAnswer());
+}
+
+TEST(MessageBox, EachWordOfItsStyleGivesButtonsAndTheFrameTheMildestAnswer) {
+    EXPECT_EQ(Buttons("vbok"), "Ok=1 or 1");
+    EXPECT_EQ(Buttons("vbokonly"), "Ok=1 or 1");
+    EXPECT_EQ(Buttons("vbnormal"), "Ok=1 or 1");
+    EXPECT_EQ(Buttons("vbokcancel"), "Ok=1 Cancel=2 or 2");
+    EXPECT_EQ(Buttons("vbYesNo"), "Yes=6 No=7 or 7");
+    EXPECT_EQ(Buttons("vbyesnocancel"), "Yes=6 No=7 Cancel=2 or 2");
+    EXPECT_EQ(Buttons("vbretrycancel"), "Retry=4 Cancel=2 or 2");
+    EXPECT_EQ(Buttons("vbabortretryignore"), "Abort=3 Retry=4 Ignore=5 or 1");
+    EXPECT_EQ(Buttons("vbcontinuecancel"), "Continue=6 Cancel=2 or 2");
+    EXPECT_EQ(Buttons(" vbcancel + vbignore"), "Cancel=2 Ignore=5 or 2");
+    EXPECT_EQ(Buttons("vbcancelok"), "Cancel=2 Ok=1 or 2");
+    EXPECT_EQ(Buttons("vbyes+vbno+vbabort+vbretry"), "Yes=6 No=7 Abort=3 Retry=4 or 7");
+    EXPECT_EQ(Buttons("nonsense+vb+ok++vbprint"), "or 0");
+}
+
+TEST(MessageBox, ShowsItsPicturesAndPlainTextAndItsButtonsCarryTheCodes) {
+    const MsgForm box("<b>Delete</b>:\r\n/a/b",
+                      ParseMessageStyle("vbopen+vbsave+vbexit+vblighton+vbcustom+vbtrash+vbprint+vbhappy+vbcritical+"
+                                        "vberror+vbexclamation+vbquestion+VBINFORMATION+vbretrycancel+vbhappy"),
+                      "caption", nullptr);
+    EXPECT_EQ(box.windowTitle(), "caption");
+    const auto pictures = box.findChildren<QLabel*>(QRegularExpression("^vb"));
+    EXPECT_EQ(pictures.size(), 13);
+    for (const QLabel* const picture : pictures)
+        EXPECT_FALSE(picture->pixmap().isNull()) << picture->objectName().toStdString();
+    EXPECT_EQ(Get(box, "Label1"), "<b>Delete</b>:\n/a/b");
+    EXPECT_EQ(Of<QLabel>(box, "Label1").textFormat(), Qt::PlainText);
+    EXPECT_EQ(Of(box, "cmd0").property("Tag").toString() + Of(box, "cmd1").property("Tag").toString(), "42");
+}
+
+TEST(MessageBox, IsAnsweredByButtonsKeysAndItsFrame) {
+    WindowGame window;
+    const auto key = [](Qt::Key which) {
+        return [which](QDialog& box) {
+            box.activateWindow();
+            QTest::keyClick(box.focusWidget() != nullptr ? box.focusWidget() : &box, which);
+        };
+    };
+    const auto show = [&](const char* style, const Act& act) {
+        window.Expect("text", act);
+        return window.game.prompts.Show("text", style);
+    };
+    EXPECT_EQ(show("vbyesno", key(Qt::Key_Return)), kYes);
+    EXPECT_EQ(show("vbyesno", key(Qt::Key_Enter)), kYes);
+    EXPECT_EQ(show("vbcancelok", key(Qt::Key_Space)), kCancel);
+    EXPECT_EQ(show("vbyesno", key(Qt::Key_Escape)), kNo);
+    EXPECT_EQ(show("vbhappy", key(Qt::Key_Escape)), 0);
+    EXPECT_EQ(show("vbabortretryignore", Answer("Ignore")), kIgnore);
+    const auto ask = [&](SystemButtons buttons, const Act& act) {
+        window.Expect("system: a\nb", act);
+        return window.game.prompts.SystemBox("a\r\nb", buttons);
+    };
+    EXPECT_EQ(ask(SystemButtons::YesNo, Answer("Yes")), kYes);
+    EXPECT_EQ(ask(SystemButtons::YesNo, Answer("No")), kNo);
+    EXPECT_EQ(ask(SystemButtons::YesNo, key(Qt::Key_Escape)), kNo);
+    EXPECT_EQ(ask(SystemButtons::Ok, Answer("OK")), kOk);
+}
+
+TEST(FilePicker, OffersTheFilesOfItsPatternsAndAllOthers) {
+    WindowGame window;
+    const std::string other = window.folder.Write("other.txt", "");
+    const std::string folder = window.folder.Path("");
+    const auto pick = [&](FileRequest::Mode mode, const Act& act) {
+        window.Expect("file: Which?", act);
+        return window.game.filePicker.Pick({"Which?", "*.tdw;*.txt", "Puzzles", folder, mode});
+    };
+    const Act looksAround = [&](QDialog& dialog) {
+        const auto& files = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(files.nameFilters(), (QStringList{"Puzzles (*.tdw *.txt)", "All files (*)"}));
+        EXPECT_EQ(files.directory(), QDir(QString::fromStdString(folder)));
+        EXPECT_EQ(files.acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_EQ(files.fileMode(), QFileDialog::ExistingFile);
+    };
+    EXPECT_EQ(pick(FileRequest::Mode::Open, looksAround), "");
+    EXPECT_EQ(pick(FileRequest::Mode::Open, Choose(other)), other);
+    // A file that is there may be chosen for saving: whether it is written over is asked elsewhere.
+    for (const std::string& name : {other, window.folder.Path("new")})
+        EXPECT_EQ(pick(FileRequest::Mode::Save, Choose(name)), name);
+}
+
+void ChooseScheme(QDialog& form2, const QString& scheme) {
+    Set(form2, "Combo1=" + scheme);
+    emit Of<QComboBox>(form2, "Combo1").textActivated(scheme);
+}
+
+TEST(Form2, WhatIsAppliedShowsInEveryWindow) {
+    WindowGame window;
+    const Options& options = window.game.options;
+    window.Expect("Form2", [](QDialog& form2) {
+        EXPECT_EQ(form2.windowTitle(), "Tide Options");
+        EXPECT_EQ(Get(form2, "Combo1 Check1 Check2 Option2 Text3"), "xp true false false 4");
+        const QPalette before = form2.palette();
+        ChooseScheme(form2, "dusk");
+        EXPECT_NE(form2.palette(), before) << "it wears the scheme before the others do";
+        for (const char* const button : {"Circle", "Show", "Paler"})
+            Press(form2, button);
+        Set(form2, "Text3=7");
+        Press(form2, "command1");
+        EXPECT_FALSE(form2.isVisible());
+    });
+    window.Trigger("mnuoptset");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(options.ColourSchemeName, "dusk.col");
+    EXPECT_EQ(options.NodeShape + 10 * options.ShowLines + 100 * options.ShowFinished + 1000 * options.PrintLineWidth,
+              7101);
+    const QColor background = ToQColor(options.SchemeColours[kBackgroundEntry]);
+    const QColor face = ToQColor(options.SchemeColours[kFaceEntry]);
+    EXPECT_EQ(window.Shown().pixelColor(2, 2), background);
+    EXPECT_EQ(window.form.Container().grab().toImage().pixelColor(2, 2), background);
+    EXPECT_EQ(Of(window.form, "PuzNumNow").palette().color(QPalette::Base), background);
+    window.Expect("Form6", [&](QDialog& side) { EXPECT_EQ(side.palette().color(QPalette::Window), face); });
+    window.Trigger("mnueditor");
+    window.Expect("text", [&](QDialog& box) {
+        EXPECT_EQ(box.palette().color(QPalette::Window), background);
+        EXPECT_EQ(box.palette().color(QPalette::Button), face);
+    });
+    window.game.prompts.Show("text", "vbok");
+    window.Expect("Form2", Answer("reset"));
+    window.Trigger("mnuoptset");
+    EXPECT_EQ(options.ColourSchemeName + std::to_string(options.NodeShape), "xp.col0");
+}
+
+TEST(Form2, ClosingLeavesEverythingAsItWas) {
+    WindowGame window;
+    const Options before = window.game.options;
+    for (const Act& leave : {Answer("command2"), Act()}) {
+        window.Expect("Form2", [&](QDialog& form2) {
+            EXPECT_EQ(Get(form2, "Combo1 Text3"), "xp 4") << "what was not applied is forgotten";
+            ChooseScheme(form2, "sand");
+            Set(form2, "Text3=9 red=7");
+            Press(form2, "cmdnodecol");
+            if (leave) leave(form2);
+        });
+        window.Trigger("mnuoptset");
+        EXPECT_EQ(window.game.options.SchemeColours, before.SchemeColours);
+        EXPECT_EQ(window.game.options.NodeColour, before.NodeColour);
+    }
+}
+
+TEST(Form2, EachButtonDoesWhatItSays) {
+    WindowGame window;
+    Options& options = window.game.options;
+    const std::vector<std::tuple<const char*, const char*, Colour&>> rows{{"cmdgridcol", "Line2", options.GridColour},
+                                                                          {"cmdchaincol", "Line1", options.ChainColour},
+                                                                          {"cmdgivenfg", "Label1", options.GivenColour},
+                                                                          {"cmdnodecol", "Label2", options.NodeColour}};
+    window.Expect("Form2", [&](QDialog& form2) {
+        const auto lightness = [&] { return form2.palette().color(QPalette::Window).lightness(); };
+        const int start = lightness();
+        Press(form2, "Darker");
+        const int darker = lightness();
+        EXPECT_LT(darker, start);
+        Press(form2, "Lighter");
+        EXPECT_GT(lightness(), darker);
+        Press(form2, "cmdgridcol");
+        EXPECT_EQ(Of<Swatch>(form2, "Line2").Value(), options.GridColour) << "no colour was picked yet";
+        for (int i = 0; i < 4; ++i) {
+            auto& swatch = Of<Swatch>(form2, std::get<1>(rows[i]));
+            const QImage look = swatch.grab().toImage();
+            Set(form2, QString("red=20%1 green=10%1 blue=%1").arg(i));
+            Press(form2, std::get<0>(rows[i]));
+            EXPECT_EQ(swatch.Value(), Rgb(200 + i, 100 + i, i));
+            EXPECT_NE(swatch.grab().toImage(), look) << i;
+        }
+        EXPECT_EQ(Get(form2, "swatch"), "#cb6703");
+        Press(form2, "Line2");
+        EXPECT_EQ(Get(form2, "red green blue"), "200 100 0") << "a swatch is taken into the picker";
+        Press(form2, "command1");
+    });
+    window.Trigger("mnuoptset");
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(std::get<2>(rows[i]), Rgb(200 + i, 100 + i, i));
+}
+
+TEST(Form3, MakesTheBatchThatWasTypedAndStaysWhileSomethingIsWrong) {
+    WindowGame window;
+    window.Expect("Form3", [&](QDialog& form3) {
+        EXPECT_EQ(form3.windowTitle(), "Create New Puzzles");
+        EXPECT_EQ(Of<QComboBox>(form3, "Combo1").count(), 19);
+        EXPECT_EQ(Of<QComboBox>(form3, "Combo2").itemText(18), "25");
+        Set(form3, "Text1=3 Combo1=7 Combo2=9");
+        window.Expect("Specify an output file");
+        Press(form3, "Command1");
+        EXPECT_TRUE(form3.isVisible() && form3.property("Tag") == "X");
+        window.Expect("file: Select an output Puzzle file", Choose(window.folder.Path("out")));
+        Press(form3, "gf1");
+        EXPECT_EQ(Get(form3, "FileNow"), window.folder.Path("out.txt"));
+        Set(form3, "FileNow=out");
+        window.Expect("Create 3 7x9 puzzles\r\nOutput file: out.txt\r\n\r\nProceed?", Answer("Yes"));
+        window.Expect("Created 3 puzzles in file:\r\nout.txt", Answer("Ok"));
+        Press(form3, "Command1");
+        EXPECT_TRUE(!form3.isVisible() && form3.property("Tag") == "Y");
+    });
+    window.Trigger("mnucreatemany");
+    const std::string bytes = window.folder.Read("out.txt");
+    EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\n'), 3);
+    EXPECT_EQ(FaultOfRecord(bytes.substr(0, bytes.find('\r')), {7, 9}), "");
+    EXPECT_TRUE(window.view.updatesEnabled());
+    window.Expect("Form3", [](QDialog& form3) {
+        EXPECT_EQ(Get(form3, "Text1 Combo2 FileNow"), "3 9 out.txt") << "what was typed stays for the next time";
+        Press(form3, "command2");
+        EXPECT_TRUE(!form3.isVisible() && form3.property("Tag") == "X");
+    });
+    BatchRequest request;
+    EXPECT_FALSE(window.game.questions.AskBatch(request));
+}
+
+TEST(Form5, HandsOverWhatWasTypedAndStaysWhileSomethingIsWrong) {
+    WindowGame window({kSmallPuzzle, kSmallPuzzle, kSmallPuzzle});
+    const std::string two = window.folder.Write("two.tdw", std::string(kSmallPuzzle) + "\r\n" + kSmallPuzzle + "\r\n");
+    PrintRequest request;
+    request.collection = window.game.collection.CollectionPath;
+    window.Expect("Form5", [&](QDialog& form5) {
+        EXPECT_EQ(form5.windowTitle(), "Print Puzzles From File");
+        EXPECT_EQ(Get(form5, "FileNow Text1 Text2 Count Combo1"), request.collection + " 1 3 of 3 PDF file");
+        Set(form5, "Text1=0");
+        window.Expect("Incorrect start or end puzzle number");
+        Press(form5, "Command1");
+        EXPECT_TRUE(form5.isVisible());
+        window.Expect("file: Select a Puzzle file to print", Choose(two));
+        Press(form5, "gf1");
+        EXPECT_EQ(Get(form5, "FileNow Text2"), two + " 2");
+        Of<QComboBox>(form5, "Combo1").addItem("Another");
+        Set(form5, "FileNow=collection.tdw Text1=2 Text2=3 Combo1=Another");
+        Press(form5, "Command1");
+        EXPECT_FALSE(form5.isVisible());
+    });
+    EXPECT_TRUE(window.game.questions.AskPrint(request));
+    EXPECT_EQ(request.collection + request.first + request.last + request.printer, "collection.tdw23Another");
+    window.Expect("Form5", Answer("command2"));
+    EXPECT_FALSE(window.game.questions.AskPrint(request));
+}
+
+TEST(Form6, APuzzleIsTypedClickedAndPlayed) {
+    WindowGame window;
+    const NumberGrid& grid = window.program.form6().grid();
+    const Puzzle current = WithoutLinks(window.board.puzzle);
+    window.Expect("Form6", [&](QDialog& form6) {
+        EXPECT_EQ(form6.windowTitle(), "Edit Number Values");
+        auto& view = Of(form6, "NumberGrid");
+        Press(form6, "cmdcurrent");
+        EXPECT_EQ(grid.Numbers(), current);
+        window.Expect("file: Save the grid", Choose(window.folder.Path("grid.txt")));
+        Press(form6, "cmdsave6");
+        Press(form6, "cmdclear");
+        EXPECT_EQ(grid.Numbers(), Puzzle({7, 7}));
+        window.Expect("file: Select a grid file", Choose(window.folder.Path("grid.txt")));
+        Press(form6, "cmdload6");
+        EXPECT_EQ(grid.Numbers(), current);
+        Press(form6, "cmdclear");
+        Set(form6, "SpinRows=10 SpinCols=5");
+        const std::vector<std::pair<Qt::Key, CellPlace>> walk{
+            {Qt::Key_End, {1, 5}},  {Qt::Key_Down, {2, 5}}, {Qt::Key_Left, {2, 4}},      {Qt::Key_Up, {1, 4}},
+            {Qt::Key_Home, {1, 1}}, {Qt::Key_4, {1, 2}},    {Qt::Key_Period, {1, 3}},    {Qt::Key_2, {1, 4}},
+            {Qt::Key_7, {1, 5}},    {Qt::Key_9, {1, 5}},    {Qt::Key_Backspace, {1, 4}}, {Qt::Key_F1, {1, 4}}};
+        for (const auto& [key, place] : walk) {
+            QTest::keyClick(&view, key);
+            EXPECT_EQ(grid.Cursor(), place) << key;
+        }
+        QTest::keyClick(&view, Qt::Key_5, Qt::ControlModifier);
+        // Cells are squares in the view's middle, as large as its shorter way allows.
+        const double side = std::min(48.0, (view.height() - 2) / 10.0);
+        const QPointF corner((view.width() - 5 * side) / 2, (view.height() - 10 * side) / 2);
+        const auto click = [&](double row, double col) {
+            QTest::mouseClick(&view, Qt::LeftButton, {}, (corner + QPointF(col, row) * side).toPoint());
+            return grid.Cursor();
+        };
+        EXPECT_EQ(click(9.5, 0.5), (CellPlace{10, 1}));
+        EXPECT_EQ(click(0.5, 5.2), (CellPlace{10, 1})) << "beside the grid";
+        EXPECT_EQ(click(0.5, 0.5), (CellPlace{1, 1}));
+        const QImage look = view.grab().toImage();
+        QTest::keyClick(&view, Qt::Key_Delete);
+        EXPECT_NE(view.grab().toImage(), look);
+        QTest::keyClicks(&view, "2");
+        Press(form6, "cmdclose");
+        EXPECT_FALSE(form6.isVisible());
+    });
+    window.Trigger("mnueditor");
+    window.Expect("Form6", [&](QDialog& form6) {
+        EXPECT_EQ(Get(form6, "SpinRows SpinCols"), "10 5") << "what was typed stays";
+        Set(form6, "SpinRows=2");
+        Press(form6, "cmduse");
+        EXPECT_FALSE(form6.isVisible());
+    });
+    window.Trigger("mnueditor");
+    EXPECT_EQ(window.folder.Read("tempeditpuzzle.txt"), "#0205\r\n2.2..\r\n.....\r\n");
+    window.ClickIslands({{1, 1}, {1, 3}});
+    EXPECT_EQ(window.Bridges({1, 1}, {1, 3}), 1);
+}
+
+/// The help page and its window.
+struct Help : ::testing::Test {
+    Help() { help.Open(TIDEWALK_DATA_DIR); }
+    ~Help() override { QApplication::setPalette(QPalette()); }
+
+    std::vector<QTextCharFormat> Formats() const {
+        std::vector<QTextCharFormat> all;
+        for (QTextBlock block = page.document()->begin(); block.isValid(); block = block.next()) {
+            for (auto it = block.begin(); !it.atEnd(); ++it)
+                all.push_back(it.fragment().charFormat());
+        }
+        return all;
+    }
+
+    HelpWindow help{nullptr};
+    QTextBrowser& page = Of<QTextBrowser>(help, "HelpPage");
+};
+
+TEST_F(Help, EveryLinkLeadsSomewhereEveryPictureIsThereAndEveryCommandIsNamed) {
+    QStringList names;
+    QStringList links;
+    int pictures = 0;
+    for (const QTextCharFormat& format : Formats()) {
+        names += format.anchorNames();
+        if (format.anchorHref().startsWith('#')) links += format.anchorHref().mid(1);
+        if (!format.isImageFormat()) continue;
+        ++pictures;
+        const QUrl name(format.toImageFormat().name());
+        EXPECT_FALSE(page.document()->resource(QTextDocument::ImageResource, name).isNull())
+            << name.path().toStdString();
+    }
+    EXPECT_GE(pictures, 4);
+    EXPECT_GE(links.size(), 15);
+    for (const QString& link : links)
+        EXPECT_TRUE(names.contains(link)) << link.toStdString();
+    const QString text = page.toPlainText();
+    for (const Command& command : Commands()) {
+        if (command.IsSeparator() || *command.menu == '\0') continue;
+        // The entries that lead through the collection share one line.
+        const bool isArrow = QLatin1String(command.name) == QLatin1String("arrows");
+        const QString entry = isArrow ? QString(command.text).remove(" Puzzle") : command.text;
+        EXPECT_TRUE(text.contains(entry)) << entry.toStdString();
+        for (const QKeySequence& key : command.keys.mid(0, 1))
+            EXPECT_TRUE(text.contains(key.toString())) << key.toString().toStdString();
+    }
+}
+
+TEST_F(Help, GoesToAnAnchorBackAndForth) {
+    const auto at = [&] { return page.verticalScrollBar()->value(); };
+    page.setSource(QUrl("#files"));
+    const int files = at();
+    EXPECT_GT(files, 0);
+    for (const auto& [button, leadsTo] : {std::pair{"HelpBack", 0}, {"HelpForward", files}, {"HelpHome", 0}}) {
+        Press(help, button);
+        EXPECT_EQ(at(), leadsTo) << button;
+    }
+    Press(help, "HelpClose");
+    EXPECT_FALSE(help.isVisible());
+}
+
+TEST_F(Help, LinksCanBeReadOnADarkDesktopAndOnALightOne) {
+    const auto lightness = [&] {
+        QCoreApplication::processEvents();
+        std::set<int> found;
+        for (const QTextCharFormat& format : Formats()) {
+            if (!format.anchorHref().isEmpty()) found.insert(format.foreground().color().lightness());
+        }
+        return found.size() == 1 ? *found.begin() : -1;
+    };
+    EXPECT_NEAR(lightness(), 50, 49);
+    QPalette dark(QColor(45, 45, 48), QColor(32, 32, 35));
+    dark.setColor(QPalette::Base, QColor(25, 25, 28));
+    QApplication::setPalette(dark);
+    EXPECT_GT(lightness(), 150);
+}
+
+TEST(HelpWithoutItsPage, SaysWhatIsMissing) {
+    HelpWindow help(nullptr);
+    help.Open("/nowhere");
+    EXPECT_TRUE(Of<QTextBrowser>(help, "HelpPage").toPlainText().contains("/nowhere/tide.htm"));
+}
+
+}  // namespace
+}  // namespace tidewalk::test

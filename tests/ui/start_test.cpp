@@ -1,0 +1,169 @@
+// SPDX-License-Identifier: MIT
+// The start of the program: its command line, its folder, and what it does without a window.
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QProcess>
+#include <filesystem>
+
+#include "ui/app_folder.h"
+#include "ui/command_line.h"
+#include "window_game.h"
+
+namespace tidewalk::test {
+namespace {
+
+TEST(CommandLine, PathsAreMadeAbsolute) {
+    const CommandLine line = ParseCommandLine(
+        {"tidewalk", "--folder", "here", "--screenshot=a.png", "--seed", "7", "-platform", "offscreen", "x.tdw", "12"});
+    EXPECT_EQ(line.wish, CommandLine::Wish::Run);
+    EXPECT_EQ(line.folder, QDir::current().filePath("here"));
+    EXPECT_EQ(line.screenshot, QDir::current().filePath("a.png"));
+    EXPECT_EQ(line.collection, QDir::current().filePath("x.tdw"));
+    EXPECT_EQ(line.seed, 7U);
+    EXPECT_EQ(line.puzzleNumber, 12);
+    EXPECT_TRUE(line.namesPlatform);
+}
+
+TEST(CommandLine, WrongUsageIsToldApart) {
+    for (const char* const arguments :
+         {"--nosuch", "--folder", "--folder=", "--seed x", "--seed -1", "a b", "a 0", "a -3", "a 1 2",
+          "--picture a.png x", "--picture a.png x 1-2", "--picture= x 1", "--pdf a.pdf x 7-3", "--pdf a.pdf x 0",
+          "--pdf a.pdf x y", "--solution x 1", "--pdf a.pdf --solution x 1", "--pdf a.pdf --picture b.png x 1"}) {
+        const CommandLine line = ParseCommandLine(("tidewalk " + QString(arguments)).split(' '));
+        EXPECT_EQ(line.wish, CommandLine::Wish::Wrong) << arguments;
+        EXPECT_FALSE(line.text.isEmpty()) << arguments;
+    }
+    EXPECT_EQ(ParseCommandLine({"tidewalk", ""}).wish, CommandLine::Wish::Wrong);
+    EXPECT_EQ(ParseCommandLine({"tidewalk"}).wish, CommandLine::Wish::Run);
+}
+
+/// Where a program folder may be chosen.
+struct Places : TempFolder {
+    Places() {
+        for (const char* const name : {"bin", "share", "share/icons", "empty"})
+            QDir().mkdir(name);
+        Write("share/all.col", "shipped");
+        Write("share/tide.htm", "help");
+        Write("share/icons/undo.svg", "icon");
+        std::filesystem::permissions("share/all.col", std::filesystem::perms::owner_read);
+    }
+    QString At(const char* name) const { return QString::fromStdString(Path(name)); }
+    AppFolderChoice Choose(const std::optional<QString>& requested = {}) const {
+        return ChooseAppFolder(requested, {At("bin"), At("home/data/tidewalk"), At("share")});
+    }
+};
+
+TEST(AppFolder, TheUsersFolderIsMadeAndGetsOnlyWhatItLacks) {
+    const Places places;
+    EXPECT_EQ(places.Choose().folder, places.At("home/data/tidewalk"));
+    EXPECT_EQ(places.Read("home/data/tidewalk/all.col"), "shipped");
+    EXPECT_FALSE(QFile::exists("home/data/tidewalk/icons"));
+    EXPECT_TRUE(QFile::permissions("home/data/tidewalk/all.col") & QFile::WriteOwner);
+    places.Write("home/data/tidewalk/all.col", "my own");
+    QFile::remove("home/data/tidewalk/tide.htm");
+    places.Choose();
+    EXPECT_EQ(places.Read("home/data/tidewalk/all.col"), "my own");
+    EXPECT_EQ(places.Read("home/data/tidewalk/tide.htm"), "help");
+}
+
+TEST(AppFolder, IsTheProgramsOwnInAPortableCopyOrTheRequestedOne) {
+    const Places places;
+    EXPECT_EQ(places.Choose(places.At("empty")).folder, places.At("empty"));
+    EXPECT_TRUE(QDir("empty").isEmpty());
+    EXPECT_NE(places.Choose(places.At("nowhere")).error, "");
+    places.Write("bin/all.col", "portable");
+    EXPECT_EQ(places.Choose().folder, places.At("bin"));
+    EXPECT_FALSE(QFile::exists("home"));
+    QFile::remove("bin/all.col");
+    places.Write("home", "a file in the way");
+    EXPECT_NE(places.Choose().error, "");
+}
+
+TEST(AppFolder, WhatShipsLiesWhereItWasInstalledOrBesideTheProgram) {
+    const Places places;
+    EXPECT_EQ(ShareFolder(places.At("bin"), "../share"), places.At("share"));
+    EXPECT_EQ(ShareFolder("/nowhere/bin", places.At("share")), places.At("share"));
+    EXPECT_EQ(ShareFolder(places.At("bin"), "../lost/tidewalk"), places.At("share/tidewalk"));
+}
+
+/// Runs the real program with no display at hand. Returns its exit code and what it said on its error output.
+std::string Said(const QStringList& arguments) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* const name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "QT_SCALE_FACTOR"})
+        environment.remove(name);
+    process.setProcessEnvironment(environment);
+    process.start(TIDEWALK_PROGRAM, arguments);
+    EXPECT_TRUE(process.waitForFinished(-1));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    std::string said = std::to_string(process.exitCode());
+    for (const QByteArray& line : process.readAllStandardError().split('\n')) {
+        // The platform without windows has complaints of its own.
+        const bool platform = line.contains("plugin") || line.startsWith("QStandardPaths");
+        if (!line.isEmpty() && !platform) said += " " + line.toStdString();
+    }
+    return said;
+}
+
+const QString kPuzzles = QString(TIDEWALK_DATA_DIR) + "/puzzles.txt";
+
+/// The program fails, with a message that tells the reason.
+void ExpectFailure(const QStringList& arguments, const char* reason) {
+    const std::string said = Said(arguments);
+    EXPECT_TRUE(said.starts_with("1 ") && said.find(reason) != std::string::npos)
+        << arguments.join(' ').toStdString() << ": " << said;
+}
+
+TEST(Program, DrawsItsWindowWithThePuzzleThatIsNamed) {
+    const TempFolder folder;
+    QFile::copy(QString(TIDEWALK_DATA_DIR) + "/all.col", "all.col");
+    folder.Write("tide.cfg", "dusk.col\r\n 1  0  250  12  1315860  16777215  128  12632256  1  0 \r\nown.txt\r\n");
+    folder.Write("own.txt", std::string(kSmallPuzzle) + "\r\n");
+    const QStringList start{"--folder", ".", "--screenshot", "a.png"};
+    const auto picture = [&](const QStringList& arguments, const char* said) {
+        EXPECT_EQ(Said(start + arguments), said);
+        return QImage("a.png");
+    };
+    const QImage first = picture({kPuzzles}, "0");
+    EXPECT_EQ(first, picture({kPuzzles, "1"}, "0"));
+    EXPECT_NE(first, picture({kPuzzles, "12"}, "0"));
+    const QImage own = picture({}, "0");
+    EXPECT_NE(first, own);
+    EXPECT_EQ(own, picture({"missing.txt"}, "0 puzzle 1 not found"));
+    ExpectFailure({"--folder", ".", "--screenshot", "/nowhere/a.png"}, "/nowhere/a.png");
+    ExpectFailure({"--folder", "nowhere", "--screenshot", "a.png"}, "There is no folder");
+    ExpectFailure({"--folder", "."}, "no display");
+    QFile::remove("all.col");
+    ExpectFailure(start, "all.col");
+}
+
+TEST(Program, DrawsAndPrintsIntoFiles) {
+    const TempFolder folder;
+    const QString broken = QString::fromStdString(folder.Write("broken.txt", std::string(kSmallPuzzle) + "\nno\n"));
+    EXPECT_EQ(Said({"--picture", "a.png", kPuzzles, "41"}), "0");
+    EXPECT_EQ(Said({"--picture", "b.png", "--solution", kPuzzles, "41"}), "0");
+    const QImage puzzle("a.png");
+    EXPECT_GT(puzzle.width(), 500);
+    EXPECT_EQ(puzzle.height(), QImage("b.png").height());
+    EXPECT_NE(puzzle, QImage("b.png"));
+    EXPECT_EQ(Said({"--pdf", "a.pdf", kPuzzles, "3-7"}), "0");
+    EXPECT_EQ(PagesOf("a.pdf"), 5);
+    ExpectFailure({"--picture", "/nowhere/a.png", kPuzzles, "1"}, "/nowhere/a.png could not be written");
+    ExpectFailure({"--picture", "a.png", "missing.txt", "1"}, "No puzzles in this file");
+    ExpectFailure({"--picture", "a.png", broken, "2"}, "Puzzle 2");
+    ExpectFailure({"--pdf", "/nowhere/a.pdf", kPuzzles, "1-2"}, "No such file");
+    ExpectFailure({"--pdf", "a.pdf", kPuzzles, "1-145"}, "There are only 144 puzzles");
+    ExpectFailure({"--pdf", "a.pdf", broken, "1-2"}, "empty: 2");
+    EXPECT_EQ(PagesOf("a.pdf"), 2);
+    ASSERT_EQ(::mkfifo("pipe", 0600), 0);
+    for (const char* const option : {"--pdf", "--picture"}) {
+        ExpectFailure({option, "pipe", kPuzzles, "1"}, "no ordinary file");
+        EXPECT_TRUE(std::filesystem::is_fifo("pipe")) << option;
+    }
+    EXPECT_EQ(Said({"--nosuch"}), "2 Unknown option 'nosuch'. See tidewalk --help");
+    EXPECT_EQ(Said({"--help"}), "0");
+}
+
+}  // namespace
+}  // namespace tidewalk::test

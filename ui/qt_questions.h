@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+// The windows that a command waits for.
+#pragma once
+
+#include "ui/form3.h"
+#include "ui/form5.h"
+
+namespace tidewalk {
+
+/// Asks in `Form3`, which keeps what was typed, and in a new `Form5` each time.
+class QtQuestions final : public Questions {
+ public:
+    QtQuestions(Handlers& handlers, QWidget& mainWindow)
+        : handlers_(handlers), mainWindow_(mainWindow), form3_(handlers, &mainWindow) {}
+
+    bool AskBatch(BatchRequest& request) override { return form3_.Ask(request); }
+    bool AskPrint(PrintRequest& request) override {
+        return Form5(handlers_, request, &mainWindow_).exec() == QDialog::Accepted;
+    }
+
+ private:
+    Handlers& handlers_;
+    QWidget& mainWindow_;
+    Form3 form3_;
+};
+
+}  // namespace tidewalk
