@@ -30,7 +30,7 @@ file(REMOVE_RECURSE ${CMAKE_BINARY_DIR}/layers)
 tidewalk_layer(model FILES
     model/cell_set model/cell_words model/characters model/check model/collection_file model/convert_layout
     model/file_error model/grid model/line_reader model/link model/may_go_on model/numbers model/paths
-    model/plain_grid model/puzzle model/puzzle_record model/random_source model/replace_file)
+    model/plain_grid model/puzzle model/puzzle_record model/random_source model/replace_file model/system_file)
 
 tidewalk_layer(solver ON model FILES
     solver/connect_islands solver/contradictions solver/count_solutions solver/difficulty solver/laid_bridges
@@ -52,7 +52,7 @@ tidewalk_layer(board ON drawing FILES
 # The game: what the window's handlers share, and the seams to the world.
 
 tidewalk_layer(game ON board generator FILES
-    game/game game/job game/job_state game/list_box game/main_window game/messages game/output game/pick_file
+    game/choices game/file_work game/game game/job game/job_state game/list_box game/main_window game/messages game/output game/pick_file
     game/questions game/system_clock)
 
 # The handlers of menus, buttons, mouse and keys, each beside its subject.

@@ -20,6 +20,11 @@ void DropSelection(Board& board) {
     board.Line1.visible = false;
 }
 
+void FollowLayout(Board& board) {
+    const CellNumber selected = SelectedIsland(board);
+    if (selected != 0) board.Line1.from = board.Line1.to = board.At(selected);
+}
+
 void TakePuzzle(Board& board, const Puzzle& puzzle) {
     ++board.loadCount;
     board.puzzle = puzzle;

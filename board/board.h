@@ -60,6 +60,10 @@ CellNumber FocusedIsland(const Board& board);
 /// Forgets the cell under the pointer and the selected island.
 void DropSelection(Board& board);
 
+/// The rubber band of a selected island lies where that island is after a new layout; the pointer's end waits there for
+/// the next move.
+void FollowLayout(Board& board);
+
 /// Puts a puzzle on the board. Bridges, moves and selection were made on another one and are gone. The layout stays.
 void TakePuzzle(Board& board, const Puzzle& puzzle);
 

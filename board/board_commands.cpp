@@ -17,6 +17,8 @@ void cmdzoom_Click(Game& game, int index) {
     if (index == 2) cellSize = game.board.FittedCellSize;
     LayOutBoard(game, cellSize);
     RedrawBoard(game, false);
+    FollowLayout(game.board);
+    game.pictures.ShowOverlay();
 }
 
 void cmdundo_Click(Game& game) {
@@ -61,7 +63,11 @@ void mnupuzreset_Click(Game& game) {
     const int answer = game.prompts.Show("Reset?", "vbYesNo");
     game.events.DoEvents();
     if (answer != kYes) return;
-    LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber);
+    if (game.collection.importedFrom.empty()) {
+        LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber);
+    } else {
+        ShowAgain(game, PuzzleShown(game));
+    }
     game.window.SetText(WindowText::Status, "");
 }
 

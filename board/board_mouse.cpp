@@ -31,6 +31,7 @@ void SelectHovered(Board& board) {
 void EndMove(Game& game) {
     DropSelection(game.board);
     RedrawBoard(game, false);
+    ForgetStatus(game);
     game.pictures.ShowOverlay();
 }
 
@@ -109,6 +110,7 @@ void Picture1_Click(Game& game) {
             PushUndo(board, selected, clicked);
             PlaceBridge(board, PlaceMode::Cycle, selected, clicked, 1);
             RedrawBoard(game, false);
+            ForgetStatus(game);
         }
         board.AnchorRow = board.AnchorCol = 0;
         board.Line1.visible = false;
@@ -120,6 +122,8 @@ void Picture5_MouseUp(Game& game) {
     Board& board = game.board;
     board.HoverRow = board.HoverCol = -1;
     board.AnchorRow = board.AnchorCol = -1;
+    board.Line1.visible = false;
+    game.pictures.ShowOverlay();
 }
 
 }  // namespace tidewalk

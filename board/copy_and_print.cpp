@@ -14,8 +14,15 @@ namespace tidewalk {
 
 namespace {
 
+/// The title of a picture or page of the puzzle on the board.
+std::string TitleOf(const Game& game, std::string_view kind) {
+    const Collection& collection = game.collection;
+    if (!collection.importedFrom.empty()) return "Imported puzzle";
+    return PrintTitle(kind, collection.PuzzleNumber, collection.CollectionPath);
+}
+
 void CopyPicture(Game& game, RenderMode mode, std::string_view kind, const std::string& done) {
-    const std::string title = PrintTitle(kind, game.collection.PuzzleNumber, game.collection.CollectionPath);
+    const std::string title = TitleOf(game, kind);
     const RenderRequest request = PictureRequest(mode, title, game.options.PrintLineWidth);
     // The window may ask for the picture again when the board holds another puzzle.
     const bool copied = game.clipboard.SetPicture(
@@ -25,7 +32,7 @@ void CopyPicture(Game& game, RenderMode mode, std::string_view kind, const std::
 
 /// The page of the puzzle on the board.
 PuzzlePage CurrentPage(const Game& game) {
-    return {game.board.puzzle, PrintTitle("Puzzle#", game.collection.PuzzleNumber, game.collection.CollectionPath)};
+    return {game.board.puzzle, TitleOf(game, "Puzzle#")};
 }
 
 /// The printer for the next document: the last choice as long as it is there, else the system's.
@@ -42,7 +49,7 @@ void ShowPrintError(Game& game, const std::string& reason) {
 /// Asks for the name of a PDF file; "" when the player thinks better of it, or of overwriting a file.
 std::string AskPdfName(Game& game) {
     std::string path =
-        PickFile(game, {"Print to a PDF file", "*.pdf", "PDF Files", game.AppFolder, FileRequest::Mode::Save});
+        PickFile(game, {"Print to a PDF file", "*.pdf", "PDF Files", game.AppFolder, FileRequest::Mode::Save, "pdf"});
     if (path.empty()) return path;
     const std::string ending = ".pdf";
     if (path.size() < ending.size() ||
@@ -120,7 +127,7 @@ void PrintFromFile(Game& game, const PrintRange& range) {
     bool replaced = false;
     {
         const BusyPointer busy(game);
-        const Job job(game);
+        const Job job(game, "Printing");
         end = PrintRangePages(game, range, *document);
         replaced = game.job.Superseded();
     }
@@ -129,8 +136,9 @@ void PrintFromFile(Game& game, const PrintRange& range) {
     document.reset();
     game.job.TakeBackCancel();
     if (game.job.Ending()) return;
-    // Another puzzle that the player has gone to meanwhile is the current one now.
-    if (!replaced && before.PuzzleNumber >= 1) LoadPuzzle(game, before.CollectionPath, before.PuzzleNumber);
+    // Another puzzle that the player has gone to meanwhile is the current one now, and an imported one was not touched.
+    const bool reload = !replaced && before.PuzzleNumber >= 1 && before.importedFrom.empty();
+    if (reload) LoadPuzzle(game, before.CollectionPath, before.PuzzleNumber);
     ShowRangeEnd(game, range, end, error);
 }
 

@@ -58,7 +58,7 @@ int DeletePuzzle(Console& console, const DeleteOptions& options) {
         return kFailed;
     }
     const TemporaryFile work;
-    const int left = DeleteLine(file.Path(), options.number, work.Path());
+    const int left = DeleteLine(file.Path(), options.number, std::nullopt, work.Path()).left;
     ReportOnce(console, options.json,
                "puzzle " + std::to_string(options.number) + " deleted from " + options.file + ", " +
                    std::to_string(left) + " left",

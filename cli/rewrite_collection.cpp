@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The commands "shuffle" and "convert", which write a whole collection anew.
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -12,6 +13,8 @@
 #include "cli/temporary_files.h"
 #include "generator/shuffle_lines.h"
 #include "model/convert_layout.h"
+#include "model/file_error.h"
+#include "model/line_reader.h"
 #include "model/puzzle_record.h"
 #include "model/replace_file.h"
 
@@ -97,7 +100,13 @@ int ConvertCollection(Console& console, const ConvertOptions& options) {
     if (!piped && output.empty()) return RefuseName(console, options.file);
     const InputFile input(console, options.file);
     const TemporaryFile converted;
-    ConvertLayout(input.Path(), converted.Path());
+    {
+        LineReader lines(input.Path());
+        std::ofstream out(converted.Path(), std::ios::binary);
+        ConvertLayout(lines, out);
+        out.close();
+        if (!out) Fail(converted.Path(), EIO);
+    }
     if (console.Stopped()) return ExitCodeOf(console, 1);
     const Converted counts = CountRecords(console, options.file, converted.Path());
     if (counts.puzzles == 0) {

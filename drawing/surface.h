@@ -57,6 +57,10 @@ class Surface {
     /// A filled circle with an outline.
     virtual void Circle(double x, double y, double radius, Colour outline, Colour fill) = 0;
 
+    /// How far apart the strokes of a double line have to lie, middle to middle, so that they stay two strokes with the
+    /// current pen and look alike wherever they are: `gap` or a little more, in twips.
+    virtual double StrokeDistance(double gap) const { return gap; }
+
     /// The size of the text to come, in points.
     virtual void SetFontSize(double points) = 0;
     virtual Extent TextExtent(const std::string& text) = 0;

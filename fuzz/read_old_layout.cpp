@@ -10,7 +10,7 @@ void ReadOldLayout(std::string_view bytes) {
     const test::TempFolder folder;
     const std::string from = folder.Write("old.txt", std::string(bytes));
     const std::string to = folder.Path("old-newformat.txt");
-    ConvertLayout(from, to);
+    ConvertCollection(from, to);
     // A puzzle of the older layout takes its kind, its header and an end; what is read is none of its business.
     const int records = CountLines(to);
     Demand(records <= CountLines(from) / 2, "more puzzles than there can be");

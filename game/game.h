@@ -5,6 +5,7 @@
 #include <string>
 
 #include "board/board.h"
+#include "game/choices.h"
 #include "game/job_state.h"
 #include "game/list_box.h"
 #include "game/main_window.h"
@@ -25,6 +26,7 @@ struct Seams {
     BoardPictures& pictures;
     PendingEvents& events;
     Clock& clock;
+    Choices& choices;
     Clipboard& clipboard;
     Printers& printers;
 };
@@ -34,6 +36,12 @@ struct Collection {
     std::string CollectionPath;
     int PuzzleNumber = 0;  ///< from 1; 0 before the first load
     int PuzzleCount = 0;   ///< lines of the collection
+
+    /// The line of the collection from which the puzzle on the board was loaded.
+    std::string loadedLine;
+
+    /// Where the puzzle on the board was read from when it is none of the collection: a grid's file. "" otherwise.
+    std::string importedFrom;
 
     /// A load that failed has left its file open, and as long as it is, the next load fails too. Whoever begins
     /// something else with files closes it.
@@ -58,6 +66,7 @@ struct Game : Seams {
     std::string AppFolder;         ///< the program's folder, with a separator at its end
     std::string ColourListPath;    ///< "all.col" in it
     std::string SolutionTempPath;  ///< "TempPuzzleSolFile.tdw" in it
+    int windowNumber = 1;          ///< which of the windows in the same program folder this is, from 1
     std::string printerName;       ///< the printer that was chosen last, "" for the system's own choice
 };
 

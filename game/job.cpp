@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "game/job.h"
 
+#include <utility>
+
 #include "solver/status_list.h"
 
 namespace tidewalk {
@@ -20,8 +22,8 @@ void PollEvents(Game& game) {
     if (game.job.PollIsDue(game.clock.Milliseconds())) LetEventsThrough(game);
 }
 
-Job::Job(Game& game) : game_(game) {
-    game_.job.Begin();
+Job::Job(Game& game, std::string name) : game_(game) {
+    game_.job.Begin(std::move(name));
 }
 
 Job::~Job() {
@@ -37,6 +39,10 @@ MayGoOn Watched(Game& game, const SolverBoard& board) {
         }
         return !game.job.MustStop();
     };
+}
+
+void ForgetStatus(Game& game) {
+    if (!game.job.BusyFlag()) game.window.SetText(WindowText::Status, "");
 }
 
 void ShowWorkLists(Game& game, const SolverBoard& board) {

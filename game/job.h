@@ -2,6 +2,8 @@
 // Long jobs: staying out of each other's way, letting events through, stopping when asked.
 #pragma once
 
+#include <string>
+
 #include "game/game.h"
 #include "model/may_go_on.h"
 #include "solver/solver_board.h"
@@ -23,7 +25,8 @@ void PollEvents(Game& game);
 /// superseded: what it worked for is gone, and it has to stop without touching what is there now, or to adopt it.
 class Job {
  public:
-    explicit Job(Game& game);
+    /// `name` tells the player what it is: "AutoSolve".
+    Job(Game& game, std::string name);
     /// Takes the progress display away.
     ~Job();
     Job(const Job&) = delete;
@@ -42,6 +45,10 @@ MayGoOn Watched(Game& game, const SolverBoard& board);
 
 /// Fills `List1` with the islands that need bridges and `List2` with the open choice points.
 void ShowWorkLists(Game& game, const SolverBoard& board);
+
+/// A command begins, or a move was made: what the status line said of the last one is no longer true. A running job
+/// keeps the line.
+void ForgetStatus(Game& game);
 
 /// Shows the busy pointer for as long as it lives.
 class BusyPointer {

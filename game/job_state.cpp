@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "game/job_state.h"
 
+#include <utility>
+
 namespace tidewalk {
 
 bool JobState::PollIsDue(std::int64_t now) const {
@@ -8,9 +10,10 @@ bool JobState::PollIsDue(std::int64_t now) const {
     return now - lastPoll_ >= kPollMilliseconds;
 }
 
-void JobState::Begin() {
+void JobState::Begin(std::string name) {
     busy_ = true;
-    cancelled_ = superseded_ = false;
+    cancelled_ = superseded_ = stopped_ = false;
+    name_ = std::move(name);
 }
 
 void JobState::End() {

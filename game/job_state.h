@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace tidewalk {
 
@@ -24,7 +25,14 @@ class JobState {
     /// The running job is to stop as soon as it can.
     bool MustStop() const { return cancelled_ || superseded_ || ending_; }
 
+    /// The running job, which works on many things one by one, was asked to end as a whole.
+    bool StopFlag() const { return stopped_; }
+
+    /// What the player calls the running job.
+    const std::string& Name() const { return name_; }
+
     void Cancel() { cancelled_ = true; }
+    void Stop() { stopped_ = cancelled_ = true; }
     void TakeBackCancel() { cancelled_ = false; }
     void EndProgram() { ending_ = true; }
     /// The board holds another puzzle now.
@@ -36,7 +44,7 @@ class JobState {
     void Polled(std::int64_t now) { lastPoll_ = now; }
 
     /// For `Job` alone: a job begins, takes what is on the board for its own, ends.
-    void Begin();
+    void Begin(std::string name);
     void Adopt() { superseded_ = false; }
     void End();
 
@@ -45,6 +53,8 @@ class JobState {
     bool cancelled_ = false;
     bool superseded_ = false;
     bool ending_ = false;
+    bool stopped_ = false;
+    std::string name_;
     std::int64_t lastPoll_ = 0;
 };
 

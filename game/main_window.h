@@ -78,6 +78,9 @@ class PendingEvents {
 
     /// Lets everything that waits happen now.
     virtual void DoEvents() = 0;
+
+    /// Brings what was drawn to the screen and lets clicks and keys wait on.
+    virtual void Repaint() = 0;
 };
 
 /// The time.

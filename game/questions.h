@@ -16,6 +16,7 @@ struct FileRequest {
     std::string patternName;  ///< "Tidewalk Files"
     std::string startFolder;
     Mode mode = Mode::Open;
+    std::string ending = {};  ///< what the picker gives a name to save that has none: "txt"
 };
 
 /// Asks for a file name.

@@ -3,6 +3,7 @@
 
 #include <functional>
 
+#include "game/file_work.h"
 #include "game/job.h"
 #include "game/pick_file.h"
 #include "generator/grid_size.h"
@@ -12,10 +13,13 @@
 #include "model/load_puzzle.h"
 #include "model/numbers.h"
 #include "model/paths.h"
+#include "model/puzzle_record.h"
 
 namespace tidewalk {
 
 namespace {
+
+constexpr const char* kJobName = "The batch";
 
 /// A batch to make.
 struct Batch {
@@ -53,53 +57,71 @@ Puzzle CreateInBatch(Game& game, Job& job, BoardSize size) {
     }
 }
 
-/// Makes the puzzles, appends each and counts them in `written`. Throws FileError when one cannot be.
-void MakePuzzles(Game& game, Job& job, const Batch& batch, int& written) {
-    while (written < batch.count) {
-        const BoardSize size = batch.sizeOfNext();
-        game.window.SetText(WindowText::Status, batch.status(written + 1, size));
-        game.window.SetProgress(written, batch.count);
-        const Puzzle puzzle = CreateInBatch(game, job, size);
-        if (game.job.Ending()) return;
-        CloseFiles(game);
-        WritePuzzleRecord(batch.path, puzzle, WriteMode::Append);
-        ++written;
-        PollEvents(game);
-        if (game.job.Ending()) return;
-    }
-}
-
-/// Runs the batch and gives the player the board back as it was. True when all puzzles were written; a failure is told.
-bool RunBatch(Game& game, const Batch& batch) {
+/// What came of a batch.
+struct BatchResult {
     int written = 0;
-    std::string failure;
-    {
-        const BusyPointer pointer(game);
-        {
-            Job job(game);
-            game.pictures.Picture().Clear(game.options.BoardBackground());
-            game.events.DoEvents();
-            const FrozenBoard frozen(game);
-            try {
-                MakePuzzles(game, job, batch, written);
-            } catch (const FileError& error) {
-                failure = error.what();
-            }
-        }
-        if (game.job.Ending()) return false;
-        ReloadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber);
+    std::string failure;   ///< why it could not go on; "" for no such reason
+    bool cutTail = false;  ///< a torn record was taken off the file first
+};
+
+/// Makes the puzzles and appends each, until all are made, the batch is stopped or the window is closed. Throws
+/// FileError when one cannot be written.
+void MakePuzzles(Game& game, Job& job, const Batch& batch, BatchResult& result) {
+    while (result.written < batch.count) {
+        const BoardSize size = batch.sizeOfNext();
+        game.window.SetText(WindowText::Status, batch.status(result.written + 1, size));
+        game.window.SetProgress(result.written, batch.count);
+        const Puzzle puzzle = CreateInBatch(game, job, size);
+        if (game.job.Ending() || game.job.StopFlag()) return;
+        CloseFiles(game);
+        const std::string record = PuzzleRecord(puzzle);
+        result.cutTail |= AppendRecord(batch.path, record, Numbering::Skip, WaitingFor(game, batch.path)).cutTail;
+        ++result.written;
+        PollEvents(game);
+        if (game.job.Ending() || game.job.StopFlag()) return;
     }
-    if (failure.empty()) return true;
-    game.prompts.Show("The puzzles could not all be written:\r\n" + failure + "\r\n\r\n" + NumText(written) + " of" +
-                          Str(batch.count) + " puzzles were written.",
-                      "vbcritical+vbok");
-    game.window.SetText(WindowText::Status, "");
-    return false;
 }
 
-/// A folder with a dot in its name does not count as an extension.
-void AddTextExtension(std::string& path) {
-    if (FileNameOf(path).find('.') == std::string::npos) path += ".txt";
+/// Runs the batch and gives the player the board back as it was.
+BatchResult RunBatch(Game& game, const Batch& batch) {
+    BatchResult result;
+    const ShownPuzzle before = PuzzleShown(game);
+    const BusyPointer pointer(game);
+    {
+        Job job(game, kJobName);
+        game.pictures.Picture().Clear(game.options.BoardBackground());
+        game.events.DoEvents();
+        const FrozenBoard frozen(game);
+        try {
+            MakePuzzles(game, job, batch, result);
+            if (result.written > 0) SyncCollection(batch.path);
+        } catch (const FileError& error) {
+            result.failure = error.what();
+        }
+    }
+    if (game.job.Ending()) return result;
+    // Another puzzle that the player has gone to meanwhile is the current one now.
+    const bool sameCollection = before.collection.CollectionPath == game.collection.CollectionPath &&
+                                before.collection.PuzzleNumber == game.collection.PuzzleNumber;
+    ShowAgain(game, sameCollection ? before : PuzzleShown(game));
+    return result;
+}
+
+/// Tells how the batch ended; `done` when all puzzles were written.
+void Report(Game& game, const Batch& batch, const BatchResult& result, const std::function<void()>& done) {
+    if (game.job.Ending()) return;
+    if (!result.failure.empty()) {
+        game.prompts.Show("The puzzles could not all be written:\r\n" + result.failure + "\r\n\r\n" +
+                              NumText(result.written) + " of" + Str(batch.count) + " puzzles were written.",
+                          "vbcritical+vbok");
+    } else if (result.written < batch.count) {
+        game.prompts.Show(
+            "Created" + Str(result.written) + " of" + Str(batch.count) + " puzzles in file:\r\n" + batch.path,
+            "vbinformation+vbok");
+    } else {
+        done();
+    }
+    game.window.SetText(WindowText::Status, result.cutTail ? TornRecordText(batch.path) : "");
 }
 
 bool IsCreatable(int count, BoardSize size) {
@@ -123,16 +145,16 @@ bool Form3_Command1_Click(Game& game, BatchRequest& request) {
         game.prompts.Show("Specify an output file", "vbok+vbcritical");
         return false;
     }
-    AddTextExtension(path);
+    AddExtension(path, "txt");
     request.outputFile = path;
     return true;
 }
 
 void Form3_gf1_Click(Game& game, BatchRequest& request) {
-    std::string path = PickFile(
-        game, {"Select an output Puzzle file", "*.txt", "Tidewalk Files", game.AppFolder, FileRequest::Mode::Save});
+    std::string path = PickFile(game, {"Select an output Puzzle file", "*.txt", "Tidewalk Files", game.AppFolder,
+                                       FileRequest::Mode::Save, "txt"});
     if (path.empty()) return;
-    AddTextExtension(path);
+    AddExtension(path, "txt");
     request.outputFile = path;
 }
 
@@ -149,9 +171,9 @@ void mnucreatemany_Click(Game& game) {
     if (game.prompts.Show(question, "vbquestion+vbyesno") != kYes) return;
 
     const auto status = [&](int number, BoardSize) { return "Creating puzzle" + Str(number) + " of" + Str(count); };
-    if (!RunBatch(game, {count, path, [&] { return size; }, status})) return;
-    game.prompts.Show("Created" + Str(count) + " puzzles in file:\r\n" + path, "vbinformation+vbok");
-    game.window.SetText(WindowText::Status, "");
+    const Batch batch{count, path, [&] { return size; }, status};
+    Report(game, batch, RunBatch(game, batch),
+           [&] { game.prompts.Show("Created" + Str(count) + " puzzles in file:\r\n" + path, "vbinformation+vbok"); });
 }
 
 void Command4_Click(Game& game) {
@@ -161,9 +183,16 @@ void Command4_Click(Game& game) {
     const auto status = [](int number, BoardSize size) {
         return Format(size.rows, "00") + Format(size.cols, "00") + Str(number) + " of" + Str(kCount);
     };
-    if (!RunBatch(game, {kCount, "rand1.txt", drawSize, status})) return;
-    game.prompts.SystemBox("done", SystemButtons::Ok);
-    game.window.SetText(WindowText::Status, "");
+    const Batch batch{kCount, "rand1.txt", drawSize, status};
+    Report(game, batch, RunBatch(game, batch), [&] { game.prompts.SystemBox("done", SystemButtons::Ok); });
+}
+
+void mnustopbatch_Click(Game& game) {
+    if (BatchRuns(game)) game.job.Stop();
+}
+
+bool BatchRuns(const Game& game) {
+    return game.job.BusyFlag() && game.job.Name() == kJobName;
 }
 
 }  // namespace tidewalk

@@ -20,4 +20,10 @@ void mnucreatemany_Click(Game& game);
 /// Makes 1200 puzzles of random sizes into "rand1.txt" in the current directory.
 void Command4_Click(Game& game);
 
+/// Ends the running batch as a whole, where Cancel cuts only one puzzle short. The puzzle under way is dropped.
+void mnustopbatch_Click(Game& game);
+
+/// True while a batch is under way.
+bool BatchRuns(const Game& game);
+
 }  // namespace tidewalk

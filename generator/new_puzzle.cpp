@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "board/show_board.h"
+#include "game/file_work.h"
 #include "game/job.h"
 #include "generator/grid_size.h"
 #include "model/collection_file.h"
@@ -15,7 +16,6 @@ namespace tidewalk {
 
 namespace {
 
-constexpr const char* kPuzzleFile = "temp.txt";
 constexpr const char* kCanceling = " Canceling...";
 constexpr const char* kFailed = "Could not create new puzzle";
 
@@ -28,27 +28,28 @@ enum class Outcome {
 
 /// Writes the new puzzle to its file and loads it from there.
 Outcome WriteAndLoad(Game& game, const Puzzle& puzzle, std::string& message) {
+    const std::string file = WorkFile(game, "temp.txt");
     CloseFiles(game);
     try {
-        WritePuzzleRecord(kPuzzleFile, puzzle, WriteMode::Replace);
+        WritePuzzleRecord(file, puzzle, WriteMode::Replace, WaitingFor(game, file));
     } catch (const FileError& error) {
         message += "\r\n" + std::string(error.what());
         return Outcome::Failed;
     }
-    return LoadPuzzle(game, kPuzzleFile, 1) ? Outcome::Created : Outcome::Failed;
+    return LoadPuzzle(game, file, 1) ? Outcome::Created : Outcome::Failed;
 }
 
 /// Makes the puzzle and makes it the current one, or loads the one that is current again.
 Outcome MakePuzzle(Game& game, BoardSize size, std::string& message) {
     const BusyPointer pointer(game);
-    const Collection before = game.collection;
-    const Job job(game);
+    const ShownPuzzle before = PuzzleShown(game);
+    const Job job(game, "New Puzzle");
     game.window.SetText(WindowText::Status, " Creating" + Str(size.rows) + "x" + NumText(size.cols) + " puzzle ...");
     game.pictures.SetEnabled(false);
     const CreatedPuzzle created = CreateInJob(game, size);
     if (game.job.Ending() || game.job.Superseded()) return Outcome::Abandoned;
     const Outcome outcome = created.solved ? WriteAndLoad(game, created.puzzle, message) : Outcome::Failed;
-    if (outcome == Outcome::Failed) ReloadPuzzle(game, before.CollectionPath, before.PuzzleNumber);
+    if (outcome == Outcome::Failed) ShowAgain(game, before);
     return outcome;
 }
 

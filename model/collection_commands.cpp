@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "game/file_work.h"
 #include "game/job.h"
 #include "game/pick_file.h"
 #include "model/collection_file.h"
@@ -13,6 +14,7 @@
 #include "model/numbers.h"
 #include "model/paths.h"
 #include "model/plain_grid.h"
+#include "model/puzzle_record.h"
 #include "model/replace_file.h"
 
 namespace tidewalk {
@@ -20,27 +22,45 @@ namespace tidewalk {
 namespace {
 
 FileRequest SaveRequest(const Game& game, std::string title, std::string patternName) {
-    return {std::move(title), "*.txt", std::move(patternName), game.AppFolder, FileRequest::Mode::Save};
+    return {std::move(title), "*.txt", std::move(patternName), game.AppFolder, FileRequest::Mode::Save, "txt"};
 }
 
 void SayNotWritten(Game& game, const FileError& error) {
     game.window.SetText(WindowText::Status, std::string("Not written: ") + error.what());
 }
 
+void SayOnlyOne(Game& game, std::string_view style) {
+    game.prompts.Show("There is only one puzzle in this file", style);
+}
+
 /// Asks whether to delete the current puzzle, and looks whether it may be deleted, before and after.
 bool MayDelete(Game& game) {
-    const std::string onlyOne = "There is only one puzzle in this file";
     if (game.collection.PuzzleCount <= 1) {
-        game.prompts.Show(onlyOne, "vbcritical+vbok");
+        SayOnlyOne(game, "vbcritical+vbok");
         return false;
     }
     const std::string question = "Delete current puzzle from file:\r\n" + game.collection.CollectionPath;
     if (game.prompts.Show(question, "vbYesNo+vbtrash") != kYes) return false;
-    if (CountPuzzles(game, game.collection.CollectionPath) == 1) {
-        game.prompts.Show(onlyOne, "vbok+vbcritical");
-        return false;
-    }
-    return true;
+    if (CountPuzzles(game, game.collection.CollectionPath) != 1) return true;
+    SayOnlyOne(game, "vbok+vbcritical");
+    return false;
+}
+
+/// Another program has changed the collection since the puzzle was loaded.
+void SayChangedAndLoadAfresh(Game& game, int count) {
+    const std::string path = game.collection.CollectionPath;
+    game.prompts.Show("Another program has changed the file:\r\n" + path + "\r\nNothing was deleted.",
+                      "vbinformation+vbok");
+    LoadPuzzle(game, path, std::clamp(game.collection.PuzzleNumber, 1, std::max(count, 1)));
+}
+
+void ShowAfterDelete(Game& game, int left) {
+    Collection& collection = game.collection;
+    collection.PuzzleNumber = std::min(std::max(collection.PuzzleNumber - 1, 1), left);
+    collection.PuzzleCount = left;
+    LoadPuzzle(game, collection.CollectionPath, collection.PuzzleNumber);
+    game.board.history.Clear();
+    game.prompts.Show("Deleted", "vbok+vbtrash");
 }
 
 }  // namespace
@@ -50,44 +70,57 @@ void mnuappend_Click(Game& game) {
     std::string path = PickFile(game, SaveRequest(game, "Add Puzzle to File", "Tidewalk Files"));
     if (path.empty()) return;
     AddExtension(path, "txt");
-    int number = 0;
+    Appended appended;
     {
         const BusyPointer busy(game);
-        number = CountPuzzles(game, path) + 1;
+        CloseFiles(game);
         try {
-            WritePuzzleRecord(path, game.board.puzzle, WriteMode::Append);
+            appended = AppendRecord(path, PuzzleRecord(game.board.puzzle), Numbering::Count, WaitingFor(game, path));
+            SyncCollection(path);
         } catch (const FileError& error) {
             SayNotWritten(game, error);
             return;
         }
-        LoadPuzzle(game, path, number);
+        LoadPuzzle(game, path, appended.number);
     }
-    game.prompts.Show("Puzzle#" + NumText(number) + " appended to file " + path, "vbinformation+vbok");
+    game.prompts.Show("Puzzle#" + NumText(appended.number) + " appended to file " + path, "vbinformation+vbok");
+    if (appended.cutTail) game.window.SetText(WindowText::Status, TornRecordText(path));
+}
+
+bool CanDelete(const Game& game) {
+    return game.collection.importedFrom.empty();
 }
 
 void mnudelete_Click(Game& game) {
-    if (!MayDelete(game)) return;
-    Collection& collection = game.collection;
-    int left = 0;
+    if (!CanDelete(game) || !MayDelete(game)) return;
+    const Collection& collection = game.collection;
+    const std::string path = collection.CollectionPath;
+    Deleted deleted;
     CloseFiles(game);
     try {
-        left = DeleteLine(collection.CollectionPath, collection.PuzzleNumber, "tidetemp.tmp");
+        deleted = DeleteLine(path, collection.PuzzleNumber, collection.loadedLine, WorkFile(game, "tidetemp.tmp"),
+                             WaitingFor(game, path));
     } catch (const FileError& error) {
         game.prompts.SystemBox(std::string("The puzzle could not be deleted.\r\n") + error.what(), SystemButtons::Ok);
         return;
     }
-    collection.PuzzleNumber = std::min(std::max(collection.PuzzleNumber - 1, 1), left);
-    collection.PuzzleCount = left;
-    LoadPuzzle(game, collection.CollectionPath, collection.PuzzleNumber);
-    game.board.history.Clear();
-    game.prompts.Show("Deleted", "vbok+vbtrash");
+    switch (deleted.outcome) {
+        case Deleted::Outcome::Done:
+            return ShowAfterDelete(game, deleted.left);
+        case Deleted::Outcome::OnlyLine:
+            return SayOnlyOne(game, "vbok+vbcritical");
+        case Deleted::Outcome::NoSuchLine:
+        case Deleted::Outcome::OtherLine:
+            return SayChangedAndLoadAfresh(game, deleted.left);
+    }
 }
 
 void mnuexport_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     std::string path = PickFile(game, SaveRequest(game, "Export Puzzle", "Text Files"));
-    if (path.empty() || !ConfirmOverwrite(game, path)) return;
+    if (path.empty()) return;
     AddExtension(path, "txt");
+    if (!ConfirmOverwrite(game, path)) return;
     CloseFiles(game);
     try {
         ReplaceFile(path, [&](std::ostream& out) {
@@ -107,7 +140,7 @@ void Command3_Click(Game& game) {
     if (to.empty()) return;
     CloseFiles(game);
     try {
-        ConvertLayout(game.collection.CollectionPath, to);
+        ConvertCollection(game.collection.CollectionPath, to);
     } catch (const FileError& error) {
         game.prompts.SystemBox(std::string("The collection could not be converted.\r\n") + error.what(),
                                SystemButtons::Ok);

@@ -141,6 +141,14 @@ void ReadcfgFile(Game& game) {
     game.collection.CollectionPath = read->collection;
 }
 
+void WriteFirstConfiguration(const Game& game) {
+    try {
+        Write(PathOf(game), Defaults());
+    } catch (const FileError&) {
+        // The reader finds it missing and says so.
+    }
+}
+
 bool SavecfgFile(Game& game) {
     const std::string path = PathOf(game);
     CloseFiles(game);

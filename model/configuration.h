@@ -13,6 +13,10 @@ namespace tidewalk {
 /// options and the puzzle number are then the defaults; `CollectionPath` keeps what it held.
 void ReadcfgFile(Game& game);
 
+/// Puts the defaults into the "tide.cfg" of a program folder that was just made, so that nothing has to be reported.
+/// One that cannot be written is reported when it is read.
+void WriteFirstConfiguration(const Game& game);
+
 /// Writes "tide.cfg" from the current values. False after a message when it could not be written; the old file is then
 /// whole.
 bool SavecfgFile(Game& game);

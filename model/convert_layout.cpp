@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "model/convert_layout.h"
 
-#include <cerrno>
-#include <fstream>
-
 #include "model/file_error.h"
 #include "model/line_reader.h"
 #include "model/numbers.h"
+#include "model/paths.h"
+#include "model/puzzle_record.h"
+#include "model/replace_file.h"
 
 namespace tidewalk {
 
@@ -17,7 +17,7 @@ constexpr int kMostRows = 1000;  ///< a puzzle without an end is ended there
 /// The lines of a file but the last.
 class UsableLines {
  public:
-    explicit UsableLines(const std::string& path) : lines_(path), hasNext_(lines_.Next(next_)) {}
+    explicit UsableLines(LineReader& lines) : lines_(lines), hasNext_(lines_.Next(next_)) {}
 
     /// The next line, or false when only the last line of the file is left.
     bool Take(std::string& line) {
@@ -28,7 +28,7 @@ class UsableLines {
     }
 
  private:
-    LineReader lines_;
+    LineReader& lines_;
     std::string next_;
     bool hasNext_;
 };
@@ -49,29 +49,49 @@ bool TakeRows(UsableLines& lines, std::string& record) {
     return true;
 }
 
+/// Reads the next puzzle into `record`; false when there is none. `more` tells whether another one may follow.
+bool TakePuzzle(UsableLines& lines, std::string& record, bool& more) {
+    std::string kind;
+    std::string header;
+    if (!lines.Take(kind) || !lines.Take(header)) return false;
+    record = header + ";" + KindOf(kind) + ";";
+    more = TakeRows(lines, record);
+    return true;
+}
+
 }  // namespace
 
 std::string ConvertedPath(const std::string& collectionPath) {
-    const std::size_t dot = collectionPath.find('.');
-    return dot == std::string::npos ? "" : collectionPath.substr(0, dot) + "-newformat.txt";
+    const std::string name = FileNameOf(collectionPath);
+    const std::size_t dot = name.find('.');
+    if (dot == std::string::npos) return "";
+    return collectionPath.substr(0, collectionPath.size() - name.size() + dot) + "-newformat.txt";
 }
 
-void ConvertLayout(const std::string& from, const std::string& to) {
+void ConvertLayout(LineReader& from, std::ostream& out) {
     UsableLines lines(from);
-    DemandWritable(to);
-    errno = 0;
-    std::ofstream out(to, std::ios::binary);
-    if (!out) Fail(to, errno);
-    std::string kind;
-    std::string header;
-    bool more = lines.Take(header);
-    while (more && lines.Take(kind) && lines.Take(header)) {
-        std::string record = header + ";" + KindOf(kind) + ";";
-        more = TakeRows(lines, record);
+    std::string record;
+    bool more = lines.Take(record);
+    while (more && TakePuzzle(lines, record, more))
         out << record << kLineEnd;
+}
+
+void ConvertCollection(const std::string& from, const std::string& to) {
+    LineReader lines(from);
+    ReplaceFile(to, [&](std::ostream& out) { ConvertLayout(lines, out); });
+}
+
+bool IsOlderLayout(const std::string& path) {
+    try {
+        LineReader reader(path);
+        UsableLines lines(reader);
+        std::string record;
+        bool more = false;
+        if (!lines.Take(record) || ParsePuzzleRecord(record)) return false;
+        return TakePuzzle(lines, record, more) && ParsePuzzleRecord(record).has_value();
+    } catch (const FileError&) {
+        return false;
     }
-    out.close();
-    if (!out) Fail(to, errno);
 }
 
 }  // namespace tidewalk

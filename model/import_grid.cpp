@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "board/show_board.h"
+#include "game/file_work.h"
 #include "game/job.h"
 #include "game/pick_file.h"
 #include "model/characters.h"
@@ -57,10 +57,7 @@ bool ReadGridFile(Game& game, const std::string& path, int number) {
     Puzzle puzzle;
     CloseFiles(game);
     if (!ReportGridResult(game, ReadGridFrom(path, number, puzzle), path, number)) return false;
-    PutOnBoard(game, puzzle);
-    FitBoard(game);
-    RedrawBoard(game, false);
-    ShowPuzzleLabels(game, path);
+    TakeImported(game, puzzle, path);
     game.window.SetText(WindowText::Status, "Edited puzzle read");
     return true;
 }
@@ -76,7 +73,7 @@ void mnuimport_Click(Game& game) {
 
 void mnupastepuzzle_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
-    const std::string workFile = "tempin.txt";
+    const std::string workFile = WorkFile(game, "tempin.txt");
     const std::string text = game.clipboard.Text();
     if (Trim(text).empty() || !WriteLines(workFile, LinesOf(text))) {
         game.window.SetText(WindowText::Status, "Error importing puzzle");

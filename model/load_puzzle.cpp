@@ -55,16 +55,32 @@ bool LoadPuzzle(Game& game, const std::string& path, int number) {
     game.collection.PuzzleCount = CountPuzzles(game, path);
     game.collection.PuzzleNumber = number;
     game.collection.CollectionPath = path;
+    game.collection.loadedLine = record;
+    game.collection.importedFrom.clear();
     game.window.SetText(WindowText::PuzzleNumber, NumText(number));
     ShowPuzzleLabels(game, path);
     return true;
 }
 
-void ReloadPuzzle(Game& game, const std::string& path, int number) {
+ShownPuzzle PuzzleShown(const Game& game) {
+    return {game.board.puzzle, game.collection};
+}
+
+void ShowAgain(Game& game, const ShownPuzzle& before) {
+    const Collection& collection = before.collection;
+    if (!collection.importedFrom.empty()) return TakeImported(game, before.puzzle, collection.importedFrom);
     CloseFiles(game);
-    if (LoadPuzzle(game, path, number)) return;
+    if (LoadPuzzle(game, collection.CollectionPath, collection.PuzzleNumber)) return;
     CloseFiles(game);
     ShowEmptyBoard(game);
+}
+
+void TakeImported(Game& game, const Puzzle& puzzle, const std::string& from) {
+    game.collection.importedFrom = from;
+    PutOnBoard(game, WithoutLinks(puzzle));
+    FitBoard(game);
+    RedrawBoard(game, false);
+    ShowPuzzleLabels(game, from);
 }
 
 void CloseFiles(Game& game) {

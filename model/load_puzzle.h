@@ -15,8 +15,20 @@ namespace tidewalk {
 /// read the puzzle stays as it was; when its record is malformed the board is left partly reset.
 bool LoadPuzzle(Game& game, const std::string& path, int number);
 
-/// Loads a puzzle again after a job that worked on the board. When it is not there any more the board is left empty.
-void ReloadPuzzle(Game& game, const std::string& path, int number);
+/// A puzzle on the board, and where it belongs.
+struct ShownPuzzle {
+    Puzzle puzzle;
+    Collection collection;
+};
+ShownPuzzle PuzzleShown(const Game& game);
+
+/// Puts a puzzle that was on the board before back there, with nothing played: it is loaded again, or, if it is no
+/// puzzle of a collection, taken as it was. One that is not there any more leaves the board empty.
+void ShowAgain(Game& game, const ShownPuzzle& before);
+
+/// Makes the puzzle the current one, of no collection: it was read from `from`, a grid's file. `CollectionPath` and
+/// `PuzzleNumber` keep naming the last collection and puzzle.
+void TakeImported(Game& game, const Puzzle& puzzle, const std::string& from);
 
 /// Closes the file that a failed load has left open.
 void CloseFiles(Game& game);

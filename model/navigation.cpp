@@ -6,6 +6,8 @@
 
 #include "game/job.h"
 #include "game/pick_file.h"
+#include "model/convert_layout.h"
+#include "model/file_error.h"
 #include "model/load_puzzle.h"
 #include "model/numbers.h"
 
@@ -49,15 +51,43 @@ void PuzNumNow_KeyPress(Game& game, int key) {
     LoadOrGoBack(game, number, game.collection.PuzzleNumber);
 }
 
+bool OpenCollection(Game& game, const std::string& path, int number) {
+    if (!IsOlderLayout(path)) return LoadPuzzle(game, path, number);
+    const std::string to = ConvertedPath(path);
+    const std::string isOlder = "This collection is of the older layout:\r\n" + path + "\r\n\r\n";
+    if (to.empty()) {
+        game.prompts.Show(isOlder + "Give it a name with an ending, so that a converted copy can be named after it.",
+                          "vbinformation+vbok");
+        return false;
+    }
+    if (game.prompts.Show(isOlder + "Convert it to this file and open that?\r\n" + to, "vbYesNo+vbquestion") != kYes) {
+        return false;
+    }
+    if (!ConfirmOverwrite(game, to)) return false;
+    try {
+        ConvertCollection(path, to);
+    } catch (const FileError& error) {
+        game.prompts.SystemBox(std::string("The collection could not be converted.\r\n") + error.what(),
+                               SystemButtons::Ok);
+        return false;
+    }
+    return LoadPuzzle(game, to, number);
+}
+
+void OpenChosen(Game& game, const std::string& path) {
+    if (RefuseWhileBusy(game)) return;
+    const BusyPointer busy(game);
+    CloseFiles(game);
+    OpenCollection(game, path, 1);
+    game.window.SetText(WindowText::Status, "");
+}
+
 void mnuloadpuz_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     const std::string path = PickFile(
         game, {std::string(AppTitle), "*.tdw;*.txt;*.dat", "Tidewalk Files", game.AppFolder, FileRequest::Mode::Open});
-    if (path.empty()) return;
     // A collection that fails to open does not bring the previous puzzle back: the message is all there is to say.
-    const BusyPointer busy(game);
-    LoadPuzzle(game, path, 1);
-    game.window.SetText(WindowText::Status, "");
+    if (!path.empty()) OpenChosen(game, path);
 }
 
 void cmdload_Click(Game& game) {

@@ -2,6 +2,8 @@
 // Moving through a collection and opening another one.
 #pragma once
 
+#include <string>
+
 #include "game/game.h"
 
 namespace tidewalk {
@@ -14,6 +16,13 @@ void arrows_Click(Game& game, int index, MouseButton button);
 
 /// Enter in the number box loads the puzzle of that number; numbers out of range do nothing.
 void PuzNumNow_KeyPress(Game& game, int key);
+
+/// Opens the collection at `path` at puzzle `number`. One of the older layout is named, and converted if the player
+/// wants that; the converted copy is then opened. True when a puzzle was loaded.
+bool OpenCollection(Game& game, const std::string& path, int number);
+
+/// Opens the file that was chosen, or dropped on the window, at its first puzzle. A failed load before it is forgotten.
+void OpenChosen(Game& game, const std::string& path);
 
 /// Asks for a collection file and loads its first puzzle.
 void mnuloadpuz_Click(Game& game);

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "game/file_work.h"
 #include "game/job.h"
 #include "game/pick_file.h"
 #include "model/file_error.h"
@@ -16,7 +17,7 @@ namespace tidewalk {
 namespace {
 
 FileRequest GridRequest(const Game& game, std::string title, FileRequest::Mode mode) {
-    return {std::move(title), "*.grd;*.txt", "Grid Files", game.AppFolder, mode};
+    return {std::move(title), "*.grd;*.txt", "Grid Files", game.AppFolder, mode, "grd"};
 }
 
 /// Writes the grid to `path`; says why when that fails.
@@ -99,7 +100,7 @@ bool SaveNumberGrid(Game& game, const NumberGrid& grid) {
 
 bool UseNumberGrid(Game& game, const NumberGrid& grid) {
     if (RefuseWhileBusy(game)) return false;
-    const std::string workFile = "tempeditpuzzle.txt";
+    const std::string workFile = WorkFile(game, "tempeditpuzzle.txt");
     return WriteGridFile(game, grid, workFile) && ReadGridFile(game, workFile, 1);
 }
 

@@ -27,10 +27,10 @@ std::uint64_t FileLength(const std::string& path) {
     return error ? 0 : length;
 }
 
-void AddExtension(std::string& name, std::string_view extension) {
-    if (name.find('.') != std::string::npos) return;
-    name += '.';
-    name += extension;
+void AddExtension(std::string& path, std::string_view extension) {
+    if (FileNameOf(path).find('.') != std::string::npos) return;
+    path += '.';
+    path += extension;
 }
 
 }  // namespace tidewalk

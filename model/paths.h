@@ -17,7 +17,7 @@ std::string WithSeparator(std::string folder);
 /// The size of the file in bytes, or 0 when there is no such file or it cannot be told.
 std::uint64_t FileLength(const std::string& path);
 
-/// Appends "." and the extension to a name that holds no "." anywhere, folders included.
-void AddExtension(std::string& name, std::string_view extension);
+/// Appends "." and the extension to a path whose file name holds no ".".
+void AddExtension(std::string& path, std::string_view extension);
 
 }  // namespace tidewalk

@@ -137,6 +137,13 @@ std::optional<Puzzle> ParsePuzzleRecord(std::string_view line) {
     return puzzle;
 }
 
+bool RecordHoldsBridges(const Puzzle& puzzle) {
+    return std::none_of(puzzle.LinkList.begin(), puzzle.LinkList.end(), [&](const Link& link) {
+        const auto [low, high] = std::minmax(link.first, link.second);
+        return link.Bridges() > 0 && (high - low == 1 || high - low == puzzle.Cols);
+    });
+}
+
 std::string PuzzleRecord(const Puzzle& puzzle) {
     BoardText cells;
     cells.Fill(kWater);

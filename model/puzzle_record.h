@@ -34,6 +34,10 @@ RecordRead ReadPuzzleRecord(std::string_view record, Puzzle& puzzle);
 /// The puzzle of a line; nothing when that is no whole record.
 std::optional<Puzzle> ParsePuzzleRecord(std::string_view line);
 
+/// False when bridges join islands that touch each other: a record shows bridges by the cells between their ends, and
+/// there is none.
+bool RecordHoldsBridges(const Puzzle& puzzle);
+
 /// The puzzle and its bridges as a record, without a line's end.
 std::string PuzzleRecord(const Puzzle& puzzle);
 

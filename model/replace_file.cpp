@@ -4,9 +4,11 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
+#include <optional>
+#include <utility>
 
 #include "model/file_error.h"
+#include "model/system_file.h"
 
 namespace tidewalk {
 
@@ -19,81 +21,93 @@ fs::path BehindLinks(fs::path path) {
     constexpr int kMostLinks = 40;
     std::error_code error;
     for (int links = 0; fs::is_symlink(fs::symlink_status(path, error)); ++links) {
-        if (links == kMostLinks) Fail(path, ELOOP);
+        if (links == kMostLinks) Fail(path.string(), ELOOP);
         const fs::path next = fs::read_symlink(path, error);
-        if (error) Fail(path, error.value());
+        if (error) Fail(path.string(), error.value());
         // An absolute link replaces the folder, too.
         path = path.parent_path() / next;
     }
     return path;
 }
 
-/// Fails where an old file must not be written: to rename over it would not ask for that right.
-void DemandWritable(const fs::path& target) {
+/// The old file, if there is one. Fails where it must not be written: to rename over it would not ask for that right.
+std::optional<SystemFile> OpenOld(const std::string& target) {
     std::error_code error;
-    const fs::file_status status = fs::status(target, error);
-    if (!fs::exists(status)) return;
-    if (fs::is_directory(status)) Fail(target, EISDIR);
-    if (!fs::is_regular_file(status)) Fail(target, EINVAL);
-    std::FILE* const file = std::fopen(target.string().c_str(), "r+b");
-    if (file == nullptr) Fail(target, errno);
-    std::fclose(file);
+    if (!fs::exists(fs::status(target, error))) return std::nullopt;
+    DemandReadable(target);
+    auto old = SystemFile::Open(target, SystemFile::Mode::Change);
+    if (!old) Fail(target, errno);
+    return old;
+}
+
+/// The names that replacements of `target` are written under.
+std::string NameBeside(const std::string& target, int number) {
+    return target + ".new" + std::to_string(number);
+}
+
+constexpr int kMostBeside = 100;
+
+/// Takes away what killed replacements have left beside the target. Who still writes to such a file holds its lock.
+void RemoveLeftovers(const std::string& target) {
+    for (int number = 1; number <= kMostBeside; ++number) {
+        const std::string name = NameBeside(target, number);
+        auto file = SystemFile::Open(name, SystemFile::Mode::Change);
+        // Names are given from 1 on, and gaps come only from replacements that have just ended.
+        if (!file && number > 2) return;
+        if (file && file->TryLock() && file->IsAt(name)) std::remove(name.c_str());
+    }
 }
 
 /// A new, empty file beside the target; it goes away with the object unless it was renamed over the target.
 class FileBeside {
  public:
-    explicit FileBeside(const fs::path& target) : target_(target) {
-        constexpr int kTries = 100;
-        for (int number = 1; number <= kTries; ++number) {
-            path_ = target;
-            path_ += ".new" + std::to_string(number);
-            // "x": a file of that name may be another program's.
-            if (std::FILE* const file = std::fopen(path_.string().c_str(), "wbx")) {
-                std::fclose(file);
-                return;
-            }
-            if (errno != EEXIST) break;
+    explicit FileBeside(std::string target) : target_(std::move(target)) {
+        for (int number = 1; number <= kMostBeside; ++number) {
+            path_ = NameBeside(target_, number);
+            file_ = SystemFile::Open(path_, SystemFile::Mode::MakeNew);
+            // Between the file's making and its lock somebody may have taken it for a leftover.
+            if (file_ && file_->TryLock() && file_->IsAt(path_)) return;
+            if (!file_ && errno != EEXIST) break;
         }
-        Fail(target, errno);
+        const int reason = errno;
+        file_.reset();
+        Fail(target_, reason);
     }
     ~FileBeside() {
-        std::error_code ignored;
-        if (!renamed_) fs::remove(path_, ignored);
+        if (!renamed_) std::remove(path_.c_str());
     }
     FileBeside(const FileBeside&) = delete;
     FileBeside& operator=(const FileBeside&) = delete;
 
-    const fs::path& Path() const { return path_; }
+    SystemFile& File() { return *file_; }
 
     void RenameOverTarget() {
-        std::error_code error;
-        const fs::file_status old = fs::status(target_, error);
-        if (fs::exists(old)) fs::permissions(path_, old.permissions(), error);
-        error.clear();
-        fs::rename(path_, target_, error);
-        if (error) Fail(target_, error.value());
+        if (std::rename(path_.c_str(), target_.c_str()) != 0) Fail(target_, errno);
         renamed_ = true;
+        SyncFolderOf(target_);
     }
 
  private:
-    fs::path target_;
-    fs::path path_;
+    std::string target_;
+    std::string path_;
+    std::optional<SystemFile> file_;
     bool renamed_ = false;
 };
 
 }  // namespace
 
 void ReplaceFile(const std::string& path, const std::function<void(std::ostream&)>& write) {
-    const fs::path target = BehindLinks(path);
-    DemandWritable(target);
+    const std::string target = BehindLinks(path).string();
+    const std::optional<SystemFile> old = OpenOld(target);
+    RemoveLeftovers(target);
     FileBeside beside(target);
-    errno = 0;
-    std::ofstream stream(beside.Path(), std::ios::binary);
-    if (stream) write(stream);
-    // The last bytes reach the disk only now, and may not fit.
-    if (stream) stream.close();
-    if (!stream) Fail(target, errno);
+    if (!(old ? beside.File().TakeModeOf(*old) : beside.File().TakeUsualMode())) Fail(target, errno);
+    FileOutput output(beside.File());
+    std::ostream stream(&output);
+    write(stream);
+    const int failure = output.Finish();
+    if (failure != 0 || !stream) Fail(target, failure);
+    if (!beside.File().Sync()) Fail(target, errno);
     beside.RenameOverTarget();
 }
 

@@ -49,7 +49,7 @@ struct Options {
     Colour GridColour = kDefaultGridColour;    ///< the thin lines between islands, and the solution view
     int NodeShape = 0;                         ///< 1 circle, anything else square
     int ShowLines = 1;                         ///< 1 shows the thin lines between islands
-    int ShowFinished = 0;                      ///< 1 draws islands with all their bridges paler; not kept in any file
+    int ShowFinished = 0;                      ///< 1 draws islands with all their bridges paler
     int reservedNumber = 12;                   ///< kept in the configuration file, used by nothing
     int PrintLineWidth = 4;                    ///< the pen of printed bridges, in pixels at 300 dpi
 };

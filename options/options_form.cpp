@@ -13,6 +13,7 @@ namespace tidewalk {
 namespace {
 
 constexpr std::string_view kEnding = ".col";
+constexpr std::string_view kPalerFinished = "PalerFinished";
 
 std::string WithoutEnding(const std::string& name) {
     return name.substr(0, LowerCase(name).find(kEnding));
@@ -118,10 +119,15 @@ void command1_Click(Game& game, const OptionsForm& form) {
     options.NodeShape = form.Option2 ? 1 : 0;
     options.ShowLines = form.Check1 ? 1 : 0;
     options.ShowFinished = form.Check2 ? 1 : 0;
+    game.choices.Set(kPalerFinished, NumText(options.ShowFinished));
     const int width = RoundedVal(form.Text3);
     if (width >= 1) options.PrintLineWidth = std::min(width, kWidestPrintLine);
     ApplyColourScheme(game);
     if (!game.job.BusyFlag()) RedrawBoard(game, false);
+}
+
+void ReadChoices(Game& game) {
+    game.options.ShowFinished = RoundedVal(game.choices.Get(kPalerFinished, "0")) == 1 ? 1 : 0;
 }
 
 void reset_Click(Game& game, OptionsForm& form) {

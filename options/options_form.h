@@ -55,6 +55,9 @@ bool cmdnodecol_Click(OptionsForm& form, std::optional<Colour> picked);
 /// A line width that is no number of at least 1 leaves the old one.
 void command1_Click(Game& game, const OptionsForm& form);
 
+/// Reads the options that "tide.cfg" has no room for.
+void ReadChoices(Game& game);
+
 /// "Apply default options and exit". The window closes then.
 void reset_Click(Game& game, OptionsForm& form);
 

@@ -7,7 +7,14 @@
 namespace tidewalk {
 
 void cmdexit_Click(Game& game) {
-    if (game.prompts.Show("Exit?", "vbYesNo+vbexit") != kYes || game.job.Ending()) return;
+    const std::string status = game.window.Text(WindowText::Status);
+    if (game.job.BusyFlag()) game.window.SetText(WindowText::Status, game.job.Name() + " would be cut short");
+    const bool exits = game.prompts.Show("Exit?", "vbYesNo+vbexit") == kYes;
+    if (game.job.Ending()) return;
+    if (!exits) {
+        if (game.job.BusyFlag()) game.window.SetText(WindowText::Status, status);
+        return;
+    }
     CloseFiles(game);
     SavecfgFile(game);
     Form_QueryUnload(game);

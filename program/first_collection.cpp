@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "board/show_board.h"
+#include "game/file_work.h"
 #include "game/job.h"
 #include "generator/new_puzzle.h"
 #include "model/collection_file.h"
@@ -17,7 +17,7 @@ namespace {
 Puzzle CreateFirstPuzzle(Game& game) {
     constexpr BoardSize kSize{8, 8};
     const BusyPointer pointer(game);
-    const Job job(game);
+    const Job job(game, "New Puzzle");
     return CreateInJob(game, kSize).puzzle;
 }
 
@@ -34,10 +34,11 @@ void MakeFirstCollection(Game& game) {
     if (game.job.Ending()) return;
     game.collection.PuzzleNumber = 1;
     try {
-        WritePuzzleRecord(path, puzzle, WriteMode::Append);
+        WritePuzzleRecord(path, puzzle, WriteMode::Append, WaitingFor(game, path));
     } catch (const FileError& error) {
         game.prompts.Show(error.what(), "vbcritical+vbok");
-        ShowEmptyBoard(game);
+        // It can be played all the same.
+        TakeImported(game, puzzle, path);
         return;
     }
     LoadPuzzle(game, path, 1);

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "program/form_load.h"
 
+#include <algorithm>
+
+#include "model/collection_file.h"
 #include "model/configuration.h"
 #include "model/file_error.h"
 #include "model/line_reader.h"
 #include "model/load_puzzle.h"
+#include "model/navigation.h"
 #include "model/paths.h"
 #include "options/colour_scheme.h"
+#include "options/options_form.h"
 #include "program/first_collection.h"
 
 namespace tidewalk {
@@ -33,7 +38,7 @@ std::optional<std::string> ReadSchemeNames(Game& game) {
 /// Loads what the command line asks for; true when that was done.
 bool LoadRequested(Game& game, const StartRequest& request) {
     if (request.collection.empty()) return false;
-    if (LoadPuzzle(game, request.collection, request.puzzleNumber.value_or(1))) return true;
+    if (OpenCollection(game, request.collection, request.puzzleNumber.value_or(1))) return true;
     CloseFiles(game);
     return false;
 }
@@ -50,12 +55,15 @@ void TakeFirstColours(Game& game) {
 
 std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
     game.AppFolder = WithSeparator(request.appFolder);
+    game.windowNumber = request.windowNumber;
     game.SolutionTempPath = game.AppFolder + "TempPuzzleSolFile.tdw";
     game.ColourListPath = game.AppFolder + "all.col";
     TakeFirstColours(game);
     if (auto fatal = ReadSchemeNames(game)) return fatal;
 
+    if (request.folderIsNew) WriteFirstConfiguration(game);
     ReadcfgFile(game);
+    ReadChoices(game);
     Colour backColour = 0;
     LoadColourScheme(game, game.options.ColourSchemeName, backColour);
     ApplyColourScheme(game);
@@ -65,6 +73,9 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
         game.collection.CollectionPath = game.AppFolder + "puzzles.txt";
         game.collection.PuzzleNumber = 1;
     }
+    // The collection may have become shorter since.
+    const int count = CountLines(game.collection.CollectionPath);
+    if (count > 0) game.collection.PuzzleNumber = std::min(game.collection.PuzzleNumber, count);
     if (!LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber)) MakeFirstCollection(game);
     return std::nullopt;
 }

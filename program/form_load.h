@@ -11,9 +11,11 @@ namespace tidewalk {
 
 /// What the command line asks for.
 struct StartRequest {
-    std::string appFolder;            ///< the program folder
-    std::string collection;           ///< a collection to open in place of the last one, or ""
-    std::optional<int> puzzleNumber;  ///< the puzzle of that collection, 1 if not given
+    std::string appFolder;                           ///< the program folder
+    std::string collection;                          ///< a collection to open in place of the last one, or ""
+    std::optional<int> puzzleNumber = std::nullopt;  ///< the puzzle of that collection, 1 if not given
+    bool folderIsNew = false;                        ///< the program folder was made for this start
+    int windowNumber = 1;                            ///< which of the windows in the program folder this is, from 1
 };
 
 /// Sets the constants and paths, reads what the program folder holds and loads the first puzzle.

@@ -4,10 +4,13 @@
 #include <memory>
 
 #include "board/show_board.h"
+#include "game/file_work.h"
 #include "game/job.h"
 #include "model/collection_file.h"
 #include "model/file_error.h"
 #include "model/load_puzzle.h"
+#include "model/numbers.h"
+#include "model/puzzle_record.h"
 #include "solver/solve_puzzle.h"
 #include "solver/valid_solution.h"
 
@@ -19,7 +22,7 @@ enum class Outcome { Solved, Failed, Superseded };
 
 /// Solves the puzzle on the board and puts what the solver found there.
 Outcome Solve(Game& game) {
-    const Job job(game);
+    const Job job(game, "AutoSolve");
     game.window.SetText(WindowText::Status, "Auto solving ...");
     LetEventsThrough(game);
     const auto solver = std::make_unique<SolverBoard>(game.board.puzzle);
@@ -34,28 +37,38 @@ Outcome Solve(Game& game) {
     return Outcome::Solved;
 }
 
-/// Takes everything but the numbers off the board.
-void ShowNumbersAlone(Game& game) {
-    game.board.puzzle = WithoutLinks(game.board.puzzle);
-    game.board.OpenNeighbours.Fill({});
-    RedrawBoard(game, false);
-}
-
 void GiveUp(Game& game) {
     // An earlier load that failed may have left its file open, and this one must not fail for that.
     CloseFiles(game);
-    if (!LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber)) ShowNumbersAlone(game);
+    const Puzzle numbers = WithoutLinks(game.board.puzzle);
+    if (!game.collection.importedFrom.empty()) {
+        TakeImported(game, numbers, game.collection.importedFrom);
+    } else if (!LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber)) {
+        game.board.puzzle = numbers;
+        game.board.OpenNeighbours.Fill({});
+        RedrawBoard(game, false);
+    }
     game.window.SetText(WindowText::Status, "");
     game.window.SetPointer(Pointer::Default);
     game.prompts.Show("Unable to solve\r\nPlease check puzzle layout", "vbcritical+vbok");
 }
 
+/// What is said of a solution that its record holds only in part.
+std::string SolvedButCutShort(const Game& game) {
+    const bool imported = !game.collection.importedFrom.empty();
+    const std::string puzzle = imported ? "Imported puzzle" : "Puzzle#" + Str(game.collection.PuzzleNumber);
+    return "Solved. " + puzzle +
+           " is written without its bridges between touching islands, for which a record has no room";
+}
+
 void ShowAndWriteSolution(Game& game) {
     game.window.SetText(WindowText::Status, "Solved");
     RedrawBoard(game, true);
+    const std::string file = SolutionPath(game.collection.CollectionPath);
     CloseFiles(game);
     try {
-        WritePuzzleRecord(SolutionPath(game.collection.CollectionPath), game.board.puzzle, WriteMode::Replace);
+        WritePuzzleRecord(file, game.board.puzzle, WriteMode::Replace, WaitingFor(game, file));
+        if (!RecordHoldsBridges(game.board.puzzle)) game.window.SetText(WindowText::Status, SolvedButCutShort(game));
     } catch (const FileError& error) {
         game.window.SetText(WindowText::Status, std::string("Solved, but not written: ") + error.what());
     }

@@ -119,7 +119,6 @@ int RunApplication(int argc, char** argv) {
     }
     QApplication app(argc, argv);
     QApplication::setApplicationName("tidewalk");
-    QApplication::setApplicationDisplayName(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
     QApplication::setDesktopFileName("tidewalk");
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);

@@ -56,21 +56,11 @@ Point Twips(const QPointF& pixels) {
     return {pixels.x() * kTwipsPerPixel, pixels.y() * kTwipsPerPixel};
 }
 
-double Pixels(double twips) {
-    return twips / kTwipsPerPixel;
-}
-
 /// The rectangle in pixels, for the largest panning that a mouse can do and beyond.
 QRect PixelRect(const Frame& frame) {
     const auto whole = [](double twips) { return static_cast<int>(std::lround(std::clamp(Pixels(twips), -1e6, 1e6))); };
     return {whole(frame.left), whole(frame.top), std::max(1, whole(std::ceil(frame.width))),
             std::max(1, whole(std::ceil(frame.height)))};
-}
-
-/// True when the rubber band leads to the island with the keyboard's focus.
-bool EndsAtFocus(const Board& board) {
-    const CellNumber id = FocusedIsland(board);
-    return id != 0 && board.focusShows && board.Line1.to == board.At(id);
 }
 
 }  // namespace
@@ -125,75 +115,7 @@ void BoardView::paintEvent(QPaintEvent* event) {
         if (!game->job.BusyFlag()) RedrawBoard(*game, false);
     }
     surface_.Finish();
-    QPainter painter(this);
-    painter.drawPixmap(0, 0, backing_);
-    painter.setRenderHint(QPainter::Antialiasing);
-    if (hasFocus() && game->board.focusShows && !game->job.BusyFlag()) PaintFocus(painter, *game);
-    if (game->board.Line1.visible) PaintLine1(painter, *game);
-    if (game->board.Shape1.visible) PaintShape1(painter, game->board);
-}
-
-/// The rubber band begins with a ring, so that a selected island shows before the pointer has moved.
-void BoardView::PaintLine1(QPainter& painter, const Game& game) const {
-    const Board& board = game.board;
-    const QPointF from(Pixels(board.Line1.from.x), Pixels(board.Line1.from.y));
-    const QPointF to(Pixels(board.Line1.to.x), Pixels(board.Line1.to.y));
-    // Just outside of a square island's corners, which lie 0.75 times the square root of 2 from its middle.
-    const double radius = Pixels(board.layout.HalfCell) * 1.06 + 3;
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(ToQColor(game.options.ChainColour), 2, Qt::DashLine, Qt::RoundCap));
-    // Inside the ring, and inside the frame of the keyboard's focus, the line would only strike the number out.
-    QLineF band(from, to);
-    const double lengthAtEnd = EndsAtFocus(board) ? radius : 0;
-    if (band.length() > radius + lengthAtEnd) {
-        const double whole = band.length();
-        band = {band.pointAt(radius / whole), band.pointAt(1 - lengthAtEnd / whole)};
-        painter.drawLine(band);
-    }
-    painter.setPen(QPen(ToQColor(game.options.BoardBackground()), 4));
-    painter.drawEllipse(from, radius, radius);
-    painter.setPen(QPen(ToQColor(game.options.ChainColour), 2));
-    painter.drawEllipse(from, radius, radius);
-}
-
-/// The corners of a frame around the island: they leave its bridges free.
-void BoardView::PaintFocus(QPainter& painter, const Game& game) const {
-    const Board& board = game.board;
-    const CellNumber id = FocusedIsland(board);
-    const bool selected = id == SelectedIsland(board);
-    // The ring of the selected island says enough: whenever the focus is elsewhere, the corners show there.
-    if (id == 0 || selected) return;
-    const QPointF middle(Pixels(board.At(id).x), Pixels(board.At(id).y));
-    // Within the cell: on small boards hardly anything lies beside the first column.
-    const double half = Pixels(board.layout.HalfCell) - 1;
-    const double arm = half * 0.5;
-    painter.setBrush(Qt::NoBrush);
-    const QColor highlight = palette().color(QPalette::Highlight);
-    for (const auto& [colour, width] :
-         {std::pair{ToQColor(game.options.BoardBackground()), 6}, std::pair{highlight, 3}}) {
-        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        for (const int down : {-1, 1}) {
-            for (const int right : {-1, 1}) {
-                const QPointF corner = middle + QPointF(right * half, down * half);
-                const std::array<QPointF, 3> bend{corner - QPointF(right * arm, 0), corner,
-                                                  corner - QPointF(0, down * arm)};
-                painter.drawPolyline(bend.data(), static_cast<int>(bend.size()));
-            }
-        }
-    }
-}
-
-/// A frame in two colours shows on any background.
-void BoardView::PaintShape1(QPainter& painter, const Board& board) const {
-    const Point middle = board.layout.At(board.Shape1.cell);
-    const double half = board.layout.HalfCell;
-    const double side = Pixels(board.layout.CellSize);
-    const QRectF rect(Pixels(middle.x - half), Pixels(middle.y - half), side, side);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(rect);
-    painter.setPen(QPen(QColor(220, 20, 60), 3, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    painter.drawRect(rect);
+    QPainter(this).drawPixmap(0, 0, backing_);
 }
 
 Point BoardView::OnBoard(const QPointF& global) const {
@@ -265,20 +187,24 @@ void BoardView::focusInEvent(QFocusEvent* event) {
     // Only the Tab key comes to play; a window that becomes active again shows no more than it did.
     if (byKey && takesMouse_) handlers_.Run(Picture1_GotFocus);
     Announce();
-    update();
+    emit FocusChanged();
 }
 
 void BoardView::focusOutEvent(QFocusEvent* event) {
     QWidget::focusOutEvent(event);
-    update();
+    emit FocusChanged();
 }
 
 BoardContainer::BoardContainer(Handlers& handlers, QWidget* parent)
-    : QWidget(parent), handlers_(handlers), board_(new BoardView(handlers, this)) {
+    : QWidget(parent),
+      handlers_(handlers),
+      board_(new BoardView(handlers, this)),
+      overlay_(new BoardOverlay(handlers, *board_, this)) {
     setObjectName("Picture5");
     setMinimumSize(kSmallestContainerSide, kSmallestContainerSide);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    connect(board_, &BoardView::FocusChanged, overlay_, qOverload<>(&QWidget::update));
 }
 
 QSize BoardContainer::sizeHint() const {
@@ -294,6 +220,7 @@ void BoardContainer::paintEvent(QPaintEvent* event) {
 
 void BoardContainer::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
+    overlay_->resize(size());
     handlers_.Run([](Game& game) {
         if (game.board.puzzle.Rows > 0) CentreBoard(game);
     });

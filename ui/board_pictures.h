@@ -8,13 +8,13 @@
 
 #include "board/board_mouse.h"
 #include "ui/board_accessible.h"
+#include "ui/board_overlay.h"
 #include "ui/handlers.h"
 #include "ui/qt_surface.h"
 
 namespace tidewalk {
 
-/// The board. What is drawn lies in a backing picture at the screen's pixel ratio; the rubber band, the marker and the
-/// keyboard's focus are painted over it from the game's state.
+/// The board. What is drawn lies in a backing picture at the screen's pixel ratio.
 class BoardView final : public QWidget {
     Q_OBJECT
 
@@ -30,6 +30,9 @@ class BoardView final : public QWidget {
     /// While switched off the board takes neither mouse nor keys.
     void SetTakesMouse(bool takes) { takesMouse_ = takes; }
 
+ signals:
+    void FocusChanged();
+
  protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -43,9 +46,6 @@ class BoardView final : public QWidget {
  private:
     void Announce();
     void FitBacking();
-    void PaintFocus(QPainter& painter, const Game& game) const;
-    void PaintLine1(QPainter& painter, const Game& game) const;
-    void PaintShape1(QPainter& painter, const Board& board) const;
     Point OnBoard(const QPointF& global) const;
     Point InContainer(const QPointF& global) const;
 
@@ -56,7 +56,7 @@ class BoardView final : public QWidget {
     bool takesMouse_ = true;
 };
 
-/// The container. It keeps the board in its middle.
+/// The container. It keeps the board in its middle, and what is painted over the board on top.
 class BoardContainer final : public QWidget {
     Q_OBJECT
 
@@ -64,6 +64,7 @@ class BoardContainer final : public QWidget {
     explicit BoardContainer(Handlers& handlers, QWidget* parent = nullptr);
 
     BoardView& Board() { return *board_; }
+    BoardOverlay& Overlay() { return *overlay_; }
     QSize sizeHint() const override;
 
  protected:
@@ -74,6 +75,7 @@ class BoardContainer final : public QWidget {
  private:
     Handlers& handlers_;
     BoardView* board_;
+    BoardOverlay* overlay_;
 };
 
 /// The seam to both, and to the timer that takes the marker away.
@@ -83,8 +85,11 @@ class QtBoardPictures final : public BoardPictures {
 
     Surface::Extent ContainerExtent() const override;
     Surface& Picture() override;
-    void PlacePicture() override { container_.Board().Place(); }
-    void ShowOverlay() override { container_.Board().update(); }
+    void PlacePicture() override {
+        container_.Board().Place();
+        container_.Overlay().update();
+    }
+    void ShowOverlay() override { container_.Overlay().update(); }
     void SetEnabled(bool enabled) override { container_.Board().SetTakesMouse(enabled); }
     void SetVisible(bool visible) override { container_.Board().setVisible(visible); }
     bool IsVisible() const override { return !container_.Board().isHidden(); }

@@ -35,8 +35,9 @@ struct Command {
     const char* icon = "";
     const char* toolTip = "";  ///< "caption|hint"; the text if empty
     QList<QKeySequence> keys = {};
-    MouseButton button = MouseButton::Left;  ///< what the menu item stands for
-    Handler handler = nullptr;               ///< on a click or on release
+    MouseButton button = MouseButton::Left;    ///< what the menu item stands for
+    Handler handler = nullptr;                 ///< on a click or on release
+    bool (*available)(const Game&) = nullptr;  ///< whether it can be given now; nothing for always
     Handler pressed = nullptr;  ///< when the button goes down; `handler` then follows however it comes up again
 
     bool IsSeparator() const { return QLatin1String(text) == QLatin1String("-"); }

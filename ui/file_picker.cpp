@@ -22,7 +22,8 @@ std::string QtFilePicker::Pick(const FileRequest& request) {
     const bool open = request.mode == FileRequest::Mode::Open;
     dialog.setAcceptMode(open ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
     dialog.setFileMode(open ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-    // Overwriting is a question of the commands themselves, as is the ending of a name without one.
+    // Overwriting is a question of the commands themselves, who ask about the name with its ending.
+    dialog.setDefaultSuffix(QString::fromStdString(request.ending));
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::DontUseNativeDialog, QGuiApplication::platformName() == "offscreen");
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return "";

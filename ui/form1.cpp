@@ -4,16 +4,21 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QDropEvent>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -91,6 +96,8 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
     AddDock(list2_, tr("Work list 2"));
     AddStatusLine();
     connect(&handlers_, &Handlers::Changed, this, &Form1::RefreshLists);
+    connect(&handlers_, &Handlers::Changed, this, &Form1::RefreshCommands);
+    setAcceptDrops(true);
     connect(&handlers_, &Handlers::Ending, this, &QWidget::hide);
     container_->Board().setFocus();
 }
@@ -177,8 +184,10 @@ void Form1::AddNumberBox() {
     puzNumNow_->setObjectName("PuzNumNow");
     puzNumNow_->setAlignment(Qt::AlignRight);
     FitWidth(puzNumNow_, "000000");
-    connect(puzNumNow_, &QLineEdit::returnPressed, this,
-            [this] { handlers_.Run([](Game& game) { PuzNumNow_KeyPress(game, kEnterKey); }); });
+    connect(puzNumNow_, &QLineEdit::returnPressed, this, [this] {
+        handlers_.Run([](Game& game) { PuzNumNow_KeyPress(game, kEnterKey); });
+        container_->Board().setFocus();
+    });
     puzNumber_->setObjectName("PuzNumber");
     puzNumber_->setTextFormat(Qt::PlainText);
     puzNumber_->setMinimumWidth(puzNumber_->fontMetrics().horizontalAdvance(" of 00000"));
@@ -189,6 +198,7 @@ void Form1::AddSizeBox() {
     gridSize_->setAlignment(Qt::AlignHCenter);
     gridSize_->setContextMenuPolicy(Qt::PreventContextMenu);
     gridSize_->installEventFilter(this);
+    connect(gridSize_, &QLineEdit::returnPressed, this, [this] { container_->Board().setFocus(); });
     FitWidth(gridSize_, "25 x 25");
 }
 
@@ -318,6 +328,16 @@ void Form1::RefreshLists() {
     }
 }
 
+void Form1::RefreshCommands() {
+    const Game* const game = handlers_.game();
+    if (game == nullptr) return;
+    for (const Command& command : Commands()) {
+        if (command.available == nullptr) continue;
+        for (QAction* const action : findChildren<QAction*>(command.ObjectName()))
+            action->setEnabled(command.available(*game));
+    }
+}
+
 void Form1::TakeDefaultSize() {
     constexpr int kWindowFrame = 48;  // a title bar and its shadows, in pixels
     // A splitter forgets its handle when it is asked for its size.
@@ -329,6 +349,23 @@ void Form1::TakeDefaultSize() {
     // On a small screen the board gives way, but not the tool bar's last buttons.
     const int bar = std::min(findChild<QToolBar*>()->sizeHint().width(), room.width());
     resize(std::max(wanted.width() - less, bar), wanted.height() - less);
+}
+
+/// The one file of a drop, or "".
+QString Form1::DroppedFile(const QDropEvent& event) {
+    const QList<QUrl> urls = event.mimeData()->urls();
+    return urls.size() == 1 && urls.first().isLocalFile() ? urls.first().toLocalFile() : QString();
+}
+
+void Form1::dragEnterEvent(QDragEnterEvent* event) {
+    if (!DroppedFile(*event).isEmpty()) event->acceptProposedAction();
+}
+
+void Form1::dropEvent(QDropEvent* event) {
+    const std::string path = QFile::encodeName(DroppedFile(*event)).toStdString();
+    event->acceptProposedAction();
+    // The program that the file was dragged from waits until this returns.
+    QTimer::singleShot(0, this, [this, path] { handlers_.Run([&](Game& game) { OpenChosen(game, path); }); });
 }
 
 void Form1::closeEvent(QCloseEvent* event) {

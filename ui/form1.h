@@ -47,6 +47,8 @@ class Form1 final : public QMainWindow {
  protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
  private:
     void AddMenus();
@@ -62,7 +64,9 @@ class Form1 final : public QMainWindow {
     void MakeRoomFor(const QDockWidget* dock);
     void AddStatusLine();
     void RefreshLists();
+    void RefreshCommands();
     QWidget* WidgetOf(WindowText which) const;
+    static QString DroppedFile(const QDropEvent& event);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     Handlers& handlers_;

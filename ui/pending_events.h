@@ -18,6 +18,8 @@ class QtPendingEvents final : public PendingEvents {
         QCoreApplication::processEvents();
     }
 
+    void Repaint() override { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+
  private:
     Handlers& handlers_;
 };

@@ -4,7 +4,10 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QWindow>
+
+#include "game/job.h"
 
 namespace tidewalk {
 
@@ -34,7 +37,11 @@ void WaitUntilShown(const QWidget& window) {
 Program::Program()
     : form1_(handlers_,
              [this](Handler handler, const Click& click) {
-                 if (handler != nullptr) handlers_.Run([&](Game&) { handler(*this, click); });
+                 if (handler == nullptr) return;
+                 handlers_.Run([&](Game& game) {
+                     ForgetStatus(game);
+                     handler(*this, click);
+                 });
              }),
       questions_(handlers_, form1_),
       help_(&form1_),
@@ -53,6 +60,7 @@ Program::Program()
                                          .pictures = pictures_,
                                          .events = events_,
                                          .clock = clock_,
+                                         .choices = choices_,
                                          .clipboard = clipboard_,
                                          .printers = printers_})) {
     prompts_.SetMainWindow(&form1_);
@@ -71,6 +79,7 @@ Program::~Program() {
 }
 
 std::optional<std::string> Program::Start(const StartRequest& request) {
+    choices_.UseFolder(QFile::decodeName(request.appFolder.c_str()));
     prompts_.SetCaption(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
     form1_.TakeDefaultSize();
     form1_.show();

@@ -16,6 +16,7 @@
 #include "ui/main_window.h"
 #include "ui/pending_events.h"
 #include "ui/prompts.h"
+#include "ui/qt_choices.h"
 #include "ui/qt_clipboard.h"
 #include "ui/qt_printers.h"
 #include "ui/qt_questions.h"
@@ -53,6 +54,7 @@ class Program final {
     QtBoardPictures pictures_;
     QtPendingEvents events_;
     SystemClock clock_;
+    QtChoices choices_;
     QtClipboard clipboard_;
     Form2 form2_;
     Form6 form6_;

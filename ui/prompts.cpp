@@ -60,6 +60,8 @@ int QtPrompts::SystemBox(const std::string& text, SystemButtons buttons) {
                     QString::fromStdString(text).replace("\r\n", "\n"),
                     yesNo ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok, Parent());
     box.setTextFormat(Qt::PlainText);
+    // Whoever presses Enter without reading loses nothing.
+    if (yesNo) box.setDefaultButton(QMessageBox::No);
     if (!yesNo) {
         box.exec();
         return kOk;

@@ -53,7 +53,9 @@ double QtSurface::PenPixels() const {
 /// The nearest place where a line of the current pen fills whole pixels: their middle for odd widths, their edge for
 /// even ones.
 double QtSurface::Snapped(double twips) const {
-    const double pixels = twips * pixelsPerTwip_;
+    // A hair more than what arithmetic may lose: places a whole number of pixels apart stay so.
+    constexpr double kHair = 1e-6;
+    const double pixels = twips * pixelsPerTwip_ + kHair;
     const bool odd = std::fmod(PenPixels(), 2) == 1;
     return (odd ? std::floor(pixels) + 0.5 : std::round(pixels)) / pixelsPerTwip_;
 }
@@ -119,6 +121,12 @@ void QtSurface::Circle(double x, double y, double radius, Colour outline, Colour
     painter_.setPen(outline == fill ? QPen(Qt::NoPen) : Pen(outline));
     painter_.setBrush(ToQColor(fill));
     painter_.drawEllipse(QPointF(x, y), radius, radius);
+}
+
+/// Whole pixels, and one of them at least between the strokes.
+double QtSurface::StrokeDistance(double gap) const {
+    if (pixelsPerTwip_ <= 0) return gap;
+    return std::max(std::round(gap * pixelsPerTwip_), PenPixels() + 1) / pixelsPerTwip_;
 }
 
 void QtSurface::SetFontSize(double points) {

@@ -13,6 +13,11 @@ namespace tidewalk {
 inline constexpr double kTwipsPerInch = 1440;
 inline constexpr double kTwipsPerPixel = 15;  ///< a logical pixel of the screen, 96 to the inch
 
+/// Twips in the screen's own pixels.
+constexpr double Pixels(double twips) {
+    return twips / kTwipsPerPixel;
+}
+
 QColor ToQColor(Colour colour);
 Colour FromQColor(const QColor& colour);
 
@@ -35,6 +40,7 @@ class QtSurface final : public Surface {
     void Box(double x1, double y1, double x2, double y2, Colour colour) override;
     void FilledBox(double x1, double y1, double x2, double y2, Colour colour) override;
     void Circle(double x, double y, double radius, Colour outline, Colour fill) override;
+    double StrokeDistance(double gap) const override;
     void SetFontSize(double points) override;
     Extent TextExtent(const std::string& text) override;
     void Print(double x, double y, const std::string& text, Colour colour) override;

@@ -153,7 +153,7 @@ TEST_F(Printing, ARangeOutsideTheFileIsRefused) {
     PrintRange({}, "1", "1");
     for (const bool closed : {false, true}) {
         game.world.print = [&](PrintRequest& request) {
-            closed ? Form_QueryUnload(game) : game.job.Begin();
+            closed ? Form_QueryUnload(game) : game.job.Begin("AutoSolve");
             return request.first = request.last = "1", true;
         };
         control27_Click(game);

@@ -2,6 +2,7 @@
 // Playing: with the mouse, with the keyboard, and the commands on the board.
 #include <random>
 #include <set>
+#include <sstream>
 
 #include "board/board_commands.h"
 #include "board/board_keys.h"
@@ -13,17 +14,9 @@
 namespace tidewalk::test {
 namespace {
 
-using enum BoardKey;
-
-/// Islands in the corners of a board and one in the middle of its upper side.
+/// Islands in the corners of a board, 1, 7, 43 and 49, and one in the middle of its upper side, 4.
 const Lines kCorners{"2..3..2", ".......", ".......", ".......", ".......", ".......", "2.....2"};
-constexpr CellNumber kTopLeft = 1;
-constexpr CellNumber kTop = 4;
-constexpr CellNumber kTopRight = 7;
-constexpr CellNumber kWater = 20;
-constexpr CellNumber kBottomLeft = 43;
-constexpr CellNumber kBottomRight = 49;
-
+/// The islands 1, 3, 8, 10, 17 and 25.
 const Lines kField{"1.2..", "..3.4", ".....", ".5...", "....6"};
 
 /// A game on one puzzle, played as a window would.
@@ -31,86 +24,92 @@ struct Play : TestGame {
     explicit Play(const std::string& record) : TestGame({record}) { Load(1); }
     explicit Play(const Lines& rows = kCorners) : Play(Record(rows)) {}
 
-    void Press(CellNumber id, MouseButton button, bool shift = false) {
+    void Press(CellNumber id, MouseButton button, bool shift) {
         const Point point = board.At(id);
         Run(Picture1_MouseMove, false, point, point);
         Run(Picture1_MouseDown, button, point);
         Run(Picture1_MouseUp, button, shift, point);
         if (button == MouseButton::Left) Run(Picture1_Click);
     }
-    void Click(CellNumber id) { Press(id, MouseButton::Left); }
-    void Join(CellNumber a, CellNumber b) { Click(a), Click(b); }
-    void ShiftJoin(CellNumber a, CellNumber b) { Click(a), Press(b, MouseButton::Left, true); }
-    void RightJoin(CellNumber a, CellNumber b, bool shift = false) { Click(a), Press(b, MouseButton::Right, shift); }
-    void Keys(std::initializer_list<BoardKey> keys) {
-        for (const BoardKey key : keys)
-            Run(Picture1_KeyDown, key);
+
+    /// Plays moves. With the mouse: "1" clicks that cell, "1-4" both; "=" stands for a click with Shift, "x" for the
+    /// right button and "X" for both. With keys: ":" and a letter each for left, right, up, down, first, end, previous
+    /// and next, "." to lay, "=" to lay two and "x" to remove. "u" is for undo.
+    Play& operator<<(const std::string& moves) {
+        std::istringstream all(moves);
+        for (std::string move; all >> move;) {
+            const std::size_t how = std::min(move.find_first_of("-=xX"), move.size());
+            if (move[0] == ':') {
+                for (const char key : move.substr(1))
+                    Run(Picture1_KeyDown, static_cast<BoardKey>(std::string("lrudfepn.=x").find(key)));
+            } else if (move == "u") {
+                Run(cmdundo_Click);
+            } else {
+                const bool right = move[how] == 'x' || move[how] == 'X';
+                const bool shift = move[how] == '=' || move[how] == 'X';
+                if (how > 0) Press(std::stoi(move), MouseButton::Left, false);
+                if (how == move.size()) continue;
+                Press(std::stoi(move.substr(how + 1)), right ? MouseButton::Right : MouseButton::Left, shift);
+            }
+        }
+        return *this;
     }
 
-    int Bridges(CellNumber a, CellNumber b) const { return board.BridgeState(a, b); }
-    std::string UndoLines() const {
-        std::string lines;
+    /// The bridges, the island with the focus, the selected one and the moves: "1-4*2 #4 @1; 1, 4, 0".
+    std::string State() const {
+        std::string all;
+        for (const auto& [a, b, bridges] : board.BridgeState.InBothOrders()) {
+            if (a < b) all += std::to_string(a) + "-" + std::to_string(b) + "*" + std::to_string(bridges) + " ";
+        }
+        if (board.focusShows) all += "#" + std::to_string(FocusedIsland(board)) + " ";
+        if (SelectedIsland(board) != 0) all += "@" + std::to_string(SelectedIsland(board));
         for (const UndoRecord& record : board.history.UndoList())
-            lines += Text(record) + ";";
-        return lines;
+            all += ";" + Text(record);
+        return all;
     }
-    int NumberAtFocus() const { return board.puzzle.IslandGrid(board.FocusRow, board.FocusCol); }
 };
 
+std::string After(const std::string& moves, const Lines& rows = kCorners) {
+    return (Play(rows) << moves).State();
+}
+
 TEST(Mouse, ClicksCycleThroughOneTwoAndNone) {
-    Play game;
-    for (const int bridges : {1, 2, 0, 1}) {
-        game.Join(kTopLeft, kTop);
-        EXPECT_EQ(game.Bridges(kTop, kTopLeft), bridges);
-        EXPECT_EQ(SelectedIsland(game.board), 0);
-    }
-    EXPECT_EQ(game.UndoLines(), " 1, 4, 0; 1, 4, 2; 1, 4, 1; 1, 4, 0;");
+    EXPECT_EQ(After("1-4"), "1-4*1 ; 1, 4, 0");
+    EXPECT_EQ(After("1-4 4-1"), "1-4*2 ; 4, 1, 1; 1, 4, 0");
+    EXPECT_EQ(After("1-4 1-4 1-4 "), "; 1, 4, 2; 1, 4, 1; 1, 4, 0");
+    EXPECT_EQ(After("1-7"), "1-7*1 ; 1, 7, 0") << "over an island: the board takes it";
 }
 
 TEST(Mouse, ShiftLaysTwoAndTheRightButtonRemoves) {
-    Play game;
-    game.ShiftJoin(kTopLeft, kTop);
-    EXPECT_EQ(game.Bridges(kTopLeft, kTop), 2);
-    EXPECT_EQ(SelectedIsland(game.board), 0) << "the click that follows selects nothing";
-    game.RightJoin(kTopLeft, kBottomRight);
-    EXPECT_EQ(SelectedIsland(game.board), kTopLeft) << "not in line: nothing happens";
-    game.Press(kTop, MouseButton::Right);
-    EXPECT_EQ(game.Bridges(kTopLeft, kTop), 0);
-    game.RightJoin(kTopLeft, kTop, true);
-    EXPECT_EQ(game.Bridges(kTopLeft, kTop), 2) << "Shift comes before the button";
-    game.RightJoin(kTopLeft, kBottomLeft);
-    EXPECT_EQ(game.UndoLines(), " 1, 43, 0; 1, 4, 0; 1, 4, 2; 1, 4, 0;");
+    EXPECT_EQ(After("1=4"), "1-4*2 ; 1, 4, 0") << "the click that follows selects nothing";
+    EXPECT_EQ(After("1-4 1=4"), "1-4*2 ; 1, 4, 1; 1, 4, 0");
+    EXPECT_EQ(After("1=4 1=4"), "1-4*2 ; 1, 4, 2; 1, 4, 0");
+    EXPECT_EQ(After("1=4 1x4"), "; 1, 4, 2; 1, 4, 0");
+    EXPECT_EQ(After("1X4"), "1-4*2 ; 1, 4, 0") << "Shift comes before the button";
+    EXPECT_EQ(After("1x43"), "; 1, 43, 0");
+    EXPECT_EQ(After("1x49"), "@1") << "not in line: nothing happens";
 }
 
 TEST(Mouse, WhatIsNoPairChangesNothing) {
-    Play game;
-    game.Press(kTop, MouseButton::Left, true);
-    game.Press(kTop, MouseButton::Right);
-    game.Join(kTopLeft, kBottomRight);
-    game.ShiftJoin(kTopLeft, kTopLeft);
-    game.Join(kTopLeft, kTopLeft);
-    game.Join(kTopLeft, kWater);
-    EXPECT_EQ(SelectedIsland(game.board), 0) << "water drops the selection";
-    game.Press(kWater, MouseButton::Left, true);
-    EXPECT_TRUE(game.board.BridgeState.InBothOrders().empty());
-    EXPECT_EQ(game.UndoLines(), " 1, 1, 0; 1, 49, 0; 0, 4, 0;") << "moves that are refused are recorded";
-    game.Join(kTopLeft, kTopRight);
-    EXPECT_EQ(game.Bridges(kTopLeft, kTopRight), 1) << "over an island: the board takes it";
+    EXPECT_EQ(After("=4"), "; 0, 4, 0") << "a move that is refused is recorded";
+    EXPECT_EQ(After("1-49"), "; 1, 49, 0");
+    EXPECT_EQ(After("1=1"), "; 1, 1, 0");
+    EXPECT_EQ(After("x4 =20 x20 1-1 1-20 20"), "") << "water drops the selection, and so does the island itself";
 }
 
 TEST(Mouse, TheRubberBandFollowsAndAClickBesideTheBoardDropsTheSelection) {
     Play game;
-    game.Click(kTopLeft);
-    EXPECT_EQ(game.board.Line1.from, game.board.At(kTopLeft));
-    EXPECT_EQ(game.board.Line1.to, game.board.At(kTopLeft));
+    game << "1";
+    EXPECT_EQ(game.board.Line1.from, game.board.At(1));
+    EXPECT_EQ(game.board.Line1.to, game.board.At(1));
     game.Run(Picture1_MouseMove, false, Point{1000, 1100}, Point{});
     game.Run(Picture1_MouseMove, false, Point{-5000, 1100}, Point{});
     EXPECT_EQ(game.board.Line1.to, (Point{1000, 1100})) << "as long as it is over the board";
     game.Run(Picture5_MouseUp);
     EXPECT_EQ(game.board.AnchorRow + game.board.AnchorCol + game.board.HoverRow + game.board.HoverCol, -4);
-    EXPECT_TRUE(game.board.Line1.visible) << "until the next click";
-    game.Join(kTop, kTopRight);
-    EXPECT_EQ(game.UndoLines(), " 4, 7, 0;");
+    EXPECT_FALSE(game.board.Line1.visible);
+    game << "4-7";
+    EXPECT_EQ(game.State(), "4-7*1 ; 4, 7, 0");
 }
 
 TEST(Mouse, ALeftDragMovesTheBoardAndNoOtherDoes) {
@@ -129,73 +128,48 @@ TEST(Mouse, ALeftDragMovesTheBoardAndNoOtherDoes) {
 }
 
 TEST(Keys, ArrowsGoToTheNearestInLineAndElseToTheNearestOnThatSide) {
-    const Puzzle puzzle = PuzzleFrom(kField);
-    const std::map<int, CellNumber> islands{{1, 1}, {2, 3}, {3, 8}, {4, 10}, {5, 17}, {6, 25}};
-    const auto from = [&](int number, BoardKey key) {
-        return puzzle.IslandAt(IslandTowards(puzzle, key, islands.at(number)));
-    };
-    EXPECT_EQ(from(1, Right), 2);
-    EXPECT_EQ(from(1, Down), 3) << "nothing below it: the nearest one further down";
-    EXPECT_EQ(from(4, Down), 6) << "in line, though 5 is no further away";
-    EXPECT_EQ(from(3, Left), 1) << "as far as 5, but less aside";
-    EXPECT_EQ(from(2, Up), 2) << "the board ends there";
-    EXPECT_EQ(from(5, Up), 3);
-    EXPECT_EQ(from(6, Left), 5);
-}
-
-TEST(Keys, ArrowsLeadToEveryIsland) {
-    const Puzzle puzzle = *ParsePuzzleRecord(kSmallPuzzle);
-    Lines way{"3"};
-    std::set<CellNumber> reached{3};
-    for (std::size_t at = 0; at < way.size(); ++at) {
-        for (const BoardKey key : {Left, Right, Up, Down}) {
-            const CellNumber next = IslandTowards(puzzle, key, std::stoi(way[at]));
-            if (reached.insert(next).second) way.push_back(std::to_string(next));
+    const auto towards = [](CellNumber id, BoardKey key) { return IslandTowards(PuzzleFrom(kField), key, id); };
+    EXPECT_EQ(towards(1, BoardKey::Right), 3);
+    EXPECT_EQ(towards(1, BoardKey::Down), 8) << "nothing below it: the nearest one further down";
+    EXPECT_EQ(towards(10, BoardKey::Down), 25) << "in line, though 17 is no further away";
+    EXPECT_EQ(towards(8, BoardKey::Left), 1) << "as far as 17, but less aside";
+    EXPECT_EQ(towards(3, BoardKey::Up), 3) << "the board ends there";
+    EXPECT_EQ(towards(17, BoardKey::Up), 8);
+    EXPECT_EQ(towards(25, BoardKey::Left), 17);
+    std::set<CellNumber> reached{1};
+    for (std::size_t before = 0; before < reached.size();) {
+        before = reached.size();
+        for (const CellNumber id : std::set(reached)) {
+            for (const BoardKey key : {BoardKey::Left, BoardKey::Right, BoardKey::Up, BoardKey::Down})
+                reached.insert(towards(id, key));
         }
     }
-    EXPECT_EQ(static_cast<int>(reached.size()), puzzle.IslandCount());
-}
-
-TEST(Keys, TheFirstKeyOnlyShowsWhereTheFocusIs) {
-    Play game(kField);
-    game.Keys({Lay});
-    EXPECT_EQ(game.NumberAtFocus() * 10 + SelectedIsland(game.board), 10);
-    EXPECT_TRUE(game.board.focusShows);
-    game.Keys({Last});
-    EXPECT_EQ(game.NumberAtFocus(), 6);
-    game.Keys({Next, Previous, Previous});
-    EXPECT_EQ(game.NumberAtFocus(), 4);
-    game.Keys({First, Previous, Next});
-    game.Run(Picture1_GotFocus);
-    EXPECT_EQ(game.NumberAtFocus(), 2) << "the one that was last played on";
-    game.Load(1);
-    EXPECT_EQ(FocusedIsland(game.board), 0) << "another board, another focus";
-    game.Click(8);
-    game.board.FocusRow = game.board.FocusCol = 0;
-    game.Run(Picture1_GotFocus);
-    EXPECT_EQ(FocusedIsland(game.board), 8) << "the selected one";
+    EXPECT_EQ(reached, (std::set<CellNumber>{1, 3, 8, 10, 17, 25})) << "they lead to every island";
 }
 
 TEST(Keys, DoWhatTheMouseDoes) {
+    EXPECT_EQ(After(":.", kField), "#1 ") << "the first one only shows where the focus is";
+    EXPECT_EQ(After(":.e", kField), "#25 ");
+    EXPECT_EQ(After(":.enpp", kField), "#10 ");
+    EXPECT_EQ(After(":.efpn", kField), "#3 ");
+    EXPECT_EQ(After(":..r", kField), "#3 @1");
+    EXPECT_EQ(After(":..r.", kField), "1-3*1 #3 ; 1, 3, 0");
+    EXPECT_EQ(After(":..r=", kField), "1-3*2 #3 ; 1, 3, 0");
+    EXPECT_EQ(After(":..r=.lx", kField), "#1 ; 3, 1, 2; 1, 3, 0");
+    EXPECT_EQ(After(":.x=", kField), "#1 ") << "nothing is selected";
+    EXPECT_EQ(After(":..=x", kField), "#1 @1") << "an island is no pair with itself";
+    EXPECT_EQ(After(":.e 8", kField), "@8") << "the mouse hides the focus";
+    EXPECT_EQ(After("8 :r.", kField), "8-10*1 #10 ; 8, 10, 0") << "the keys go on where the mouse was";
     Play game(kField);
+    game << ":..r";
+    EXPECT_EQ(game.board.Line1.to, game.board.At(3));
     game.Run(Picture1_GotFocus);
-    for (const int bridges : {1, 2, 0}) {
-        game.Keys({First, Lay, Right});
-        EXPECT_EQ(game.board.Line1.to, game.board.At(3));
-        game.Keys({Lay});
-        EXPECT_EQ(game.Bridges(1, 3), bridges);
-    }
-    game.Keys({Lay, Lay, Lay, LayDouble, Remove});
-    EXPECT_EQ(game.board.history.UndoList().size(), 3U) << "an island is no pair with itself";
-    game.Keys({Left, LayDouble});
-    EXPECT_EQ(game.Bridges(1, 3), 2);
-    game.Keys({Lay, Right, Remove, Remove, LayDouble});
-    EXPECT_EQ(game.Bridges(1, 3), 0);
-    EXPECT_EQ(game.board.history.UndoList().size(), 5U) << "nothing is selected in the end";
-    game.Click(8);
-    EXPECT_FALSE(game.board.focusShows);
-    game.Keys({Right, Lay});
-    EXPECT_EQ(game.Bridges(8, 10), 1) << "they go on where the mouse was";
+    EXPECT_EQ(game.State(), "#3 @1") << "the one that was last played on";
+    game.board.FocusRow = game.board.FocusCol = 0;
+    game.Run(Picture1_GotFocus);
+    EXPECT_EQ(game.State(), "#1 @1") << "the selected one";
+    game.Load(1);
+    EXPECT_EQ(game.State(), "#0 ") << "another board, another focus";
 }
 
 TEST(Keys, BringTheIslandWithTheFocusIntoView) {
@@ -204,42 +178,39 @@ TEST(Keys, BringTheIslandWithTheFocusIntoView) {
         if (!wide) rows.front() = rows.back() = "1";
         Play game(rows);
         game.world.container = {9000, 7000};
-        game.Run(cmdzoom_Click, 2);
+        game.board.layout.CellSize = 700;
+        game.Run(cmdzoom_Click, 1);
         const auto at = [&] {
             const Point point = game.board.At(FocusedIsland(game.board));
             const Frame& frame = game.board.layout.Picture1;
             return wide ? frame.left + point.x : frame.top + point.y;
         };
-        game.board.layout.CellSize = 700;
-        game.Run(cmdzoom_Click, 1);
-        game.Keys({First});
+        game << ":f";
         EXPECT_DOUBLE_EQ(at(), 420) << "six tenths of a cell from the border";
-        game.Keys({wide ? Right : Down});
+        game << (wide ? ":r" : ":d");
         EXPECT_DOUBLE_EQ(at(), (wide ? 9000 : 7000) - 420);
-        game.Keys({Last});
+        game << ":e";
         EXPECT_DOUBLE_EQ(at(), (wide ? 9000 : 7000) - 420) << "it shows already";
     }
 }
 
 TEST(Keys, EscapeLetsGoFirstAndCancelsThen) {
     Play game(kField);
-    game.Keys({First, First, Lay});
-    game.Run(can2_Click);
-    EXPECT_EQ(SelectedIsland(game.board), 0);
-    EXPECT_EQ(game.world.Seen(), "");
-    game.Run(can2_Click);
-    EXPECT_EQ(game.world.Seen(), "status: ");
+    game << "1";
+    for (const char* seen : {"", "status: "}) {
+        game.Run(can2_Click);
+        EXPECT_EQ(game.State(), "");
+        EXPECT_EQ(game.world.Seen(), seen);
+    }
 }
 
 TEST(Undo, TakesMovesBackOneByOne) {
+    EXPECT_EQ(After("1-4 1-4 1-49 u"), "1-4*2 ; 1, 4, 1; 1, 4, 0") << "a refused move";
+    EXPECT_EQ(After("1-4 1-4 u"), "1-4*1 ; 1, 4, 0");
+    EXPECT_EQ(After("1-4 1x4 u"), "1-4*1 ; 1, 4, 0");
+    EXPECT_EQ(After("1-4 u u"), "");
     Play game;
-    for (const CellNumber other : {kTop, kTop, kBottomRight})
-        game.Join(kTopLeft, other);
-    for (const int bridges : {2, 1, 0, 0}) {
-        game.Run(cmdundo_Click);
-        EXPECT_EQ(game.Bridges(kTopLeft, kTop), bridges);
-    }
-    EXPECT_EQ(game.board.history.Revision(), 1U + 3 + 3) << "a load, three moves and three steps back";
+    EXPECT_EQ((game << "1-4 u").board.history.Revision(), 3U) << "a load, a move and a step back";
     EXPECT_EQ(ParseUndoRecord(" 12, 15, 1"), (UndoRecord{12, 15, 1}));
     for (const char* text : {"12, 15, 1", " 12, 15", " 12, 15, 3", " 626, 1, 0", " 1, 626, 0", " 1,-1, 0", ""})
         EXPECT_EQ(ParseUndoRecord(text), std::nullopt) << text;
@@ -247,29 +218,26 @@ TEST(Undo, TakesMovesBackOneByOne) {
 
 TEST(Check, FramesTheFirstWrongIslandForASecond) {
     Play game;
-    game.Join(kTopLeft, kBottomLeft);
-    game.Join(kTopLeft, kTop);
-    game.Run(cmdverify_Click);
+    (game << "1-43 1-4").Run(cmdverify_Click);
     EXPECT_EQ(game.board.Shape1.cell, (CellPlace{1, 4}));
-    EXPECT_EQ(game.world.Seen(), "status: Not done yet");
+    EXPECT_EQ(game.world.Status(), "Not done yet");
     EXPECT_EQ(game.List1.Lines(), (Lines{"01 01 002 links=02", "01 04 003 links=01"}));
     game.Run(Timer1_Timer);
     EXPECT_FALSE(game.board.Shape1.visible);
-}
-
-TEST(Check, CountsBridgesAndNothingElse) {
-    // Four islands whose double bridges cross in the middle, two groups.
-    Play game(Lines{".2.", "2.2", ".2."});
-    game.ShiftJoin(2, 8);
-    game.ShiftJoin(4, 6);
-    game.world.Expect("All Done!", "vbhappy+vbok");
-    game.Run(cmdverify_Click);
-    EXPECT_EQ(game.world.Seen(), "box, events");
+    game << "1-4";
+    EXPECT_EQ(game.world.Status(), "") << "it was said of the board before the move";
+    // Four islands whose double bridges cross in the middle, two groups: only bridges are counted.
+    Play crossed(Lines{".2.", "2.2", ".2."});
+    crossed << "2=8 4=6";
+    crossed.world.Seen();
+    crossed.world.Expect("All Done!", "vbhappy+vbok");
+    crossed.Run(cmdverify_Click);
+    EXPECT_EQ(crossed.world.Seen(), "box, events");
 }
 
 TEST(Zoom, StaysWithinItsLimitsAndKeepsTheBridges) {
     Play game;
-    game.Join(kTopLeft, kTop);
+    game << "1-4";
     const auto zoomed = [&](int from, int index) {
         game.board.layout.CellSize = from;
         game.Run(cmdzoom_Click, index);
@@ -282,27 +250,29 @@ TEST(Zoom, StaysWithinItsLimitsAndKeepsTheBridges) {
     EXPECT_EQ(zoomed(300, 2), 700) << "the fitted size, 1000, is brought down";
     game.board.FittedCellSize = 0;
     EXPECT_EQ(zoomed(500, 2), 300);
-    EXPECT_EQ(game.Bridges(kTop, kTopLeft), 1);
+    EXPECT_EQ(game.State(), "1-4*1 ; 1, 4, 0");
+    game.board.HoverRow = 1;
+    game.board.HoverCol = 4;
+    game.Run(Picture1_Click);
+    EXPECT_EQ(zoomed(300, 1), 330);
+    EXPECT_EQ(game.board.Line1.from, game.board.At(4)) << "the ring follows";
     game.world.visible = false;
     game.Run(cmdzoom_Click, 1);
-    EXPECT_EQ(game.board.layout.CellSize, 300);
+    EXPECT_EQ(game.board.layout.CellSize, 330);
 }
 
-TEST(ViewSolution, ShowsForAsLongAsTheButtonIsHeld) {
+TEST(BoardCommands, ShowTheSolutionWhileHeldAndResetWhenWanted) {
     Play game(kSmallPuzzle);
+    game << "3-7";
     game.Run(cmdviewcol_Press);
     EXPECT_TRUE(game.ShowsSolution());
     game.Run(cmdviewcol_Release);
     EXPECT_FALSE(game.ShowsSolution());
-}
-
-TEST(Reset, AsksAndClearsTheBridges) {
-    Play game;
-    game.Join(kTopLeft, kTop);
+    game.world.Seen();
     for (const int answer : {kNo, kYes}) {
         game.world.Expect("Reset?", "vbYesNo", answer);
         game.Run(mnupuzreset_Click);
-        EXPECT_EQ(game.Bridges(kTopLeft, kTop), answer == kNo ? 1 : 0);
+        EXPECT_EQ(game.State(), answer == kNo ? "3-7*1 ; 3, 7, 0" : "");
         EXPECT_EQ(game.world.Seen(), answer == kNo ? "box, events" : "box, events, number: 1, status: ");
     }
 }
@@ -325,7 +295,7 @@ TEST(Play, WhateverIsDoneTheScreenShowsIt) {
         if (what == 5 || what == 6) game.Run(cmdverify_Click);
         if (what == 7 || what == 8) game.Run(cmdzoom_Click, draw(3));
         if (what == 9 || what == 10) game.Run(cmdundo_Click);
-        if (what > 10 && what < 20) game.Keys({static_cast<BoardKey>(draw(11))});
+        if (what > 10 && what < 20) game.Run(Picture1_KeyDown, static_cast<BoardKey>(draw(11)));
         if (what >= 20) game.Press(id, what < 36 ? MouseButton::Left : MouseButton::Right, what % 5 == 0);
     }
     EXPECT_GT(game.board.history.Revision(), 100U);

@@ -127,7 +127,7 @@ TEST(Commands, RefuseOrLieStillOrWorkWhileAJobRuns) {
     for (const Row& row : kRows) {
         SCOPED_TRACE(row.name);
         FullBoard game;
-        const Job job(game);
+        const Job job(game, "AutoSolve");
         if (row.during == During::Refuses) game.world.Expect("Cancel Autosolve first", kInformation);
         if (row.during == During::Works) game.world.AnswerAll(kYes);
         const std::string before = (row.during == During::Refuses ? "box" : "") + game.State();

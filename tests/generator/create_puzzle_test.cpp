@@ -23,13 +23,14 @@ CreatedPuzzle Create(BoardSize size, std::uint64_t seed, const MayGoOn& mayGoOn 
 }
 
 TEST(CreatePuzzle, ASeedGivesTheSameBytesAndGradeOnEveryMachine) {
-    // Size, seed, grade, record.
+    // Size, seed, grade, record. The first layout of the last one comes to the bound of trials.
     const std::tuple<BoardSize, std::uint64_t, int, std::uint32_t> pins[] = {
-        {{7, 7}, 1, 2, 0x41c4f0d1},     {{7, 7}, 7, 4, 0xfcd37f86},     {{7, 8}, 9, 2, 0x43808ac1},
-        {{9, 8}, 11, 2, 0x2c53ff0d},    {{7, 25}, 12, 3, 0xcc1ad5e4},   {{25, 7}, 14, 2, 0x92875cd6},
-        {{24, 9}, 30, 13, 0x454ccf08},  {{9, 24}, 32, 8, 0x6ff3b6fb},   {{12, 12}, 33, 2, 0xa75e1d59},
-        {{15, 16}, 35, 13, 0x82be15dd}, {{18, 15}, 36, 11, 0x214d267e}, {{20, 20}, 43, 8, 0x7199636e},
-        {{25, 19}, 45, 10, 0x1721a6eb}, {{25, 25}, 47, 38, 0xccd9535d}, {{25, 25}, 48, 42, 0x4929316e},
+        {{7, 7}, 1, 2, 0x41c4f0d1},      {{7, 7}, 7, 4, 0xfcd37f86},     {{7, 8}, 9, 2, 0x43808ac1},
+        {{9, 8}, 11, 2, 0x2c53ff0d},     {{7, 25}, 12, 3, 0xcc1ad5e4},   {{25, 7}, 14, 2, 0x92875cd6},
+        {{24, 9}, 30, 13, 0x454ccf08},   {{9, 24}, 32, 8, 0x6ff3b6fb},   {{12, 12}, 33, 2, 0xa75e1d59},
+        {{15, 16}, 35, 13, 0x82be15dd},  {{18, 15}, 36, 11, 0x214d267e}, {{20, 20}, 43, 8, 0x7199636e},
+        {{25, 19}, 45, 10, 0x1721a6eb},  {{25, 25}, 47, 38, 0xccd9535d}, {{25, 25}, 48, 42, 0x4929316e},
+        {{25, 25}, 1760, 6, 0x20d6989e},
     };
     for (const auto& [size, seed, grade, hash] : pins) {
         const CreatedPuzzle created = Create(size, seed);

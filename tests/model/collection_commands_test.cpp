@@ -98,14 +98,15 @@ TEST(DeletePuzzle, NextToABrokenOneForgetsTheMovesAllTheSame) {
 
 TEST(ExportPuzzle, WritesNumbersAlone) {
     EditGame game(1, {Record({"1-2", "|.I", "3=4"})});
-    const std::string path = game.folder.Write("grid", "the name as it is picked");
+    const std::string path = game.folder.Path("grid");
+    game.folder.Write("grid.txt", "old");
     for (const int answer : {kNo, kYes}) {
         game.world.ExpectPick(kExportPick, path);
-        game.world.Expect("OverWrite file: " + path + " ?", "system yesno", answer);
+        game.world.Expect("OverWrite file: " + path + ".txt ?", "system yesno", answer);
         if (answer == kYes) game.world.Expect("Puzzle exported to file:\r\n" + path + ".txt", kInformation);
         game.collection.leftOpen = true;
         game.Run(mnuexport_Click);
-        EXPECT_EQ(game.folder.Read("grid.txt"), answer == kYes ? "1.2\r\n...\r\n3.4\r\n" : "");
+        EXPECT_EQ(game.folder.Read("grid.txt"), answer == kYes ? "1.2\r\n...\r\n3.4\r\n" : "old");
         EXPECT_EQ(game.collection.leftOpen, answer == kNo);
     }
 }

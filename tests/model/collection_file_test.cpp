@@ -114,12 +114,22 @@ TEST(Collection, TakesRecordsAtItsEnd) {
 TEST(Collection, LosesOneLineThroughAWorkFile) {
     const TempFolder folder;
     folder.Write("a", "1\r\n2\n3");
-    EXPECT_EQ(DeleteLine("a", 2, "work"), 2);
+    using Outcome = Deleted::Outcome;
+    const auto remove = [](int number, const std::optional<std::string>& expected) {
+        const Deleted deleted = DeleteLine("a", number, expected, "work");
+        return std::pair(deleted.outcome, deleted.left);
+    };
+    EXPECT_EQ(remove(2, "other"), std::pair(Outcome::OtherLine, 3));
+    EXPECT_EQ(remove(2, "2"), std::pair(Outcome::Done, 2));
     EXPECT_EQ(folder.Read("a"), "1\r\n3\r\n");
     EXPECT_EQ(folder.Read("work"), "1\r\n3\r\n");
-    EXPECT_EQ(DeleteLine("a", 3, "work"), 2) << "there is no such line";
-    EXPECT_EQ(DeleteLine("a", 1, "work") + DeleteLine("a", 1, "work"), 1);
-    EXPECT_EQ(folder.Read("a"), "");
+    EXPECT_EQ(remove(3, std::nullopt), std::pair(Outcome::NoSuchLine, 2));
+    EXPECT_EQ(remove(1, std::nullopt), std::pair(Outcome::Done, 1));
+    EXPECT_EQ(remove(1, std::nullopt), std::pair(Outcome::OnlyLine, 1));
+    EXPECT_EQ(folder.Read("a"), "3\r\n");
+    folder.Write("work", "1\r\n2\r\n");
+    EXPECT_EQ(DeleteLine("work", 1, "1", "work").left, 1) << "the work file is the collection itself";
+    EXPECT_EQ(folder.Read("work"), "2\r\n");
 }
 
 /// Files cannot grow beyond some bytes for as long as it lives, as on a disk that is full.
@@ -144,35 +154,86 @@ class NoSpace {
 
 TEST(Collection, SaysWhatCannotBeReadOrWrittenAndKeepsTheOldFile) {
     const TempFolder folder;
-    folder.Write("old", "1\r\n");
+    folder.Write("old", "1\r\n2\r\n");
     ASSERT_EQ(::mkfifo("pipe", 0600), 0);
     std::filesystem::create_directory("sub");
     const std::string full = ": No space left on device";
     EXPECT_EQ(Refusal([] { AppendRecord("pipe", "2"); }), "pipe: Invalid argument") << "nobody waits at its other end";
     EXPECT_EQ(Refusal([] { AppendRecord("no/folder", "2"); }), "no/folder: No such file or directory");
     EXPECT_EQ(Refusal([] { AppendRecord("/dev/full", "2"); }), "/dev/full" + full);
-    EXPECT_EQ(Refusal([] { DeleteLine("sub", 1, "work"); }), "sub: Is a directory");
-    EXPECT_EQ(Refusal([] { DeleteLine("old", 2, "sub"); }), "sub: Is a directory");
-    EXPECT_EQ(Refusal([] { DeleteLine("old", 2, "/dev/full"); }), "/dev/full" + full);
-    EXPECT_EQ(Refusal([] { DeleteLine("old", 2, "no/folder"); }), "no/folder: No such file or directory");
-    EXPECT_EQ(Refusal([] { ConvertLayout("pipe", "new"); }), "pipe: Invalid argument");
-    EXPECT_EQ(Refusal([] { ConvertLayout("old", "sub"); }), "sub: Is a directory");
-    EXPECT_EQ(Refusal([] { ConvertLayout("old", "no/folder"); }), "no/folder: No such file or directory");
+    EXPECT_EQ(Refusal([] { DeleteLine("sub", 1, "1", "work"); }), "sub: Is a directory");
+    EXPECT_EQ(Refusal([] { DeleteLine("old", 1, "1", "sub"); }), "sub: Is a directory");
+    EXPECT_EQ(Refusal([] { DeleteLine("old", 1, "1", "/dev/full"); }), "/dev/full" + full);
+    EXPECT_EQ(Refusal([] { DeleteLine("old", 1, "1", "no/folder"); }), "no/folder: No such file or directory");
+    EXPECT_EQ(Refusal([] { ConvertCollection("pipe", "new"); }), "pipe: Invalid argument");
+    EXPECT_EQ(Refusal([] { ConvertCollection("old", "sub"); }), "sub: Is a directory");
+    EXPECT_EQ(Refusal([] { ConvertCollection("old", "no/folder"); }), "no/folder: No such file or directory");
     folder.Write("layout", "#0\r\nD\r\n7,7,3\r\n1.\r\n#1\r\n");
-    EXPECT_EQ(Refusal([] { ConvertLayout("layout", "/dev/full"); }), "/dev/full" + full);
+    EXPECT_EQ(Refusal([] { ConvertCollection("layout", "/dev/full"); }), "/dev/full: Invalid argument");
     {
         const NoSpace nothing;
         EXPECT_EQ(Refusal([] { WritePuzzleRecord("old", PuzzleFrom({"1-1"}), WriteMode::Replace); }),
                   "old: File too large");
         EXPECT_EQ(Refusal([] { AppendRecord("old", "a longer one"); }), "old: File too large");
     }
-    EXPECT_EQ(folder.Read("old").substr(0, 3), "1\r\n");
+    EXPECT_EQ(folder.Read("old"), "1\r\n2\r\n") << "what was begun is cut back";
+}
+
+TEST(Collection, TakesOnlyATornRecordOffItsEnd) {
+    const TempFolder folder;
+    const auto appended = [&](const std::string& before) {
+        folder.Write("a", before);
+        const Appended result = AppendRecord("a", "new", Numbering::Count);
+        return std::string(result.cutTail ? "cut " : "") + std::to_string(result.number) + ": " + folder.Read("a");
+    };
+    const std::string record = " 2, 3, 1;D;1-1,...,";
+    for (std::size_t length = 1; length < record.size(); ++length)
+        EXPECT_EQ(appended("x\r\n" + record.substr(0, length)), "cut 2: x\r\nnew\r\n") << length;
+    EXPECT_EQ(appended(" 7"), "cut 1: new\r\n");
+    EXPECT_EQ(appended("x\r\n" + record), "3: x\r\n" + record + "\r\nnew\r\n");
+    EXPECT_EQ(appended(record + "\r"), "2: " + record + "\r\nnew\r\n") << "the half of a line's end";
+    EXPECT_EQ(appended(" 2, 3, 1;D;1-1,\r\n"), "2:  2, 3, 1;D;1-1,\r\nnew\r\n") << "a line with its end stays";
+    for (const std::string other : {"7", " 7;", "2, 3, 1;D;", " 2, 3, 1;E;", " 777", "note"})
+        EXPECT_EQ(appended(other), "2: " + other + "\r\nnew\r\n") << "whatever else it is";
+}
+
+TEST(Collection, IsChangedByOneAtATime) {
+    const TempFolder folder;
+    folder.Write("a", "0\r\n");
+    {
+        SystemFile locked = OpenLocked("a", SystemFile::Mode::Change, WaitOn);
+        int asked = 0;
+        EXPECT_EQ(Refusal([&] { AppendRecord("a", "1", Numbering::Skip, [&] { return ++asked < 3; }); }),
+                  "a: another program is changing it");
+        EXPECT_EQ(asked, 3);
+        // The name comes to stand for another file while somebody waits.
+        AppendRecord("a", "1", Numbering::Skip, [&] {
+            folder.Write("b", "other\r\n");
+            std::filesystem::rename("b", "a");
+            locked = *SystemFile::Open("a", SystemFile::Mode::Read);
+            return true;
+        });
+    }
+    EXPECT_EQ(folder.Read("a"), "other\r\n1\r\n");
+    constexpr int kEach = 20;
+    std::vector<std::thread> writers;
+    for (int writer = 0; writer < 4; ++writer) {
+        writers.emplace_back([] {
+            for (int i = 0; i < kEach; ++i) {
+                AppendRecord("a", "new");
+                DeleteLine("a", 1, std::nullopt, "");
+            }
+        });
+    }
+    for (std::thread& writer : writers)
+        writer.join();
+    EXPECT_EQ(CountLines("a"), 2) << "as many came as went";
 }
 
 TEST(ConvertLayout, TurnsEachPuzzleIntoALineAndDropsTheLast) {
     const TempFolder folder;
     const auto converted = [&](const std::string& bytes) {
-        ConvertLayout(folder.Write("old.dat", bytes), "new.txt");
+        ConvertCollection(folder.Write("old.dat", bytes), "new.txt");
         return folder.Read("new.txt");
     };
     EXPECT_EQ(converted("#0\r\n Dx y\r\n 7, 7, 3\r\n1.\r\n2.\r\n#1\r\nE\r\n 8, 8, 1\r\n3\r\n4\r\nlast, never used"),
@@ -184,8 +245,8 @@ TEST(ConvertLayout, TurnsEachPuzzleIntoALineAndDropsTheLast) {
         rows += std::to_string(row % 10) + "\n";
     const std::string endless = converted("#\nD\nh\n" + rows + "end");
     EXPECT_EQ(std::count(endless.begin(), endless.end(), ','), 1000);
-    EXPECT_EQ(ConvertedPath("/a.b/c.dat"), "/a-newformat.txt");
-    EXPECT_EQ(ConvertedPath("abc"), "");
+    EXPECT_EQ(ConvertedPath("/a.b/c.dat"), "/a.b/c-newformat.txt");
+    EXPECT_EQ(ConvertedPath("x.y/abc") + ConvertedPath("abc"), "");
 }
 
 }  // namespace

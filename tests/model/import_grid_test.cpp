@@ -85,58 +85,55 @@ TEST(Paste, RefusesWhatFitsNoBoard) {
     EXPECT_EQ(game.world.Seen(), "box, status: Puzzle imported") << "the reader has said it";
 }
 
-/// A number editor that is typed into.
+/// A number editor that is typed into; "<" is for Backspace.
 struct Typed : NumberGrid {
     Typed(int rows, int cols, const std::string& keys) {
         Resize(rows, cols);
         for (const char key : keys)
-            Type(key);
+            key == '<' ? Backspace() : static_cast<void>(Type(key));
     }
-    std::string Text() const { return MarkedGrid(Numbers()); }
+    /// The rows, and the cursor's cell.
+    std::string State() const {
+        std::string all;
+        for (const std::string& row : PlainGrid(Numbers()))
+            all += row + "/";
+        return all + " " + std::to_string(Cursor().row) + "," + std::to_string(Cursor().col);
+    }
 };
 
-TEST(NumberGrid, DigitsFillTheGridInReadingOrderAndOtherKeysDoNothing) {
+TEST(NumberGrid, KeysFillItInReadingOrderAndTakeThatBack) {
     EXPECT_EQ(NumberGrid().Numbers(), Puzzle({7, 7}));
-    Typed grid(2, 3, "1.29x/");
-    EXPECT_EQ(grid.Cursor(), (CellPlace{2, 1}));
+    EXPECT_EQ(Typed(2, 3, "1.2").State(), "1.2/.../ 2,1");
+    EXPECT_EQ(Typed(2, 3, "19x/2").State(), "12./.../ 1,3") << "other keys do nothing";
+    EXPECT_EQ(Typed(2, 3, "1.2 08").State(), "1.2/..8/ 2,3");
+    EXPECT_EQ(Typed(2, 2, "1234<").State(), "12/3./ 2,2");
+    EXPECT_EQ(Typed(2, 2, "1234<<").State(), "12/../ 2,1");
+    EXPECT_EQ(Typed(2, 2, "1234<<<").State(), "1./../ 1,2");
+    EXPECT_EQ(Typed(2, 2, "12<<<<").State(), "../../ 1,1");
+    NumberGrid grid;
     EXPECT_FALSE(grid.Type('9'));
-    EXPECT_TRUE(grid.Type(' ') && grid.Type('0') && grid.Type('8'));
-    EXPECT_EQ(grid.Cursor(), (CellPlace{2, 3}));
-    EXPECT_EQ(grid.Text(), "#0203\r\n1.2\r\n..8\r\n");
-    grid.MoveBy(-1, -2);
-    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
+    EXPECT_TRUE(grid.Type('8') && grid.Type('.'));
+}
+
+TEST(NumberGrid, TheCursorStaysInItWhateverItsSize) {
+    Typed grid(2, 3, "12345");
+    grid.MoveBy(-1, -1);
     grid.Delete();
-    EXPECT_EQ(grid.At(1, 1), 0);
+    EXPECT_EQ(grid.State(), "1.3/45./ 1,2");
+    grid.MoveTo(9, 9);
+    EXPECT_EQ(grid.State(), "1.3/45./ 2,3");
+    grid.Resize(0, 2);
+    EXPECT_EQ(grid.State(), "1./ 1,2");
+    grid.MoveTo(-5, -5);
+    grid.Resize(2, 2);
+    EXPECT_EQ(grid.State(), "1./../ 1,1") << "what lay outside is gone";
     grid.MoveTo(2, 2);
     grid.Clear();
-    EXPECT_EQ(grid.Numbers(), Puzzle({2, 3}));
-    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
-}
-
-TEST(NumberGrid, BackspaceTakesTheLastTypedNumberBack) {
-    Typed grid(2, 2, "1234");
-    for (const char* expected : {"12\r\n3.", "12\r\n..", "1.\r\n..", "..\r\n..", "..\r\n.."}) {
-        grid.Backspace();
-        EXPECT_EQ(grid.Text(), "#0202\r\n" + std::string(expected) + "\r\n");
-    }
-    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
-}
-
-TEST(NumberGrid, ASmallerGridForgetsWhatLiesOutsideAndKeepsTheCursorIn) {
-    Typed grid(25, 26, "1");
-    grid.MoveTo(25, 99);
-    grid.Type('8');
-    EXPECT_EQ(grid.Cursor(), (CellPlace{25, 25}));
-    grid.Resize(0, 3);
-    EXPECT_EQ(grid.Text(), "#0103\r\n1..\r\n");
-    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 3}));
-    grid.MoveTo(-5, -5);
-    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
-    grid.Delete();
-    grid.Resize(99, 25);
+    EXPECT_EQ(grid.State(), "../../ 1,1");
+    grid.Resize(99, 26);
     EXPECT_EQ(grid.Numbers(), Puzzle({25, 25}));
     grid.Take(Puzzle());
-    EXPECT_EQ(grid.Numbers(), Puzzle({1, 1})) << "before the first load there is no board";
+    EXPECT_EQ(grid.State(), "./ 1,1") << "before the first load there is no board";
 }
 
 TEST(NumberGrid, IsSavedLoadedAndPlayed) {
@@ -144,16 +141,14 @@ TEST(NumberGrid, IsSavedLoadedAndPlayed) {
     game.Load(1);
     Typed grid(7, 7, "123");
     EditCurrentPuzzle(game, grid);
-    EXPECT_EQ(grid.Cursor(), (CellPlace{1, 1}));
-    const std::string marked = "#0107\r\n2.....2\r\n";
-    EXPECT_EQ(grid.Text(), marked);
+    EXPECT_EQ(grid.State(), "2.....2/ 1,1");
     const std::string path = game.folder.Path("mine");
     for (const bool again : {false, true}) {
         game.world.ExpectPick(kSavePick, path);
         if (again) game.world.Expect("OverWrite file: " + path + ".grd ?", "system yesno", kNo);
         EXPECT_EQ(game.Run(SaveNumberGrid, grid), !again);
     }
-    EXPECT_EQ(game.folder.Read("mine.grd"), marked);
+    EXPECT_EQ(game.folder.Read("mine.grd"), "#0107\r\n2.....2\r\n");
     NumberGrid loaded;
     game.world.ExpectPick(kLoadPick, path + ".grd");
     EXPECT_TRUE(game.Run(LoadNumberGrid, loaded) && loaded.Type('3'));

@@ -82,15 +82,21 @@ TEST(LoadPuzzle, AMalformedRecordLeavesWhatCouldBeReadOfIt) {
     game.ExpectNoLoad(game.PathOfCollection(), 2);
     EXPECT_EQ(game.Numbers(), (Lines{"12.", "3.4", "..."}));
     game.ExpectNone(3);
-    game.Run(ReloadPuzzle, game.PathOfCollection(), 3);
+    const auto showAgain = [&](int number) {
+        Collection of = game.collection;
+        of.CollectionPath = game.PathOfCollection();
+        of.PuzzleNumber = number;
+        game.Run(ShowAgain, ShownPuzzle{{}, of});
+    };
+    showAgain(3);
     EXPECT_EQ(game.board.puzzle, Puzzle({3, 3}));
     EXPECT_FALSE(game.collection.leftOpen);
     game.ExpectNoLoad(game.PathOfCollection(), 3);
     EXPECT_EQ(game.board.puzzle, Puzzle({3, 3}));
     EXPECT_EQ(game.world.Text(WindowText::BoardSize), "7x7");
     game.ExpectNone(9);
-    game.Run(ReloadPuzzle, game.PathOfCollection(), 9);
-    game.Run(ReloadPuzzle, game.PathOfCollection(), 1);
+    showAgain(9);
+    showAgain(1);
     EXPECT_GT(game.board.puzzle.IslandCount(), 0);
 }
 

@@ -79,7 +79,7 @@ TEST(Words, PrintAndParseTheirTextForms) {
 
     EXPECT_EQ(Text(Link{12, 15, 1}), "0120151");
     EXPECT_EQ(ParseLink("0120151"), (Link{12, 15, 1}));
-    EXPECT_TRUE(ParseLink("6250002"));
+    EXPECT_TRUE(ParseLink("6250002") && ParseLink("0006250"));
     for (const char* bad : {"0120153", "012015", "0 20151", "6260011", "0016261", "00100 1"})
         EXPECT_FALSE(ParseLink(bad)) << bad;
 }
@@ -100,14 +100,15 @@ TEST(Puzzles, AreValuesThatKnowTheirCells) {
     EXPECT_EQ(WithoutLinks(puzzle).LinkCount(), 0);
 }
 
-TEST(Paths, GetAnExtensionOnlyWithoutAnyDot) {
+TEST(Paths, GetAnExtensionWhereTheFileNameHasNone) {
     const TempFolder folder;
     std::string name = "/a/b";
     AddExtension(name, "txt");
     EXPECT_EQ(name, "/a/b.txt");
     name = "/a.d/b";
     AddExtension(name, "txt");
-    EXPECT_EQ(name, "/a.d/b");
+    AddExtension(name, "grd");
+    EXPECT_EQ(name, "/a.d/b.txt");
     EXPECT_EQ(FileNameOf("/a/b.tdw") + FileNameOf("c"), "b.tdwc");
     EXPECT_EQ(WithSeparator("/") + WithSeparator("/a") + WithSeparator(""), "//a//");
     EXPECT_EQ(FileLength(folder.Write("three", "abc")), 3U);

@@ -105,7 +105,7 @@ TEST_F(OptionsWindow, TheBrightnessOfOneSchemeIsNotCarriedToTheNext) {
 }
 
 TEST_F(OptionsWindow, AJobKeepsItsBoardWhenOptionsAreApplied) {
-    const Job job(game);
+    const Job job(game, "AutoSolve");
     const int before = game.world.picture.timesCleared;
     game.Run(command1_Click, form);
     EXPECT_EQ(game.world.picture.timesCleared, before);

@@ -118,7 +118,7 @@ TEST(FirstCollection, IsNotThereWhenItCannotBeWrittenOrTheWindowIsClosed) {
             game.world.Expect(path + ": Is a directory", kCritical);
         }
         game.Run(MakeFirstCollection);
-        EXPECT_EQ(game.board.puzzle, Puzzle({8, 8}));
+        EXPECT_EQ(game.board.puzzle == Puzzle({8, 8}), closed) << "what was made can be played all the same";
         EXPECT_EQ(std::filesystem::exists("TempPuzzles.tdw"), !closed);
         EXPECT_EQ(game.collection.PuzzleNumber, closed ? 0 : 1);
     }

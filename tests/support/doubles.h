@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "game/choices.h"
 #include "game/game.h"
 #include "support/recording_surface.h"
 
@@ -41,7 +42,8 @@ class World final : public Prompts,
                     public PendingEvents,
                     public Clock,
                     public Clipboard,
-                    public Printers {
+                    public Printers,
+                    public Choices {
  public:
     /// Fails when a question that was expected has not come.
     ~World() override;
@@ -73,6 +75,13 @@ class World final : public Prompts,
     void SetProgress(int done, int total) override {
         Note("progress: " + std::to_string(done) + " of " + std::to_string(progressTotal = total));
     }
+    void Repaint() override { Note("repaint"); }
+    std::string Get(std::string_view name, const std::string& otherwise) const override {
+        const auto found = choices.find(name);
+        return found == choices.end() ? otherwise : found->second;
+    }
+    void Set(std::string_view name, const std::string& value) override { choices[std::string(name)] = value; }
+    std::map<std::string, std::string, std::less<>> choices;
     void ApplyColours() override { Note("colours"); }
     Colour Desktop(DesktopColour colour) const override { return desktop.at(colour); }
     void EndProgram() override { Note("end"); }

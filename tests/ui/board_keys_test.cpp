@@ -161,7 +161,7 @@ TEST(ScreenReader, FindsEveryIslandAsAChildOfTheBoard) {
     first->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(first->state().selected);
     EXPECT_EQ(board->focusChild(), first);
-    window.game.job.Begin();
+    window.game.job.Begin("AutoSolve");
     EXPECT_EQ(board->childCount(), 0) << "the board is the job's";
     EXPECT_FALSE(first->isValid());
     window.game.job.End();

@@ -47,7 +47,7 @@ std::string EffectOf(const std::function<void(WindowGame&)>& give) {
     for (const char* const button : {"arrows2", "arrows2", "cmdzoom0"})
         window.Click(button);
     window.ClickIslands({{1, 3}, {1, 7}, {1, 3}});
-    window.game.window.SetText(WindowText::Status, "before");
+    window.game.window.SetText(WindowText::Status, "");
     QApplication::clipboard()->clear();
     const auto before = StateOf(window);
     give(window);
@@ -67,14 +67,14 @@ TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
         "cmdzoom2=cells 700|mnuhelp=help open|mnuabout=About|mnuexit=Exit?|mnuloadpuz=file: Tidewalk|"
         "mnuappend=file: Add Puzzle to File|mnudelete=Delete current puzzle from file:\r\n|arrows0=puzzle 2|"
         "arrows2=puzzle 4|arrows0right=puzzle 1|arrows2right=puzzle 5|arrows1=puzzle 2|"
-        "mnunewpuzx=works: Creating 7x7 puzzle ...|mnucreatemany=Form3|mnupuzreset=Reset?|"
+        "mnunewpuzx=works: Creating 7x7 puzzle ...|mnucreatemany=Form3|mnustopbatch=|mnupuzreset=Reset?|"
         "mnuexport=file: Export Puzzle|mnuimport=file: Select a grid file|mnupastepuzzle=status Error importing puzzle|"
-        "Command3=system: |Command4=works:before|Command5=works:Dups 0|can1=status |mnuautosol=works:Auto solving ...|"
+        "Command3=system: |Command4=works:|Command5=works:Dups 0|can1=|mnuautosol=works:Auto solving ...|"
         "cmdverify=status Not done yet|cmdundo=moves 0|can2=selected 0|"
         "mnuprintcurrent=Print Current Puzzle and its Solution?|mnuprintpreview=PrintPreview|control27=Form5|"
         "mnucopyclippuz=status Puzzle copied to clipboard|mnucopyclipsol=status Solution copied to clipboard|"
-        "can3=status |cmdsave=file: Add Puzzle to File|cmdload=file: Tidewalk|cmdedit=Form6|cmdviewcol=|"
-        "cmdnew1=works: Creating 7x7 puzzle ...|cmdcancel=status |cmdexit=Exit?|";
+        "can3=|cmdsave=file: Add Puzzle to File|cmdload=file: Tidewalk|cmdedit=Form6|cmdviewcol=|"
+        "cmdnew1=works: Creating 7x7 puzzle ...|cmdcancel=|cmdexit=Exit?|";
     for (const Command& command : Commands()) {
         if (command.handler == nullptr) continue;
         const std::string name = command.ObjectName().toStdString();
@@ -212,7 +212,7 @@ TEST(Window, ListsFollowTheGameWhileTheyShow) {
 TEST(Window, ClosingWhileAJobRunsStopsItAndEndsAfterIt) {
     WindowGame window;
     window.program.handlers().Run([&](Game& game) {
-        const Job job(game);
+        const Job job(game, "AutoSolve");
         window.form.close();
         EXPECT_TRUE(game.job.MustStop());
         EXPECT_FALSE(window.form.isVisible());

@@ -75,7 +75,8 @@ struct WindowGame {
     int Bridges(CellPlace a, CellPlace b) const;
 
     /// The board's widget as it looks, and with neither rubber band nor focus nor marker.
-    QImage Shown() { return view.grab().toImage(); }
+    /// The board with what is painted over it.
+    QImage Shown() { return form.Container().grab(view.geometry()).toImage(); }
     QImage Bare();
     /// What `Bare` would be if everything were drawn again on an empty picture.
     QImage Fresh(bool solution = false);
