@@ -2,29 +2,53 @@
 #include "ui/app_folder.h"
 
 #include <QCoreApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace tidewalk {
 
 namespace {
 
-/// Copies the files that `to` lacks. A folder of pictures for buttons is of no use there.
-void FillMissing(const QString& from, const QString& to) {
+constexpr const char* kShippedList = "shipped.txt";
+
+QByteArray BytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The line of the list of what shipped for a file of this name and content.
+QByteArray ShippedLine(const QString& name, const QByteArray& bytes) {
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex() + "  " + name.toUtf8();
+}
+
+/// Puts a copy of the file at `target`, which has another content or is not there. The installed file may be for
+/// reading only; the player's own copy is to be written.
+void Copy(const QByteArray& bytes, const QString& target) {
+    QDir().mkpath(QFileInfo(target).path());
+    QSaveFile file(target);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()) file.commit();
+}
+
+/// Copies the files that `to` lacks, and those that are there as they once shipped. A folder of pictures for buttons is
+/// of no use there.
+void FillAndRenew(const QString& from, const QString& to) {
     const QDir source(from);
+    const QList<QByteArray> shipped = BytesOf(source.filePath(kShippedList)).split('\n');
     QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString file = files.next();
         const QString name = source.relativeFilePath(file);
         const QString target = to + "/" + name;
-        if (name.startsWith("icons/") || QFileInfo::exists(target)) continue;
-        QDir().mkpath(QFileInfo(target).path());
-        // The installed file may be for reading only; the player's own copy is to be written.
-        if (QFile::copy(file, target)) {
-            QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner | QFile::WriteUser);
-        }
+        if (name.startsWith("icons/") || name == kShippedList) continue;
+        const QByteArray bytes = BytesOf(file);
+        const QByteArray old = BytesOf(target);
+        const bool unchanged = old != bytes && shipped.contains(ShippedLine(name, old));
+        if (!QFileInfo::exists(target) || unchanged) Copy(bytes, target);
     }
 }
 
@@ -43,7 +67,7 @@ FolderPlaces SystemPlaces() {
 }
 
 QString ShareFolder(const QString& executableFolder, const QString& installed) {
-    const QString folder = QDir::cleanPath(QDir(executableFolder).absoluteFilePath(installed));
+    QString folder = QDir::cleanPath(QDir(executableFolder).absoluteFilePath(installed));
     if (QFileInfo(folder).isDir()) return folder;
     return QDir::cleanPath(executableFolder + "/../share/tidewalk");
 }
@@ -53,11 +77,12 @@ AppFolderChoice ChooseAppFolder(const std::optional<QString>& requested, const F
     const QString& own = places.executableFolder;
     if (QFileInfo::exists(own + "/all.col") && QFileInfo(own).isWritable()) return {own, {}};
     const QString& folder = places.userDataFolder;
+    const bool isNew = !QFileInfo::exists(folder);
     if (!QDir().mkpath(folder)) {
         return {{}, QCoreApplication::translate("AppFolder", "The folder %1 could not be made").arg(folder)};
     }
-    FillMissing(places.shareFolder, folder);
-    return {QFileInfo(folder).absoluteFilePath(), {}};
+    FillAndRenew(places.shareFolder, folder);
+    return {QFileInfo(folder).absoluteFilePath(), {}, isNew};
 }
 
 }  // namespace tidewalk

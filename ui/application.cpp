@@ -6,8 +6,10 @@
 #include <QFile>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QSaveFile>
 #include <cstdio>
 
+#include "model/system_file.h"
 #include "ui/app_folder.h"
 #include "ui/command_line.h"
 #include "ui/icons.h"
@@ -65,14 +67,38 @@ int Fail(const QString& text, bool unattended) {
 int TakeScreenshot(Program& program, const QString& file) {
     // What the first puzzle changed is laid out and painted by the events that wait.
     QCoreApplication::processEvents();
-    if (WhyNotReplaceable(file).isEmpty() && program.form1().grab().save(file, "PNG")) return 0;
+    QSaveFile picture(file);
+    if (WhyNotReplaceable(file).isEmpty() && picture.open(QIODevice::WriteOnly) &&
+        program.form1().grab().save(&picture, "PNG") && picture.commit()) {
+        return 0;
+    }
     Say(stderr, "The picture could not be written: " + file);
     return kFailed;
 }
 
-StartRequest RequestOf(const CommandLine& line, const QString& folder) {
+/// The number of this window among those of the program folder, held as long as the object lives.
+class WindowNumber {
+ public:
+    explicit WindowNumber(const QString& folder)
+        : file_(SystemFile::Open(QFile::encodeName(folder + "/tide.lock").toStdString(),
+                                 SystemFile::Mode::MakeOrChange)) {
+        constexpr int kMost = 100;
+        // In a folder that cannot be written no work file can be, either.
+        while (file_ && number_ < kMost && !file_->TryLockPlace(number_))
+            ++number_;
+    }
+    int Value() const { return number_; }
+
+ private:
+    std::optional<SystemFile> file_;
+    int number_ = 1;
+};
+
+StartRequest RequestOf(const CommandLine& line, const AppFolderChoice& choice, const WindowNumber& window) {
     StartRequest request;
-    request.appFolder = QFile::encodeName(folder).toStdString();
+    request.appFolder = QFile::encodeName(choice.folder).toStdString();
+    request.folderIsNew = choice.isNew;
+    request.windowNumber = window.Value();
     request.collection = QFile::encodeName(line.collection).toStdString();
     request.puzzleNumber = line.puzzleNumber;
     return request;
@@ -84,12 +110,13 @@ int RunWindows(const CommandLine& line) {
     if (!choice.error.isEmpty()) return Fail(choice.error, unattended);
     if (!QDir::setCurrent(choice.folder)) return Fail("The folder cannot be entered: " + choice.folder, unattended);
 
+    const WindowNumber window(choice.folder);
     Program program;
     program.prompts().SetUnattended(unattended);
     if (line.seed) program.game().random.UseSeed(*line.seed);
     // QApplication::quit would ask every window first; here the decision is made.
     QObject::connect(&program.handlers(), &Handlers::Ended, qApp, [] { QCoreApplication::exit(0); });
-    const auto fatal = program.Start(RequestOf(line, choice.folder));
+    const auto fatal = program.Start(RequestOf(line, choice, window));
     if (fatal) return Fail(QString::fromStdString(*fatal), unattended);
     if (program.game().job.Ending()) return 0;
     return unattended ? TakeScreenshot(program, *line.screenshot) : QCoreApplication::exec();

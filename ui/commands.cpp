@@ -368,9 +368,8 @@ std::vector<Command> ToolBarOnlyCommands() {
 }  // namespace
 
 QString Command::ObjectName() const {
-    const QString plain(name);
-    if (index == kNoIndex) return plain;
-    return plain + QString::number(index) + (button == MouseButton::Right ? "right" : "");
+    if (index == kNoIndex) return name;
+    return name + QString::number(index) + (button == MouseButton::Right ? "right" : "");
 }
 
 const std::vector<Command>& Commands() {

@@ -2,6 +2,7 @@
 // The start of the program: its command line, its folder, and what it does without a window.
 #include <sys/stat.h>
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QProcess>
 #include <filesystem>
@@ -63,8 +64,33 @@ TEST(AppFolder, TheUsersFolderIsMadeAndGetsOnlyWhatItLacks) {
     places.Write("home/data/tidewalk/all.col", "my own");
     QFile::remove("home/data/tidewalk/tide.htm");
     places.Choose();
+    EXPECT_FALSE(places.Choose().isNew);
     EXPECT_EQ(places.Read("home/data/tidewalk/all.col"), "my own");
     EXPECT_EQ(places.Read("home/data/tidewalk/tide.htm"), "help");
+}
+
+TEST(AppFolder, WhatNobodyChangedIsRenewedWithTheProgram) {
+    const Places places;
+    const auto line = [](const char* bytes, const char* name) {
+        return (QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex() + "  " + name + "\n").toStdString();
+    };
+    places.Write("share/shipped.txt", line("first", "tide.htm") + line("help", "tide.htm") + line("first", "all.col"));
+    EXPECT_TRUE(places.Choose().isNew);
+    EXPECT_FALSE(QFile::exists("home/data/tidewalk/shipped.txt"));
+    places.Write("home/data/tidewalk/tide.htm", "first");
+    places.Write("home/data/tidewalk/all.col", "help");
+    places.Choose();
+    EXPECT_EQ(places.Read("home/data/tidewalk/tide.htm"), "help");
+    EXPECT_EQ(places.Read("home/data/tidewalk/all.col"), "help") << "no file of this name ever shipped so";
+    // Each change of a file that ships adds a line to the list.
+    QFile list(TIDEWALK_DATA_DIR "/shipped.txt");
+    ASSERT_TRUE(list.open(QIODevice::ReadOnly));
+    const QByteArray listed = list.readAll();
+    for (const char* const name : {"all.col", "tide.htm", "puzzles.txt", "help/example.svg", "help/laying.svg"}) {
+        QFile file(TIDEWALK_DATA_DIR "/" + QString(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+        EXPECT_TRUE(listed.contains(line(file.readAll(), name).c_str())) << name;
+    }
 }
 
 TEST(AppFolder, IsTheProgramsOwnInAPortableCopyOrTheRequestedOne) {
