@@ -3,6 +3,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
+#include <cstdint>
 #include <exception>
 #include <functional>
 #include <limits>
@@ -73,6 +75,22 @@ class Parser {
         command->add_option("FILE", file, text)->required();
     }
 
+    /// "" for a whole number of 64 bits, else what is wrong.
+    static std::string WhatIsNoSeed(const std::string& text) {
+        std::uint64_t seed = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seed);
+        const bool isSeed = error == std::errc() && end == text.data() + text.size();
+        return isSeed ? "" : "\"" + text + "\" is no whole number from 0 to 18446744073709551615";
+    }
+
+    static std::string WhatIsNoTime(const std::string& text) {
+        double seconds = -1;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+        const bool isTime =
+            error == std::errc() && end == text.data() + text.size() && seconds >= 0 && seconds <= kMostSeconds;
+        return isTime ? "" : "\"" + text + "\" is no number of seconds from 0 to 1000000000";
+    }
+
     static void AddNumber(CLI::App* command, int& number) {
         command->add_option("N", number, "The number of the puzzle in it")
             ->required()
@@ -111,7 +129,7 @@ class Parser {
         check->add_option("--seconds", wishes_.check.seconds, "The time for each puzzle; past it, it is undecided")
             ->type_name("S")
             ->capture_default_str()
-            ->check(CLI::Range(0.0, kMostSeconds));
+            ->check(WhatIsNoTime);
         AddJobs(check, wishes_.check.jobs);
     }
 
@@ -123,7 +141,9 @@ class Parser {
             ->type_name("N")
             ->capture_default_str()
             ->check(CLI::Range(1, kMostNumber));
-        create->add_option("--seed", options.seed, "The same seed makes the same puzzles")->type_name("S");
+        create->add_option("--seed", options.seed, "The same seed makes the same puzzles")
+            ->type_name("S")
+            ->check(WhatIsNoSeed);
         create->add_flag("--unique", options.unique, "Keep only puzzles with exactly one solution");
         create->add_option("--out", options.out, "The file to append to")->type_name("FILE")->required();
         AddJobs(create, options.jobs);
@@ -141,7 +161,9 @@ class Parser {
             Command("shuffle", "Write a collection in random order, without lines that it holds twice", wishes_.shuffle,
                     ShuffleCollection);
         AddFile(shuffle, wishes_.shuffle.file);
-        shuffle->add_option("--seed", wishes_.shuffle.seed, "The same seed gives the same order")->type_name("S");
+        shuffle->add_option("--seed", wishes_.shuffle.seed, "The same seed gives the same order")
+            ->type_name("S")
+            ->check(WhatIsNoSeed);
         AddFile(Command("convert", "Write a collection of the older layout as one of today's", wishes_.convert,
                         ConvertCollection),
                 wishes_.convert.file);

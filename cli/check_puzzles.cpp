@@ -34,7 +34,9 @@ std::string Word(SolutionCount count) {
 
 /// What is wrong with a puzzle; "" when nothing is.
 std::string FaultOf(StoredSolution stored, SolutionCount count, double seconds) {
-    std::string fault = stored == StoredSolution::Wrong ? "the stored bridges are no solution" : "";
+    std::string fault = stored == StoredSolution::Wrong      ? "the stored bridges are no solution"
+                        : stored == StoredSolution::CutShort ? kCutShort
+                                                             : "";
     const auto add = [&fault](const std::string& text) { fault += (fault.empty() ? "" : "; ") + text; };
     if (!count) {
         std::ostringstream text;

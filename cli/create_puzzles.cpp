@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The command "create".
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <chrono>
@@ -14,6 +15,7 @@
 #include "cli/report.h"
 #include "generator/create_puzzle.h"
 #include "generator/grid_size.h"
+#include "model/file_error.h"
 #include "model/numbers.h"
 #include "model/puzzle_record.h"
 #include "solver/count_solutions.h"
@@ -40,8 +42,13 @@ std::uint64_t SeedFromClock() {
     return static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
+/// The size that the argument asks for; a side of 0 where it is none.
 WantedSize SizeFromArgument(const std::string& text) {
-    return ParseGridSize(LowerCase(Trim(text)) == "random" ? "" : text);
+    const std::string size = LowerCase(Trim(text));
+    if (size == "random") return {true, {}};
+    const bool isSize = !size.empty() && size.find_first_not_of("0123456789x") == std::string::npos &&
+                        std::count(size.begin(), size.end(), 'x') <= 1;
+    return isSize ? ParseGridSize(size) : WantedSize{};
 }
 
 /// Makes the puzzles of one run.
@@ -56,7 +63,8 @@ class PuzzleMaker {
           output_(console, options.out),
           progress_(console, options.out == kStandard) {}
 
-    /// Makes them all and appends them to their file. Returns how many of them did not come about.
+    /// Makes them all and appends them to their file. Returns how many of them did not come about. Throws FileError
+    /// when one cannot be written; those before it are.
     int Run() {
         std::vector<SolverBoard> boards(static_cast<std::size_t>(options_.jobs));
         WorkSteps<int, Made> steps;
@@ -71,6 +79,7 @@ class PuzzleMaker {
         steps.idle = [this] { ShowProgress(); };
         OrderedWork<int, Made>(std::move(steps)).Run(options_.jobs);
         progress_.Hide();
+        output_.Finish();
         return failures_;
     }
 
@@ -149,11 +158,17 @@ class PuzzleMaker {
 int CreatePuzzles(Console& console, const CreateOptions& options) {
     const WantedSize size = SizeFromArgument(options.size);
     if (!size.random && !IsCreatableSize(size.size)) {
-        Say(console, "a puzzle has 7 to 25 rows and columns, not " + options.size);
+        Say(console, "a puzzle has 7 to 25 rows and columns, not \"" + options.size + "\"");
         return kWrongUsage;
     }
     PuzzleMaker maker(console, options, size);
-    const int failures = maker.Run();
+    int failures = 0;
+    try {
+        failures = maker.Run();
+    } catch (const FileError& error) {
+        Say(console, error.what());
+        failures = 1;
+    }
     if (options.out != kStandard) maker.Report();
     return ExitCodeOf(console, failures);
 }

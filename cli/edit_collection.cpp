@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The commands "append", "delete", "export" and "import", which move single puzzles.
+#include <filesystem>
 #include <optional>
 
 #include "cli/collection_lines.h"
 #include "cli/commands.h"
+#include "cli/puzzle_facts.h"
 #include "cli/record_output.h"
 #include "cli/report.h"
 #include "cli/temporary_files.h"
@@ -20,12 +22,14 @@ namespace {
 
 /// Appends the puzzle to the collection and reports where it went.
 int AppendTo(Console& console, const std::string& target, const Puzzle& puzzle, bool json) {
-    AppendedRecords(console, target).Add(PuzzleRecord(puzzle));
+    AppendedRecords output(console, target);
+    const int number = output.Add(PuzzleRecord(puzzle), Numbering::Count);
+    output.Finish();
     if (target == kStandard) return ExitCodeOf(console, 0);
-    const int number = CountLines(target);
     ReportOnce(console, json, "puzzle " + std::to_string(number) + " appended to " + target,
                {{"file", target}, {"number", number}});
-    return ExitCodeOf(console, 0);
+    // What is done is done, whatever signal came meanwhile.
+    return kDone;
 }
 
 /// What is wrong with a grid file; "" when the grid was read and is a puzzle.
@@ -46,24 +50,35 @@ std::string FaultOfGrid(GridResult result, const Puzzle& puzzle, const ImportOpt
 int AppendPuzzle(Console& console, const AppendOptions& options) {
     const std::optional<Puzzle> puzzle = ReadOnePuzzle(console, options.file, options.number);
     if (!puzzle) return ExitCodeOf(console, 1);
+    if (JudgeStored(*puzzle) == StoredSolution::CutShort) SayOfPuzzle(console, options.file, options.number, kCutShort);
     return AppendTo(console, options.target, *puzzle, options.json);
 }
 
 int DeletePuzzle(Console& console, const DeleteOptions& options) {
-    const InputFile file(console, options.file);
-    const int count = CountLines(file.Path());
-    if (SayIfMissing(console, options.file, {options.number, options.number}, count) > 0) return kFailed;
-    if (count == 1) {
-        Say(console, options.file + ": there is only one puzzle in this file");
-        return kFailed;
+    std::error_code error;
+    if (std::filesystem::exists(options.file, error) && !std::filesystem::is_regular_file(options.file, error)) {
+        Say(console, options.file + ": a puzzle can be deleted from a file only");
+        return kWrongUsage;
     }
-    const TemporaryFile work;
-    const int left = DeleteLine(file.Path(), options.number, std::nullopt, work.Path()).left;
+    const Deleted deleted =
+        DeleteLine(options.file, options.number, std::nullopt, "", WaitingFor(console, options.file));
+    switch (deleted.outcome) {
+        case Deleted::Outcome::Done:
+            break;
+        case Deleted::Outcome::OnlyLine:
+            Say(console, options.file + ": there is only one puzzle in this file");
+            return kFailed;
+        case Deleted::Outcome::NoSuchLine:
+        case Deleted::Outcome::OtherLine:
+            SayIfMissing(console, options.file, {options.number, options.number}, deleted.left);
+            return kFailed;
+    }
     ReportOnce(console, options.json,
                "puzzle " + std::to_string(options.number) + " deleted from " + options.file + ", " +
-                   std::to_string(left) + " left",
-               {{"file", options.file}, {"number", options.number}, {"left", left}});
-    return ExitCodeOf(console, 0);
+                   std::to_string(deleted.left) + " left",
+               {{"file", options.file}, {"number", options.number}, {"left", deleted.left}});
+    // The puzzle is gone, whatever signal came meanwhile: who reads of a stop would delete another one.
+    return kDone;
 }
 
 int ExportGrid(Console& console, const ExportOptions& options) {
@@ -77,6 +92,11 @@ int ExportGrid(Console& console, const ExportOptions& options) {
         write(console.out);
         console.out << std::flush;
         return ExitCodeOf(console, 0);
+    }
+    std::error_code error;
+    if (std::filesystem::equivalent(options.file, options.grid, error)) {
+        Say(console, options.grid + ": the grid must not replace its own collection");
+        return kFailed;
     }
     if (!options.force && FileLength(options.grid) > 0) {
         Say(console, options.grid + ": the file is there already; --force replaces it");

@@ -8,11 +8,22 @@ namespace tidewalk {
 
 StoredSolution JudgeStored(const Puzzle& puzzle) {
     if (puzzle.LinkCount() == 0) return StoredSolution::None;
-    return IsValidSolution(puzzle) ? StoredSolution::Valid : StoredSolution::Wrong;
+    if (IsValidSolution(puzzle)) return StoredSolution::Valid;
+    return LacksOnlyTouchingBridges(puzzle) ? StoredSolution::CutShort : StoredSolution::Wrong;
 }
 
 std::string Word(StoredSolution stored) {
-    return stored == StoredSolution::None ? "none" : stored == StoredSolution::Valid ? "valid" : "wrong";
+    switch (stored) {
+        case StoredSolution::None:
+            return "none";
+        case StoredSolution::Valid:
+            return "valid";
+        case StoredSolution::CutShort:
+            return "cut short";
+        case StoredSolution::Wrong:
+            break;
+    }
+    return "wrong";
 }
 
 JsonFields SizeFields(const Puzzle& puzzle) {

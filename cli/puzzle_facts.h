@@ -12,7 +12,14 @@
 namespace tidewalk {
 
 /// What the stored bridges are.
-enum class StoredSolution { None, Valid, Wrong };
+inline constexpr const char* kCutShort = "the record cannot hold a bridge between touching islands";
+
+enum class StoredSolution {
+    None,
+    Valid,
+    CutShort,  ///< right but for bridges between touching islands, which a record cannot hold
+    Wrong
+};
 
 StoredSolution JudgeStored(const Puzzle& puzzle);
 

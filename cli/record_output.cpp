@@ -2,11 +2,11 @@
 #include "cli/record_output.h"
 
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <utility>
 
-#include "model/collection_file.h"
 #include "model/file_error.h"
 #include "model/line_reader.h"
 #include "model/replace_file.h"
@@ -43,6 +43,18 @@ void ReplacedRecords::Finish() {
     ReplaceFile(*path_, [this](std::ostream& file) { file << records_; });
 }
 
+MayWait WaitingFor(Console& console, const std::string& path) {
+    using Clock = std::chrono::steady_clock;
+    static constexpr std::chrono::milliseconds kMoment(300);
+    return [&console, path, start = Clock::now(), said = false]() mutable {
+        if (!said && Clock::now() - start >= kMoment) {
+            said = true;
+            Say(console, path + ": waiting for another program that is changing it");
+        }
+        return console.stopSignal == 0;
+    };
+}
+
 AppendedRecords::AppendedRecords(Console& console, std::string path) : console_(console), path_(std::move(path)) {
     if (path_ == kStandard) return;
     DemandWritable(path_);
@@ -50,9 +62,20 @@ AppendedRecords::AppendedRecords(Console& console, std::string path) : console_(
     if (!std::ofstream(path_, std::ios::binary | std::ios::app)) Fail(path_, errno);
 }
 
-void AppendedRecords::Add(std::string_view record) {
-    if (path_ == kStandard) return PrintRecord(console_, record);
-    AppendRecord(path_, record);
+int AppendedRecords::Add(std::string_view record, Numbering numbering) {
+    if (path_ == kStandard) {
+        PrintRecord(console_, record);
+        return 0;
+    }
+    const Appended appended = AppendRecord(path_, record, numbering, WaitingFor(console_, path_));
+    if (appended.cutTail)
+        Say(console_, path_ + ": a record that was cut off while it was written was taken off its end");
+    added_ = true;
+    return appended.number;
+}
+
+void AppendedRecords::Finish() {
+    if (added_) SyncCollection(path_);
 }
 
 }  // namespace tidewalk

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/console.h"
+#include "model/collection_file.h"
 
 namespace tidewalk {
 
@@ -28,6 +29,10 @@ class ReplacedRecords {
     std::string records_;
 };
 
+/// What is to be asked while another program holds the file at `path`: says that it is waited for, once that takes
+/// longer than a moment, and gives up when the run is to stop.
+MayWait WaitingFor(Console& console, const std::string& path);
+
 /// Appends records to a file, each as a whole before the next is made.
 class AppendedRecords {
  public:
@@ -35,12 +40,17 @@ class AppendedRecords {
     /// written, to say so before hours of work are spent.
     AppendedRecords(Console& console, std::string path);
 
-    /// Throws FileError when the record could not be written.
-    void Add(std::string_view record);
+    /// Returns the number of the line that the record became if that is asked for, else 0. Throws FileError when the
+    /// record could not be written; the file then has its former length.
+    int Add(std::string_view record, Numbering numbering = Numbering::Skip);
+
+    /// Brings what was added to the disk. Throws FileError when that fails.
+    void Finish();
 
  private:
     Console& console_;
     std::string path_;
+    bool added_ = false;
 };
 
 }  // namespace tidewalk

@@ -35,7 +35,8 @@ struct Outcome {
 /// A line of the collection, solved if that could be done.
 struct SolvedLine {
     PuzzleReport report;
-    std::string record;  ///< with the solution
+    std::string record;     ///< with the solution
+    bool cutShort = false;  ///< without its bridges between touching islands
 };
 
 /// Solves the puzzle on `board`, whatever that held before.
@@ -125,7 +126,10 @@ SolvedLine SolveLine(SolverBoard& board, const NumberedLine& line, const SolveOp
     if (!puzzle) return solved;
     const Outcome outcome = TimedSolve(board, *puzzle, options.maxTrials, mayGoOn);
     AddOutcome(solved.report, outcome, options.links);
-    if (options.out && outcome.failure.empty()) solved.record = PuzzleRecord(outcome.solution);
+    if (options.out && outcome.failure.empty()) {
+        solved.record = PuzzleRecord(outcome.solution);
+        solved.cutShort = !RecordHoldsBridges(outcome.solution);
+    }
     return solved;
 }
 
@@ -156,6 +160,7 @@ void SolveAll(Console& console, const SolveOptions& options, CollectionLines& li
     steps.take = [&](SolvedLine& solved) {
         if (!report.Add(solved.report)) return false;
         if (solved.report.fault.empty()) output.Add(solved.record);
+        if (solved.cutShort) SayOfPuzzle(console, options.file, solved.report.number, kCutShort);
         report.ShowProgress(solved.report.part, std::to_string(report.Successes()) + " solved, " +
                                                     std::to_string(report.Failures()) + " not");
         return true;

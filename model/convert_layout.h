@@ -13,11 +13,11 @@ namespace tidewalk {
 /// "-newformat.txt". "" for a file name without a ".", which is not converted.
 std::string ConvertedPath(const std::string& collectionPath);
 
-/// Reads the older layout from `lines` and writes a record a line to `out`. Throws FileError when reading fails.
+/// Reads the older layout from `from` and writes a record a line to `out`. Throws FileError when reading fails.
 ///
 /// The first line is passed over. A puzzle is a line whose first letter is the kind, a line that is the header, and
 /// rows up to a line that begins with "#". The last line of the file is never used: the files end with such a line.
-void ConvertLayout(LineReader& lines, std::ostream& out);
+void ConvertLayout(LineReader& from, std::ostream& out);
 
 /// Writes the conversion of the collection `from` to the file `to`, which is replaced as a whole. Throws FileError when
 /// reading or writing fails; an older file is then as it was.

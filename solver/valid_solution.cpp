@@ -58,6 +58,64 @@ class LaidBoard {
     PerCell<CellNumber> group_;
 };
 
+/// Tries to make stored bridges whole with bridges between islands that touch each other.
+class TouchingBridges {
+ public:
+    explicit TouchingBridges(const Puzzle& puzzle) : puzzle_(puzzle) {
+        for (CellNumber id = 1; id <= puzzle.CellCount(); ++id)
+            missing_[id] = puzzle.IslandAt(id);
+        for (const Link& link : puzzle.LinkList) {
+            missing_[link.first] -= link.Bridges();
+            missing_[link.second] -= link.Bridges();
+        }
+    }
+
+    /// True when some choice of such bridges gives a valid solution.
+    bool MakeWhole() { return ChooseFrom(1); }
+
+ private:
+    /// Chooses the bridges to the right of and below each island from `id` on, in board order: those to its left and
+    /// above it are chosen then.
+    bool ChooseFrom(CellNumber id) {
+        while (id <= puzzle_.CellCount() && (puzzle_.IslandAt(id) == 0 || missing_[id] == 0))
+            ++id;
+        if (id > puzzle_.CellCount()) return IsValidSolution(puzzle_);
+        const CellNumber right = puzzle_.CellCol(id) < puzzle_.Cols ? id + 1 : 0;
+        const CellNumber below = puzzle_.CellRow(id) < puzzle_.Rows ? id + puzzle_.Cols : 0;
+        for (int toRight = 0; toRight <= 2 && steps_ > 0; ++toRight) {
+            --steps_;
+            const int down = missing_[id] - toRight;
+            if (!CanTake(right, toRight) || !CanTake(below, down)) continue;
+            Lay(id, right, toRight);
+            Lay(id, below, down);
+            if (ChooseFrom(id + 1)) return true;
+            Lay(id, below, -down);
+            Lay(id, right, -toRight);
+        }
+        return false;
+    }
+
+    bool CanTake(CellNumber island, int bridges) const {
+        return bridges == 0 || (bridges > 0 && bridges <= 2 && island != 0 && missing_[island] >= bridges);
+    }
+
+    /// Lays so many bridges, or takes those laid last away again.
+    void Lay(CellNumber from, CellNumber to, int bridges) {
+        if (bridges == 0) return;
+        missing_[from] -= bridges;
+        missing_[to] -= bridges;
+        if (bridges > 0) {
+            puzzle_.LinkList.push_back(MakeLink(from, to, 2 - bridges));
+        } else {
+            puzzle_.LinkList.pop_back();
+        }
+    }
+
+    Puzzle puzzle_;
+    PerCell<int> missing_;
+    int steps_ = 100000;  ///< a board full of islands has more ways than anybody waits for
+};
+
 }  // namespace
 
 bool CheckLinkTotals(const Puzzle& puzzle) {
@@ -80,6 +138,10 @@ bool IsValidSolution(const Puzzle& puzzle) {
         if (link.Bridges() > 0 && !board.Lay(link)) return false;
     }
     return board.IsOneGroup();
+}
+
+bool LacksOnlyTouchingBridges(const Puzzle& puzzle) {
+    return !IsValidSolution(puzzle) && TouchingBridges(puzzle).MakeWhole();
 }
 
 }  // namespace tidewalk

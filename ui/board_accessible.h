@@ -56,7 +56,7 @@ class IslandAnnouncer {
     explicit IslandAnnouncer(Tell tell) : tell_(std::move(tell)) {}
 
     /// Compares the game with what was told last.
-    void Announce(BoardView& board);
+    void Announce(BoardView& view);
 
     /// The board has just received the keyboard: its island is told again.
     void ForgetFocus() { focused_ = 0; }

@@ -15,7 +15,7 @@ constexpr int kPictureSide = 24;  ///< in pixels
 
 }  // namespace
 
-BoxControl::BoxControl(const QString& iconName, QWidget* parent) : QToolButton(parent), iconName_(iconName) {
+BoxControl::BoxControl(QString iconName, QWidget* parent) : QToolButton(parent), iconName_(std::move(iconName)) {
     setIcon(MakeIcon(iconName_, palette()));
     setIconSize({kPictureSide, kPictureSide});
     setAutoRaise(true);

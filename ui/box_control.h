@@ -14,7 +14,7 @@ class BoxControl final : public QToolButton {
     Q_OBJECT
 
  public:
-    explicit BoxControl(const QString& iconName, QWidget* parent = nullptr);
+    explicit BoxControl(QString iconName, QWidget* parent = nullptr);
 
  signals:
     void Clicked(tidewalk::MouseButton button);

@@ -62,7 +62,7 @@ class PdfDocument final : public PrintDocument {
 QPageSize UsualPaper(const QPageSize& wanted) {
     const bool american = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
     const bool letter = wanted.isValid() ? wanted.id() == QPageSize::Letter : american;
-    return QPageSize(letter ? QPageSize::Letter : QPageSize::A4);
+    return letter ? QPageSize::Letter : QPageSize::A4;
 }
 
 void UseWholeSheets(QPagedPaintDevice& device, const QPageSize& paper) {

@@ -150,9 +150,9 @@ TEST_F(Cli, JobsDoNotChangeWhatIsMade) {
     const std::string before = folder_.Read("91");
     ASSERT_EQ(Run({"create", "7X10", "--out", folder_.Path("91")}), 0);
     EXPECT_TRUE(folder_.Read("91").starts_with(before + " 7, 10,")) << "it is appended";
-    for (const char* const size : {"6", "26", "7x", "x", "abc", "9x99999999999"}) {
+    for (const char* const size : {"6", "26", "7x", "x", "abc", "9x99999999999", "", "7x7x7"}) {
         EXPECT_EQ(Run({"create", size, "--out", folder_.Path("no")}), 2) << size;
-        EXPECT_EQ(err_, std::string("tidewalk-cli: a puzzle has 7 to 25 rows and columns, not ") + size + "\n");
+        EXPECT_EQ(err_, std::string("tidewalk-cli: a puzzle has 7 to 25 rows and columns, not \"") + size + "\"\n");
     }
     EXPECT_EQ(Run({"create", "7"}), 2) << "no file to write to";
 }
@@ -164,6 +164,7 @@ TEST_F(Cli, PuzzlesMoveBetweenFilesAsInTheWindow) {
     EXPECT_EQ(folder_.Read("grid.txt"), "2.2\r\n...\r\n2.2\r\n");
     EXPECT_EQ(Run({"export", from, "2", folder_.Path("grid.txt")}), 1) << "there is something in it";
     EXPECT_EQ(Run({"export", from, "2", folder_.Path("grid.txt"), "--force"}), 0);
+    EXPECT_EQ(Run({"export", from, "1", from, "--force"}), 1) << "its own collection";
     EXPECT_EQ(Run({"import", folder_.Path("grid.txt"), to}), 0);
     EXPECT_EQ(Run({"import", "-", to}, "2.2\n...\n2.2\n"), 0);
     EXPECT_EQ(RunJson({"append", from, "1", to})["number"], 3);
@@ -174,6 +175,19 @@ TEST_F(Cli, PuzzlesMoveBetweenFilesAsInTheWindow) {
     EXPECT_EQ(Run({"delete", to, "1"}), 1) << "the only one stays";
     EXPECT_EQ(folder_.Read("to.txt"), " 3, 3, 4;D;2-2,|.|,2-2,\r\n");
     EXPECT_FALSE(std::filesystem::exists(folder_.Path("tidetemp.tmp")));
+}
+
+TEST_F(Cli, ARecordThatIsCutShortIsToldFromAWrongOne) {
+    const std::string file = File("c.txt", {Record({"2-2", "1.1"}), Record({"2-2", "1.2"}), kRing});
+    const auto list = RunJson({"list", file});
+    EXPECT_EQ(list[0]["solution"], "cut short");
+    EXPECT_EQ(list[1]["solution"], "wrong");
+    EXPECT_EQ(list[2]["solution"], "valid");
+    EXPECT_EQ(Run({"solve", file, "1", "--out", folder_.Path("solved.txt")}), 0);
+    EXPECT_NE(err_.find("puzzle 1: the record cannot hold a bridge between touching islands"), std::string::npos);
+    Run({"check", file});
+    EXPECT_NE(err_.find("puzzle 1: the record cannot hold"), std::string::npos);
+    EXPECT_NE(err_.find("puzzle 2: the stored bridges are no solution"), std::string::npos);
 }
 
 TEST_F(Cli, ShuffledAndConvertedCopiesLieBesideTheCollection) {
@@ -211,6 +225,11 @@ TEST_F(Cli, WrongUsageIsTold) {
                                    {"solve", file, "--out", "-", "--json"},
                                    {"show", file, "x"},
                                    {"delete", "-", "1"},
+                                   {"delete", folder_.Path(""), "1"},
+                                   {"delete", "/dev/null", "1"},
+                                   {"create", "9", "--out", file, "--seed", "-1"},
+                                   {"create", "9", "--out", file, "--seed", "18446744073709551616"},
+                                   {"check", file, "--seconds", "nan"},
                                    {"check", file, "--seconds", "-1"}};
     for (const Words& arguments : wrong) {
         EXPECT_EQ(Run(arguments), 2) << ::testing::PrintToString(arguments);
