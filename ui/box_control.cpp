@@ -47,11 +47,10 @@ void BoxControl::mouseReleaseEvent(QMouseEvent* event) {
 void BoxControl::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool space = event->key() == Qt::Key_Space;
-    if (event->isAutoRepeat() || !(enter || space)) {
-        QToolButton::keyPressEvent(event);
-    } else if (event->modifiers().testFlag(Qt::ShiftModifier)) {
+    const bool presses = !event->isAutoRepeat() && (enter || space);
+    if (presses && event->modifiers().testFlag(Qt::ShiftModifier)) {
         emit Clicked(MouseButton::Right);
-    } else if (enter) {
+    } else if (presses && enter) {
         click();
     } else {
         QToolButton::keyPressEvent(event);

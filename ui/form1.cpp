@@ -47,7 +47,7 @@ LineSource SourceOf(const History& history) {
 }
 
 QString ToolTipOf(const Command& command) {
-    return QString(QLatin1String(*command.toolTip != '\0' ? command.toolTip : command.text));
+    return QLatin1String(*command.toolTip != '\0' ? command.toolTip : command.text);
 }
 
 /// The title with a mark before its first letter that no other menu of the bar is opened with.

@@ -144,7 +144,7 @@ QWidget* Form2::FinishedBox() {
     auto* const box = new QGroupBox(tr("Finished islands"));
     auto* const layout = new QVBoxLayout(box);
     check2_->setObjectName("Check2");
-    check2_->setToolTip(ToolTipText("Show islands with all their bridges paler|Off again at the next start"));
+    check2_->setToolTip(tr("Show islands with all their bridges paler"));
     layout->addWidget(check2_);
     layout->addStretch();
     return box;

@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QFile>
 #include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "ui/icons.h"
 
@@ -34,10 +35,10 @@ int WidestPiece(const QString& text, const QFontMetrics& metrics, const QRegular
 
 }  // namespace
 
-MsgForm::MsgForm(const std::string& text, const MessageStyle& style, const QString& caption, QWidget* parent)
+MsgForm::MsgForm(std::string text, MessageStyle style, const QString& caption, QWidget* parent)
     : QDialog(parent, Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
-      message_(text),
-      style_(style) {
+      message_(std::move(text)),
+      style_(std::move(style)) {
     setObjectName("MsgForm");
     setWindowTitle(caption);
     QFont arial("Arial");

@@ -17,7 +17,7 @@ class MsgForm final : public QDialog {
     Q_OBJECT
 
  public:
-    MsgForm(const std::string& text, const MessageStyle& style, const QString& caption, QWidget* parent);
+    MsgForm(std::string text, MessageStyle style, const QString& caption, QWidget* parent);
 
     /// The message as it was given.
     const std::string& Message() const { return message_; }
