@@ -9,9 +9,9 @@
 
 #include "cli/console.h"
 #include "cli/descriptor_buffers.h"
-#include "cli/puzzle_range.h"
 #include "model/line_reader.h"
 #include "model/puzzle.h"
+#include "model/puzzle_range.h"
 
 namespace tidewalk {
 

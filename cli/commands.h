@@ -7,7 +7,7 @@
 #include <string>
 
 #include "cli/console.h"
-#include "cli/puzzle_range.h"
+#include "model/puzzle_range.h"
 
 namespace tidewalk {
 

@@ -48,6 +48,12 @@ bool LineReader::Fill() {
 }
 
 void LineReader::SkipByteOrderMark() {
+    // A pipe may bring it in pieces.
+    while (filled_ < kByteOrderMark.size() && kByteOrderMark.starts_with(std::string_view(buffer_.data(), filled_))) {
+        const auto next = source_.sbumpc();
+        if (std::streambuf::traits_type::eq_int_type(next, std::streambuf::traits_type::eof())) break;
+        buffer_[filled_++] = std::streambuf::traits_type::to_char_type(next);
+    }
     if (std::string_view(buffer_.data(), filled_).starts_with(kByteOrderMark)) {
         at_ = position_ = kByteOrderMark.size();
     }

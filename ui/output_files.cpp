@@ -3,7 +3,6 @@
 
 #include <QFile>
 #include <QGuiApplication>
-#include <QRegularExpression>
 #include <QSaveFile>
 
 #include "board/print_pages.h"
@@ -11,6 +10,7 @@
 #include "model/collection_file.h"
 #include "model/file_error.h"
 #include "model/line_reader.h"
+#include "model/puzzle_range.h"
 #include "options/options.h"
 #include "ui/paper.h"
 #include "ui/picture.h"
@@ -77,13 +77,11 @@ int CountPuzzles(const QString& collection, int wanted) {
 }  // namespace
 
 bool ReadPuzzleRange(const QString& argument, OutputOrder& order) {
-    static const QRegularExpression form("^([0-9]{1,9})(?:-([0-9]{1,9}))?$");
-    const QRegularExpressionMatch match = form.match(argument);
-    if (!match.hasMatch()) return false;
-    order.from = match.captured(1).toInt();
-    order.to = match.captured(2).isEmpty() ? order.from : match.captured(2).toInt();
-    const bool single = order.kind == OutputOrder::Kind::Pdf || match.captured(2).isEmpty();
-    return single && order.from >= 1 && order.to >= order.from;
+    const auto range = ParsePuzzleRange(argument.toStdString());
+    if (!range || (order.kind == OutputOrder::Kind::Picture && range->first != range->last)) return false;
+    order.from = range->first;
+    order.to = range->last;
+    return true;
 }
 
 QString WriteOutput(const OutputOrder& order) {

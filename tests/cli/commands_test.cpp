@@ -7,7 +7,7 @@
 #include <sstream>
 
 #include "cli/arguments.h"
-#include "cli/puzzle_range.h"
+#include "model/puzzle_range.h"
 #include "support/board_text.h"
 #include "support/temp_folder.h"
 

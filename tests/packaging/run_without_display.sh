@@ -19,7 +19,7 @@ shows() {
 }
 
 puzzles=$checkout/data/puzzles.txt
-shown=$(play 2>messages) || fail "without arguments: $(cat messages)"
+shown=$(bin/play 2>messages) || fail "without arguments: $(cat messages)"
 shows "$("$build/cli/tidewalk-cli" show "$puzzles" 1)"
 shows "$("$build/cli/tidewalk-cli" show "$puzzles" 1 --solution)"
 shows "$checkout/build/release/window.png"
@@ -27,7 +27,7 @@ shows "$checkout/build/release/window.png"
 
 # The puzzle that is named, by a path as the caller sees it.
 cp "$puzzles" own.txt
-shown=$(play --seed 3 own.txt 2 2>messages) || fail "with a puzzle: $(cat messages)"
+shown=$("a checkout/run" --seed 3 own.txt 2 2>messages) || fail "with a puzzle: $(cat messages)"
 shows "$("$build/cli/tidewalk-cli" show "$puzzles" 2)"
 play own.txt 999 2>messages && fail "a puzzle that is not there"
 play --nosuch 2>messages && fail "a wrong option"

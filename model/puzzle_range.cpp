@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/puzzle_range.h"
+#include "model/puzzle_range.h"
 
 #include <charconv>
 
