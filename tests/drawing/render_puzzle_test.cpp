@@ -86,7 +86,7 @@ TEST(RenderPuzzle, PictureIsDrawnFromItsTitleToItsFooter) {
     EXPECT_EQ(picture.drawWidth, 9);
     EXPECT_EQ(drawn.left, 400);
     EXPECT_EQ(drawn.top, 200);
-    EXPECT_GT(drawn.right, 3040);
+    EXPECT_NEAR(drawn.right, 4849.6, 0.1) << "the island in column 5";
     EXPECT_NEAR(drawn.bottom, 4089.6, 0.1);
     RecordingSurface numbers;
     RenderPuzzle(puzzle, numbers, PictureRequest(RenderMode::Puzzle, kTitle, 9));
@@ -114,6 +114,8 @@ TEST(RenderPuzzle, PageHoldsEverythingAndTheSolutionIsAsLargeAsItLets) {
             EXPECT_TRUE(drawn.left >= paper.left && drawn.top >= paper.top) << size;
             EXPECT_TRUE(drawn.right <= paper.right && drawn.bottom <= paper.bottom) << size;
             EXPECT_EQ(page.Count("circle"), cell == 0 ? 2 : 4) << size << ": the puzzle and its solution";
+            const std::vector<double> last = NumbersOf(page.Calls("circle").back());
+            EXPECT_LT(last[1] + last[2], NumbersOf(page.Calls("print").back())[1]) << size << ": the footer";
 
             const PrintedBoard whole = LayoutPrintedPuzzle(puzzle, request);
             const PrintedBoard board = LayoutPrintedSolution(puzzle, request, 200);

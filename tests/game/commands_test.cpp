@@ -22,25 +22,17 @@
 namespace tidewalk::test {
 namespace {
 
-/// What a command does while a job runs.
-enum class During { Refuses, DoesNothing, Works };
-
-struct Row {
-    const char* name;
-    During during;
-    void (*run)(TestGame&);
-};
+using Command = void (*)(TestGame&);
 
 template <auto kHandler, auto... kArguments>
 void Do(TestGame& game) {
     game.Run(kHandler, kArguments...);
 }
 
-constexpr CellNumber kOther = 3;  // in line with the selected island
-
+/// A button released over an island in line with the selected one.
 template <MouseButton kButton, bool kShift>
 void Release(TestGame& game) {
-    game.Run(Picture1_MouseUp, kButton, kShift, game.board.At(kOther));
+    game.Run(Picture1_MouseUp, kButton, kShift, game.board.At(3));
 }
 
 void Drag(TestGame& game) {
@@ -48,54 +40,67 @@ void Drag(TestGame& game) {
     game.Run(Picture1_MouseMove, true, Point{-900, -900}, Point{90, 90});
 }
 
-const Row kRows[] = {
-    {"previous", During::Refuses, Do<arrows_Click, 0, MouseButton::Left>},
-    {"random", During::Refuses, Do<arrows_Click, 1, MouseButton::Left>},
-    {"next", During::Refuses, Do<arrows_Click, 2, MouseButton::Left>},
-    {"load", During::Refuses, Do<mnuloadpuz_Click>},
-    {"load button", During::Refuses, Do<cmdload_Click>},
-    {"append", During::Refuses, Do<mnuappend_Click>},
-    {"export", During::Refuses, Do<mnuexport_Click>},
-    {"import", During::Refuses, Do<mnuimport_Click>},
-    {"paste", During::Refuses, Do<mnupastepuzzle_Click>},
-    {"edited numbers", During::Refuses, [](TestGame& game) { game.Run(UseNumberGrid, NumberGrid()); }},
-    {"convert", During::Refuses, Do<Command3_Click>},
-    {"random batch", During::Refuses, Do<Command4_Click>},
-    {"shuffle", During::Refuses, Do<Command5_Click>},
-    {"batch", During::Refuses, Do<mnucreatemany_Click>},
-    {"new", During::Refuses, Do<cmdnew1_Click>},
-    {"new by the menu", During::Refuses, Do<mnunewpuzx_Click>},
-    {"solve", During::Refuses, Do<mnuautosol_Click>},
-    {"reset", During::Refuses, Do<mnupuzreset_Click>},
-    {"print", During::Refuses, Do<mnuprintcurrent_Click>},
-    {"preview", During::Refuses, Do<mnuprintpreview_Click>},
-    {"print from a file", During::Refuses, Do<control27_Click>},
+void Choose(TestGame& game) {
+    game.Run(OpenChosen, game.PathOfCollection());
+}
+void UseNumbers(TestGame& game) {
+    game.Run(UseNumberGrid, NumberGrid());
+}
+void TypeTwo(TestGame& game) {
+    game.TypeNumber("2");
+}
+void Apply(TestGame& game) {
+    game.Run(command1_Click, OpenOptions(game));
+}
 
-    {"zoom out", During::DoesNothing, Do<cmdzoom_Click, 0>},
-    {"undo", During::DoesNothing, Do<cmdundo_Click>},
-    {"check", During::DoesNothing, Do<cmdverify_Click>},
-    {"view", During::DoesNothing, Do<cmdviewcol_Press>},
-    {"end of view", During::DoesNothing, Do<cmdviewcol_Release>},
-    {"click", During::DoesNothing, Do<Picture1_Click>},
-    {"shift-click", During::DoesNothing, Release<MouseButton::Left, true>},
-    {"right click", During::DoesNothing, Release<MouseButton::Right, false>},
-    {"drag", During::DoesNothing, Drag},
-    {"focus", During::DoesNothing, Do<Picture1_GotFocus>},
-    {"key", During::DoesNothing, Do<Picture1_KeyDown, BoardKey::Last>},
-    {"key to lay", During::DoesNothing, Do<Picture1_KeyDown, BoardKey::Lay>},
-    {"letting go", During::DoesNothing, Do<LetGo>},
+constexpr MouseButton kLeft = MouseButton::Left;
+constexpr MouseButton kRight = MouseButton::Right;
 
-    {"number", During::Works, [](TestGame& game) { game.TypeNumber("2"); }},
-    {"delete", During::Works, Do<mnudelete_Click>},
-    {"save options", During::Works, Do<mnuoptsave_Click>},
-    {"apply options", During::Works, [](TestGame& game) { game.Run(command1_Click, OpenOptions(game)); }},
-    {"copy puzzle", During::Works, Do<mnucopyclippuz_Click>},
-    {"copy solution", During::Works, Do<mnucopyclipsol_Click>},
-    {"cancel", During::Works, Do<cmdcancel_Click>},
-    {"escape", During::Works, Do<can2_Click>},
-    {"exit", During::Works, Do<cmdexit_Click>},
-    {"frame", During::Works, Do<Form_QueryUnload>},
-};
+const Command kRefuse[] = {Do<arrows_Click, 0, kLeft>,
+                           Do<arrows_Click, 1, kLeft>,
+                           Do<arrows_Click, 2, kLeft>,
+                           Do<mnuloadpuz_Click>,
+                           Do<cmdload_Click>,
+                           Choose,
+                           Do<mnuappend_Click>,
+                           Do<mnuexport_Click>,
+                           Do<mnuimport_Click>,
+                           Do<mnupastepuzzle_Click>,
+                           UseNumbers,
+                           Do<Command3_Click>,
+                           Do<Command4_Click>,
+                           Do<Command5_Click>,
+                           Do<mnucreatemany_Click>,
+                           Do<cmdnew1_Click>,
+                           Do<mnunewpuzx_Click>,
+                           Do<mnuautosol_Click>,
+                           Do<mnupuzreset_Click>,
+                           Do<mnuprintcurrent_Click>,
+                           Do<mnuprintpreview_Click>,
+                           Do<control27_Click>};
+const Command kDoNothing[] = {Do<cmdzoom_Click, 0>,
+                              Do<cmdundo_Click>,
+                              Do<cmdverify_Click>,
+                              Do<cmdviewcol_Press>,
+                              Do<cmdviewcol_Release>,
+                              Do<Picture1_Click>,
+                              Release<kLeft, true>,
+                              Release<kRight, false>,
+                              Drag,
+                              Do<Picture1_GotFocus>,
+                              Do<Picture1_KeyDown, BoardKey::Last>,
+                              Do<Picture1_KeyDown, BoardKey::Lay>,
+                              Do<LetGo>};
+const Command kWork[] = {TypeTwo,
+                         Apply,
+                         Do<mnudelete_Click>,
+                         Do<mnuoptsave_Click>,
+                         Do<mnucopyclippuz_Click>,
+                         Do<mnucopyclipsol_Click>,
+                         Do<cmdcancel_Click>,
+                         Do<can2_Click>,
+                         Do<cmdexit_Click>,
+                         Do<Form_QueryUnload>};
 
 /// A game in which every command finds something to do: an island is selected, another one has the focus, a move can be
 /// taken back, and the solution shows.
@@ -124,21 +129,28 @@ struct FullBoard : TestGame {
 };
 
 TEST(Commands, RefuseOrLieStillOrWorkWhileAJobRuns) {
-    for (const Row& row : kRows) {
-        SCOPED_TRACE(row.name);
+    int number = 0;
+    const auto run = [&](Command command, bool refuses, bool works) {
+        SCOPED_TRACE(++number);
         FullBoard game;
         const Job job(game, "AutoSolve");
-        if (row.during == During::Refuses) game.world.Expect("Cancel Autosolve first", kInformation);
-        if (row.during == During::Works) game.world.AnswerAll(kYes);
-        const std::string before = (row.during == During::Refuses ? "box" : "") + game.State();
-        row.run(game);
-        EXPECT_EQ(game.State() == before, row.during != During::Works);
+        if (refuses) game.world.Expect("Cancel Autosolve first", kInformation);
+        if (works) game.world.AnswerAll(kYes);
+        const std::string before = (refuses ? "box" : "") + game.State();
+        command(game);
+        EXPECT_EQ(game.State() != before, works);
         EXPECT_TRUE(game.job.BusyFlag());
-        if (row.during != During::DoesNothing) continue;
+        if (refuses || works) return;
         FullBoard idle;
-        row.run(idle);
+        command(idle);
         EXPECT_NE(idle.State(), before) << "without a job there is something to do";
-    }
+    };
+    for (const Command command : kRefuse)
+        run(command, true, false);
+    for (const Command command : kDoNothing)
+        run(command, false, false);
+    for (const Command command : kWork)
+        run(command, false, true);
 }
 
 }  // namespace

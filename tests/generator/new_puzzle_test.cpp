@@ -146,6 +146,20 @@ TEST(Batch, AppendsValidPuzzlesAndACancelCutsOneShort) {
     EXPECT_EQ(lines[2].substr(0, 12), " 8, 11, 0;D;") << "a layout without bridges";
 }
 
+TEST(Batch, StopsAsAWhole) {
+    NewGame game;
+    game.Run(mnustopbatch_Click);
+    EXPECT_FALSE(BatchRuns(game) || game.job.StopFlag());
+    game.When("Creating puzzle 2 of 3", [&] {
+        game.world.Expect("Created 1 of 3 puzzles in file:\r\nout.txt", kInformation);
+        EXPECT_TRUE(BatchRuns(game));
+        game.Run(mnustopbatch_Click);
+    });
+    game.RunBatch("3", "8", "8");
+    EXPECT_EQ(LinesOf(game.folder.Read("out.txt")).size(), 1U);
+    EXPECT_FALSE(BatchRuns(game));
+}
+
 TEST(Batch, WithoutConsentChangesNothing) {
     NewGame game;
     game.RunBatch("3", "8", "11", false, kNo);

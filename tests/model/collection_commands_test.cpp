@@ -3,7 +3,9 @@
 
 #include <filesystem>
 
+#include "game/file_work.h"
 #include "generator/shuffle.h"
+#include "model/load_puzzle.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
@@ -94,6 +96,51 @@ TEST(DeletePuzzle, NextToABrokenOneForgetsTheMovesAllTheSame) {
     game.Run(mnudelete_Click);
     EXPECT_TRUE(game.board.history.UndoList().empty());
     EXPECT_EQ(game.collection.PuzzleNumber * 10 + game.collection.PuzzleCount, 12);
+}
+
+TEST(DeletePuzzle, DeletesNothingThatIsNotThePuzzleOnTheBoard) {
+    EditGame game(3);
+    for (const Lines& changed : {Lines{Numbered(1), Numbered(3), Numbered(5)}, Lines{Numbered(1), Numbered(5)}}) {
+        game.folder.Write("collection.tdw", Joined(changed));
+        game.ExpectDelete();
+        game.world.Expect(
+            "Another program has changed the file:\r\n" + game.PathOfCollection() + "\r\nNothing was deleted.",
+            kInformation);
+        game.Run(mnudelete_Click);
+        EXPECT_EQ(game.folder.Read("collection.tdw"), Joined(changed));
+        EXPECT_EQ(game.Numbers(), Lines{"5.1"}) << "it is loaded afresh";
+        game.collection.PuzzleNumber = 3;
+    }
+    game.Run(TakeImported, game.board.puzzle, "grid.txt");
+    game.Run(mnudelete_Click);
+    EXPECT_FALSE(CanDelete(game)) << "an imported puzzle is in no file";
+}
+
+TEST(AppendPuzzle, TellsOfATornRecordAtTheEnd) {
+    EditGame game(2);
+    const std::string path = game.folder.Write("torn.txt", Joined({Numbered(1)}) + " 7, 7, 3;D;1..");
+    game.world.ExpectPick(kAppendPick, path);
+    game.world.Expect("Puzzle#2 appended to file " + path, kInformation);
+    game.Run(mnuappend_Click);
+    EXPECT_EQ(game.folder.Read("torn.txt"), Joined({Numbered(1), Numbered(2)}));
+    EXPECT_EQ(game.world.Status(), "A record that was cut off while it was written was taken off the end of torn.txt");
+}
+
+TEST(WaitingForAFile, IsToldAfterAMomentAndGivenUpAfterAWhile) {
+    TestGame game;
+    const MayWait mayWait = WaitingFor(game, "/a/b.tdw");
+    for (const auto& [at, waits, seen] :
+         {std::tuple{299, true, ""},
+          {300, true, "status: Waiting for another program that changes b.tdw ..., repaint"},
+          {14999, true, ""},
+          {15000, false, ""}}) {
+        game.world.milliseconds = at;
+        EXPECT_EQ(mayWait(), waits);
+        EXPECT_EQ(game.world.Seen(), seen);
+    }
+    EXPECT_EQ(WorkFile(game, "temp.txt"), "temp.txt");
+    game.windowNumber = 2;
+    EXPECT_EQ(WorkFile(game, "temp.txt"), "temp-2.txt");
 }
 
 TEST(ExportPuzzle, WritesNumbersAlone) {

@@ -83,6 +83,7 @@ TEST(Collection, CountsItsLinesAndGivesTheirPuzzles) {
     const std::string path = folder.Write("a", kByteOrderMark + Record({"1-1"}) + "\r\nno record\n" + Record({"2=2"}));
     EXPECT_EQ(CountLines(path), 3);
     EXPECT_EQ(CountLines(folder.Write("b", "1\n")), 1);
+    EXPECT_EQ(CountLines(folder.Write("b", kByteOrderMark)), 0);
     EXPECT_EQ(CountLines(folder.Path("missing")) + CountLines(folder.Path("")), 0);
     EXPECT_EQ(ReadPuzzle(path, 1), PuzzleFrom({"1-1"}));
     EXPECT_EQ(ReadPuzzle(path, 3), PuzzleFrom({"2=2"}));

@@ -4,7 +4,12 @@
 
 #include <filesystem>
 
+#include "board/board_commands.h"
+#include "board/copy_and_print.h"
+#include "generator/batch.h"
+#include "generator/new_puzzle.h"
 #include "model/number_grid.h"
+#include "solver/auto_solve.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
@@ -36,6 +41,33 @@ TEST(ReadGridFile, AGridBecomesThePuzzleAndTheCollectionStaysWhatItWas) {
     EXPECT_EQ(game.collection.PuzzleNumber, 2);
     EXPECT_EQ(game.collection.CollectionPath, game.PathOfCollection());
     EXPECT_FALSE(game.collection.leftOpen);
+}
+
+TEST(ImportedPuzzle, StaysWhateverIsTriedWithIt) {
+    TestGame game({kSmallPuzzle, kSmallPuzzle});
+    game.Load(2);
+    game.Run(ReadGridFile, game.folder.Write("grid.txt", "3.4\n...\n1.1\n"), 1);
+    const Puzzle imported = game.board.puzzle;
+    game.world.AnswerAll(kYes);
+    game.world.texts[WindowText::BoardSize] = "7";
+    std::filesystem::create_directory("temp.txt");
+    for (const auto command :
+         {mnuautosol_Click, mnupuzreset_Click, cmdnew1_Click, mnucreatemany_Click, control27_Click}) {
+        game.world.batch = [](BatchRequest& request) { return request = {"1", "7", "7", "out.txt"}, true; };
+        game.world.print = [](PrintRequest& request) { return request.first = request.last = "1", true; };
+        game.Run(command);
+        EXPECT_EQ(game.board.puzzle, imported);
+        EXPECT_EQ(game.world.Text(WindowText::BoardSize), command == control27_Click ? "7" : "3x3");
+        game.world.texts[WindowText::BoardSize] = "7";
+    }
+    game.world.batch = nullptr;
+    game.world.print = nullptr;
+    game.Run(mnucopyclippuz_Click);
+    RecordingSurface picture;
+    game.world.copy(picture);
+    EXPECT_EQ(picture.Calls("print").front(), "print 400 200 Imported puzzle 0");
+    game.TypeNumber("2");
+    EXPECT_TRUE(game.collection.importedFrom.empty());
 }
 
 TEST(Import, NamesTheFileWhateverBecameOfIt) {

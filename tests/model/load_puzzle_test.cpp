@@ -171,5 +171,31 @@ TEST(OpenFile, AFailedOpenDoesNotBringThePuzzleBack) {
     EXPECT_EQ(game.Numbers(), Lines{"1.1"});
 }
 
+TEST(OpenFile, OfTheOlderLayoutOffersToConvertIt) {
+    LoadGame game({kSmallPuzzle});
+    game.Load(1);
+    const std::string bytes = "#0\nD\n 1, 3, 0\n1.1\n#\nlast";
+    const std::string old = game.folder.Write("old.dat", bytes);
+    const std::string to = game.folder.Path("old-newformat.txt");
+    const std::string question =
+        "This collection is of the older layout:\r\n" + old + "\r\n\r\nConvert it to this file and open that?\r\n" + to;
+    game.world.Expect(question, "vbYesNo+vbquestion", kNo);
+    game.Run(OpenChosen, old);
+    game.folder.Write("old-newformat.txt", "mine");
+    for (const int answer : {kNo, kYes}) {
+        game.world.Expect(question, "vbYesNo+vbquestion", kYes);
+        game.world.Expect("OverWrite file: " + to + " ?", "system yesno", answer);
+        game.Run(OpenChosen, old);
+        EXPECT_EQ(game.collection.CollectionPath, answer == kYes ? to : game.PathOfCollection());
+    }
+    EXPECT_EQ(game.Numbers(), Lines{"1.1"});
+    game.world.Expect(
+        "This collection is of the older layout:\r\nold\r\n\r\nGive it a name with an ending, so that a "
+        "converted copy can be named after it.",
+        kInformation);
+    game.folder.Write("old", bytes);
+    EXPECT_FALSE(game.Run(OpenCollection, "old", 1));
+}
+
 }  // namespace
 }  // namespace tidewalk::test

@@ -71,12 +71,14 @@ TEST(Words, PrintAndParseTheirTextForms) {
     for (const char* bad : {"012", "12  ", "012 045 001 002 003 ", "abc ", "626 ", "000 ", "012x"})
         EXPECT_FALSE(ParseNeighbourList(bad)) << bad;
 
-    const auto joined = ParseJoinedList(" 12, 7,");
-    EXPECT_EQ(Text(joined.value()), " 12, 7,");
-    EXPECT_NE(ParseJoinedList(" 7, 12,"), joined);
+    const auto joined = ParseJoinedList(" 12, 1,");
+    EXPECT_EQ(Text(joined.value()), " 12, 1,");
+    EXPECT_NE(ParseJoinedList(" 1, 12,"), joined);
     for (const char* bad : {"12,", " 12", " 626,", " 0,"})
         EXPECT_FALSE(ParseJoinedList(bad)) << bad;
 
+    EXPECT_EQ(std::string(Text(Cross::H)).append(Text(Cross::V)).append(Text(Cross::X)).append(Text(Cross::Free)),
+              "hvX");
     EXPECT_EQ(Text(Link{12, 15, 1}), "0120151");
     EXPECT_EQ(ParseLink("0120151"), (Link{12, 15, 1}));
     EXPECT_TRUE(ParseLink("6250002") && ParseLink("0006250"));

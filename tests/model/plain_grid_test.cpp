@@ -51,12 +51,14 @@ TEST(PlainGrid, SeveralAreMarkedWithTheirSizes) {
     EXPECT_EQ(Read(grids, 2), (Rows{"4", "."}));
     EXPECT_EQ(Read(grids, 3).size(), 25U);
     EXPECT_EQ(Read(grids, 4), Rows{"not found"});
+    EXPECT_EQ(Read("#01019\n2\n"), Rows{"2"}) << "two digits a side";
+    EXPECT_EQ(Read("#011\n2\n"), Rows{"2"}) << "or one at the end";
     EXPECT_EQ(Read("#0101\n1\n1\n", 2), Rows{"failed"}) << "no mark behind the first grid";
 }
 
 TEST(PlainGrid, IsRefusedWhenItFitsNoBoardOrIsCutShort) {
     for (const std::string& bytes :
-         {Lines(26, "1.1"), std::string(26, '1'), Lines(3, std::string(26, '1')), std::string("#2601\r\n1\r\n"),
+         {Lines(26, "1.1"), std::string(26, '1'), Lines(3, std::string(26, '1')), "#2601\r\n" + Lines(26, "1"),
           std::string("#0126\r\n1\r\n"), std::string("#0100\n1\n"), std::string("#00"), std::string("#xxyy\n"),
           std::string("#0302\n11\n22\n")})
         EXPECT_EQ(Read(bytes), Rows{"failed"}) << bytes;

@@ -86,6 +86,7 @@ TEST_F(OptionsWindow, ApplyChangesTheBoardAtOnceAndResetGoesBackToTheDefaults) {
     EXPECT_EQ(Checked(), "110");
     EXPECT_EQ(options.PrintLineWidth, 9);
     EXPECT_EQ(game.world.Seen(), "colours");
+    EXPECT_EQ(game.world.choices["PalerFinished"], "1");
     game.Run(reset_Click, form);
     EXPECT_EQ(options.ColourSchemeName, "xp.col");
     EXPECT_EQ(form.Combo1, "xp");

@@ -2,6 +2,7 @@
 // The start and the end of a run.
 #include <filesystem>
 
+#include "game/job.h"
 #include "program/exit.h"
 #include "program/first_collection.h"
 #include "program/form_load.h"
@@ -68,6 +69,18 @@ TEST(Start, WhatTheCommandLineAsksForComesFirst) {
         game.Start(other, number == 0 ? std::nullopt : std::optional(number));
         EXPECT_EQ(game.Place(), number == 0 ? other + " 1" : number == 2 ? other + " 2" : "puzzles.txt 3");
     }
+}
+
+TEST(Start, InANewFolderWritesTheDefaultsAndAShorterCollectionShowsItsLastPuzzle) {
+    StartGame game;
+    game.folder.Write("puzzles.txt", Joined(Lines(2, kSmallPuzzle)));
+    game.world.choices["PalerFinished"] = "1";
+    game.Start();
+    EXPECT_EQ(game.Place(), "puzzles.txt 2");
+    EXPECT_EQ(game.options.ShowFinished, 1);
+    game.Run(Form_Load, StartRequest{game.AppFolder, "", std::nullopt, true, 2});
+    EXPECT_EQ(game.folder.Read("tide.cfg").substr(0, 12), "xp.col\r\n 1  ");
+    EXPECT_EQ(game.windowNumber, 2);
 }
 
 TEST(Start, BeforeTheFirstSchemeTheWindowsWearTheDesktopsColours) {
@@ -138,6 +151,15 @@ TEST(Exit, TheButtonAsksAndSavesAndTheFrameDoesNeither) {
     EXPECT_TRUE(game.job.Ending() && game.job.MustStop());
     EXPECT_EQ(game.world.Seen(), "box, box, end");
     EXPECT_EQ(game.folder.Read("tide.cfg").substr(0, 12), "dusk.col\r\n 5");
+
+    StartGame working;
+    working.Start();
+    working.world.texts[WindowText::Status] = "Auto solving ...";
+    const Job job(working, "AutoSolve");
+    working.world.Expect("Exit?", "vbYesNo+vbexit", kNo);
+    working.world.Seen();
+    working.Run(cmdexit_Click);
+    EXPECT_EQ(working.world.Seen(), "status: AutoSolve would be cut short, box, status: Auto solving ...");
 
     StartGame other;
     other.Start();
