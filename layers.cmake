@@ -33,11 +33,16 @@ tidewalk_layer(model FILES
     model/plain_grid model/puzzle model/puzzle_range model/puzzle_record model/random_source model/replace_file model/system_file)
 
 tidewalk_layer(solver ON model FILES
-    solver/connect_islands solver/contradictions solver/count_solutions solver/difficulty solver/laid_bridges
+    solver/archipelago solver/connect_islands solver/contradictions solver/count_solutions solver/difficulty solver/laid_bridges
     solver/link_table solver/neighbours solver/rules solver/solve_puzzle solver/solver_board solver/status_list
     solver/trial_search solver/valid_solution)
 
-tidewalk_layer(generator ON solver FILES
+tidewalk_layer(techniques ON solver FILES
+    techniques/counting techniques/cutting_off techniques/deducer techniques/deduction techniques/explain
+    techniques/grade techniques/groups techniques/hint techniques/named_rule techniques/position
+    techniques/sentences techniques/supposing)
+
+tidewalk_layer(generator ON techniques FILES
     generator/create_puzzle generator/grid_size generator/grow generator/shuffle_lines)
 
 # The picture of a puzzle on any surface, and the board with what the player has done on it: on values, too.

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+// Whole ways to solutions, and the hints on them.
+#include "techniques/explain.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "generator/create_puzzle.h"
+#include "solver/difficulty.h"
+#include "support/board_text.h"
+#include "support/random_boards.h"
+#include "techniques/grade.h"
+#include "techniques/hint.h"
+
+namespace tidewalk::test {
+namespace {
+
+constexpr int kAll = 60;
+
+/// A crowded board of 4 to 8 cells a side with at least one solution and not too many to look at.
+Puzzle CrowdedPuzzle(std::mt19937& random, std::vector<SpanBridges>& solutions) {
+    const auto side = [&] { return 4 + static_cast<int>(random() % 5); };
+    for (;;) {
+        const Puzzle puzzle = MakeRandomPuzzle(random, {side(), side()}, 3, false);
+        solutions = FindSolutions(Archipelago(puzzle), kAll, WithoutEnd).value();
+        if (!solutions.empty() && solutions.size() < kAll) return puzzle;
+    }
+}
+
+/// Whether a solution has what a deduction demands.
+bool Holds(const SpanBridges& solution, const Deduction& deduction) {
+    const auto on = [&](const SpanBound& bound) { return solution[static_cast<std::size_t>(bound.span)]; };
+    for (const SpanBound& must : deduction.must) {
+        if (on(must) < must.bridges) return false;
+    }
+    for (const SpanBound& cannot : deduction.cannot) {
+        if (on(cannot) > cannot.bridges) return false;
+    }
+    return true;
+}
+
+TEST(WalkPath, SaysNothingThatASolutionContradictsAndEndsAtTheOnlyOne) {
+    std::mt19937 random(11);
+    int single = 0;
+    std::array<int, kTechniqueCount> used{};
+    for (int i = 0; i < 1500; ++i) {
+        std::vector<SpanBridges> solutions;
+        const Archipelago board(CrowdedPuzzle(random, solutions));
+        const SpanBridges* only = solutions.size() == 1 ? &solutions.front() : nullptr;
+        const bool solved = WalkPath(board, only, WithoutEnd, [&](const Position& before, const Deduction& deduction) {
+            ++used[static_cast<std::size_t>(deduction.technique)];
+            for (const SpanBridges& solution : solutions)
+                ASSERT_TRUE(Holds(solution, deduction)) << i << TechniqueId(deduction.technique);
+            Position after = before;
+            Apply(after, deduction);
+            ASSERT_GT(after.Changes(), before.Changes()) << "a step says something new";
+            ASSERT_TRUE(deduction.technique != Technique::NoMore || deduction.must.empty());
+        });
+        EXPECT_EQ(solved, only != nullptr) << i;
+        single += only != nullptr ? 1 : 0;
+    }
+    EXPECT_GT(single, 500);
+    for (int technique = 0; technique < kTechniqueCount - 1; ++technique)
+        EXPECT_GT(used[static_cast<std::size_t>(technique)], 0) << technique;
+    EXPECT_EQ(used.back(), 0) << "trials";
+}
+
+TEST(ScoreOf, TheHardestTechniqueSetsTheName) {
+    const std::pair<Efforts, const char*> cases[] = {
+        {{0, 0, 0, 0, 0}, "VEasy"}, {{1, 0, 0, 0, 0}, "Easy"},  {{99, 9, 0, 0, 0}, "Easy"}, {{0, 0, 1, 0, 0}, "Hard"},
+        {{9, 0, 5, 0, 0}, "Hard"},  {{0, 0, 6, 0, 0}, "VHard"}, {{0, 0, 0, 1, 0}, "VHard"}, {{0, 0, 0, 0, 1}, "VHard"}};
+    int last = 0;
+    for (const auto& [efforts, name] : cases) {
+        EXPECT_EQ(DifficultyName(ScoreOf(efforts)), name);
+        EXPECT_GE(ScoreOf(efforts) + (efforts.far > 0 ? 1 : 0), last) << "harder is more";
+        last = ScoreOf(efforts);
+    }
+}
+
+TEST(AssessPuzzle, SeveralOneNoneOrNotKnown) {
+    const Assessment several = AssessPuzzle(PuzzleFrom({"3.3", "...", "3.3"}), WithoutEnd);
+    EXPECT_EQ(several.solutions, 2);
+    EXPECT_FALSE(several.score);
+    EXPECT_EQ(AssessPuzzle(PuzzleFrom({"3.3"}), WithoutEnd).solutions, 0);
+    EXPECT_EQ(AssessPuzzle(PuzzleFrom({"2.2"}), WithoutEnd).score, 0);
+    EXPECT_FALSE(AssessPuzzle(PuzzleFrom({"3.3", "...", "3.3"}), [] { return false; }).solutions);
+    int asked = 0;
+    const Assessment ungraded = AssessPuzzle(PuzzleFrom({"2.2"}), [&] { return ++asked > 1; });
+    EXPECT_EQ(ungraded.solutions, 1);
+    EXPECT_FALSE(ungraded.score);
+}
+
+/// Bridges and marks that a player may have laid, right or wrong.
+std::vector<PlayedPair> Played(std::mt19937& random, const Archipelago& board, const SpanBridges& solution,
+                               bool right) {
+    std::vector<PlayedPair> played;
+    for (int span = 0; span < board.SpanCount(); ++span) {
+        const int most = right ? solution[static_cast<std::size_t>(span)] : kMostBridges;
+        const auto& ends = board.SpanAt(span).ends;
+        const int bridges = random() % 3 == 0 ? static_cast<int>(random() % static_cast<unsigned>(most + 1)) : 0;
+        const bool noMore = random() % 9 == 0 && (!right || bridges == most);
+        if (bridges > 0 || noMore)
+            played.push_back({board.IsleAt(ends[1]).id, board.IsleAt(ends[0]).id, bridges, noMore});
+    }
+    return played;
+}
+
+TEST(FindHint, OfEveryPositionIsRight) {
+    std::mt19937 random(5);
+    for (int i = 0; i < 600; ++i) {
+        std::vector<SpanBridges> solutions;
+        const Archipelago board(CrowdedPuzzle(random, solutions));
+        const SpanBridges& solution = solutions.front();
+        const bool right = i % 2 == 0;
+        const auto played = Played(random, board, solution, right);
+        const HintStep wanted = i % 3 == 0 ? HintStep::Any : HintStep::WithBridges;
+        const Hint hint = FindHint(board, solutions, played, wanted, WithoutEnd);
+        if (solutions.size() > 1) {
+            EXPECT_EQ(hint.kind, HintKind::Several);
+            continue;
+        }
+        bool fits = true;
+        int laid = 0;
+        for (const PlayedPair& pair : played) {
+            const int bridges = solution[static_cast<std::size_t>(SpanBetween(board, pair.a, pair.b))];
+            fits = fits && pair.bridges <= bridges && (!pair.noMore || pair.bridges == bridges);
+            laid += pair.bridges;
+        }
+        EXPECT_EQ(hint.kind == HintKind::Mistake, !fits);
+        EXPECT_EQ(hint.mistakes.empty(), fits);
+        EXPECT_TRUE(fits || !right);
+        if (hint.kind != HintKind::Step) continue;
+        for (const Step& step : hint.steps)
+            EXPECT_TRUE(Holds(solution, step.deduction)) << step.text;
+        EXPECT_TRUE(wanted == HintStep::Any || !hint.steps.back().deduction.must.empty());
+    }
+}
+
+TEST(FindHint, NamesWhatIsWrong) {
+    const Archipelago board(PuzzleFrom({"1.1", "...", "1.1"}));
+    EXPECT_EQ(FindHint(board, FindSolutions(board, 2, WithoutEnd), {}, HintStep::Any, WithoutEnd).kind,
+              HintKind::NoSolution);
+    const Archipelago line(PuzzleFrom({"1.2.1"}));
+    const auto only = FindSolutions(line, 2, WithoutEnd);
+    const auto kindFor = [&](const std::vector<PlayedPair>& played) {
+        return FindHint(line, only, played, HintStep::Any, WithoutEnd).kind;
+    };
+    EXPECT_EQ(kindFor({{1, 3, 2, false}}), HintKind::Mistake);
+    EXPECT_EQ(kindFor({{3, 1, 0, true}}), HintKind::Mistake);
+    EXPECT_EQ(kindFor({{1, 5, 1, false}}), HintKind::Mistake) << "they do not see each other";
+    EXPECT_EQ(kindFor({{3, 1, 1, true}}), HintKind::Step);
+    EXPECT_EQ(kindFor({{3, 1, 1, false}, {3, 5, 1, false}}), HintKind::Finished);
+}
+
+}  // namespace
+}  // namespace tidewalk::test
