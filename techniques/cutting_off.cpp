@@ -21,15 +21,15 @@ class WayFinder {
     }
 
  private:
-    void Spread(int k, int left) {
-        if (k == ways_.rooms.count) {
+    /// Spreads what is left over the spans from index `at` on; where there is no span there is no room.
+    void Spread(std::size_t at, int left) {
+        if (at == way_.size()) {
             if (left == 0) Take();
             return;
         }
-        const auto at = static_cast<std::size_t>(k);
         for (int n = std::min(left, ways_.rooms.on[at]); n >= 0; --n) {
             way_[at] = n;
-            Spread(k + 1, left - n);
+            Spread(at + 1, left - n);
         }
     }
 
