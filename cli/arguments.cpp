@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "cli/arguments.h"
 
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
 #include <exception>
+#include <filesystem>
 #include <functional>
 #include <limits>
 #include <utility>
 
 #include "cli/commands.h"
+#include "cli/descriptor_buffers.h"
 
 namespace tidewalk {
 
@@ -39,6 +43,19 @@ struct Wishes {
 /// The puzzles that RANGE means; nothing for a text that is none.
 std::optional<PuzzleRange> RangeOf(const std::string& text) {
     return text == "all" ? PuzzleRange{} : ParsePuzzleRange(text);
+}
+
+/// The name that the commands know the standard input or output by, if the path stands for that descriptor.
+std::string NamedAsStandard(const std::string& path, int descriptor) {
+    return OwnDescriptor(path) == descriptor ? kStandard : path;
+}
+
+std::string NameOfInput(const std::string& path) {
+    return NamedAsStandard(path, STDIN_FILENO);
+}
+
+std::string NameOfOutput(const std::string& path) {
+    return NamedAsStandard(path, STDOUT_FILENO);
 }
 
 /// Declares the commands. `Wishes` has to outlive the parser.
@@ -72,7 +89,11 @@ class Parser {
     }
 
     static void AddFile(CLI::App* command, std::string& file, const char* text = "The collection") {
-        command->add_option("FILE", file, text)->required();
+        command->add_option("FILE", file, text)->required()->transform(NameOfInput);
+    }
+
+    static void AddTarget(CLI::App* command, std::string& file) {
+        command->add_option("TARGET", file, "The collection to append to")->required()->transform(NameOfOutput);
     }
 
     /// "" for a whole number of 64 bits, else what is wrong.
@@ -111,7 +132,9 @@ class Parser {
         solve->add_option("RANGE", wishes_.range, "Which puzzles: N, A-B or all")->check([](const std::string& text) {
             return RangeOf(text) ? "" : "\"" + text + "\" is no number, no range A-B and not \"all\"";
         });
-        solve->add_option("--out", wishes_.solve.out, "Write the solved records to this file")->type_name("FILE");
+        solve->add_option("--out", wishes_.solve.out, "Write the solved records to this file")
+            ->type_name("FILE")
+            ->transform(NameOfOutput);
         wishes_.solve.maxTrials = kDefaultTrials;
         solve
             ->add_option("--max-trials", wishes_.solve.maxTrials,
@@ -145,7 +168,10 @@ class Parser {
             ->type_name("S")
             ->check(WhatIsNoSeed);
         create->add_flag("--unique", options.unique, "Keep only puzzles with exactly one solution");
-        create->add_option("--out", options.out, "The file to append to")->type_name("FILE")->required();
+        create->add_option("--out", options.out, "The file to append to")
+            ->type_name("FILE")
+            ->required()
+            ->transform(NameOfOutput);
         AddJobs(create, options.jobs);
     }
 
@@ -174,7 +200,7 @@ class Parser {
             Command("append", "Append a puzzle to another collection", wishes_.append, AppendPuzzle);
         AddFile(append, wishes_.append.file);
         AddNumber(append, wishes_.append.number);
-        append->add_option("TARGET", wishes_.append.target, "The collection to append to")->required();
+        AddTarget(append, wishes_.append.target);
 
         CLI::App* const remove = Command("delete", "Take a puzzle out of its collection", wishes_.remove, DeletePuzzle);
         AddFile(remove, wishes_.remove.file);
@@ -184,12 +210,13 @@ class Parser {
             Command("export", "Write the bare numbers of a puzzle", wishes_.exported, ExportGrid);
         AddFile(exported, wishes_.exported.file);
         AddNumber(exported, wishes_.exported.number);
-        exported->add_option("GRID", wishes_.exported.grid, "The file to write; the standard output if not given");
+        exported->add_option("GRID", wishes_.exported.grid, "The file to write; the standard output if not given")
+            ->transform(NameOfOutput);
         exported->add_flag("--force", wishes_.exported.force, "Replace a file that is there");
 
         CLI::App* const import = Command("import", "Append a bare grid to a collection", wishes_.import, ImportGrid);
-        import->add_option("GRID", wishes_.import.grid, "The file with the grid")->required();
-        import->add_option("TARGET", wishes_.import.target, "The collection to append to")->required();
+        import->add_option("GRID", wishes_.import.grid, "The file with the grid")->required()->transform(NameOfInput);
+        AddTarget(import, wishes_.import.target);
         import->add_option("--grid", wishes_.import.number, "Which grid of a file that holds several")
             ->type_name("N")
             ->check(CLI::Range(1, kMostNumber));
@@ -203,6 +230,17 @@ class Parser {
     CLI::App app_;
 };
 
+/// The output that is a disk, if one is; otherwise "".
+std::string DiskAmongOutputs(const Wishes& wishes) {
+    const std::string solved = wishes.solve.out.value_or("");
+    for (const std::string& output :
+         {solved, wishes.create.out, wishes.append.target, wishes.import.target, wishes.exported.grid}) {
+        std::error_code ignored;
+        if (std::filesystem::is_block_file(output, ignored)) return output;
+    }
+    return "";
+}
+
 /// What is wrong with options that do not go together; "" when all is well.
 std::string Contradiction(const Wishes& wishes) {
     const bool solveToOutput = wishes.solve.out == kStandard;
@@ -210,15 +248,15 @@ std::string Contradiction(const Wishes& wishes) {
         return "with --out - the standard output holds records; --json and --links have no place there";
     }
     const bool recordsToOutput = wishes.create.out == kStandard || wishes.append.target == kStandard ||
-                                 wishes.import.target == kStandard || wishes.shuffle.file == kStandard ||
-                                 wishes.convert.file == kStandard;
+                                 wishes.import.target == kStandard || IsStream(wishes.shuffle.file) ||
+                                 IsStream(wishes.convert.file);
     const bool json =
         wishes.create.json || wishes.append.json || wishes.import.json || wishes.shuffle.json || wishes.convert.json;
     const bool gridToOutput = wishes.exported.grid == kStandard && wishes.exported.json;
     if ((recordsToOutput && json) || gridToOutput)
         return "there is nothing to report with --json, the output is the result";
-    if (wishes.remove.file == kStandard) return "a puzzle can be deleted from a file only";
-    return "";
+    const std::string disk = DiskAmongOutputs(wishes);
+    return disk.empty() ? "" : disk + ": that is a disk, no file to write";
 }
 
 /// The first argument, if it stands where a command has to and is none; otherwise "".

@@ -10,11 +10,7 @@
 namespace tidewalk {
 
 CollectionLines::CollectionLines(Console& console, const std::string& path)
-    : path_(path),
-      stopSignal_(console.stopSignal),
-      file_(path == kStandard ? nullptr : std::make_unique<InputDescriptor>(path, console.stopSignal)),
-      reader_(file_ ? *file_ : *console.in.rdbuf(), path),
-      size_(file_ ? file_->Size() : -1) {}
+    : path_(path), stopSignal_(console.stopSignal), input_(console, path), reader_(input_.Buffer(), path) {}
 
 /// Reads a line, as much of it as a record may have and a byte that shows that it has more.
 bool CollectionLines::ReadLine(std::string& text) {
@@ -35,7 +31,8 @@ bool CollectionLines::Next(NumberedLine& line) {
     // A signal in the middle of a line looks like the end of the file.
     if (!read || (ended_ && stopSignal_ != 0)) return false;
     line.number = ++number_;
-    line.part = size_ <= 0 ? -1 : static_cast<double>(reader_.Position()) / static_cast<double>(size_);
+    const auto size = static_cast<double>(input_.Size());
+    line.part = size <= 0 ? -1 : static_cast<double>(reader_.Position()) / size;
     return true;
 }
 

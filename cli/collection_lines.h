@@ -3,7 +3,6 @@
 #pragma once
 
 #include <atomic>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -42,9 +41,8 @@ class CollectionLines {
 
     std::string path_;
     const std::atomic<int>& stopSignal_;
-    std::unique_ptr<InputDescriptor> file_;
+    Input input_;
     LineReader reader_;
-    long long size_;  ///< of the file; -1 where that is not known
     int number_ = 0;
     bool ended_ = false;  ///< a terminal would have to be told twice
 };

@@ -83,6 +83,9 @@ class PuzzleMaker {
         return failures_;
     }
 
+    /// True when every puzzle that was wanted is written.
+    bool IsDone() const { return written_ == options_.count; }
+
     /// Tells what was made.
     void Report() const {
         const std::string text = std::to_string(written_) + " of " + std::to_string(options_.count) +
@@ -170,7 +173,8 @@ int CreatePuzzles(Console& console, const CreateOptions& options) {
         failures = 1;
     }
     if (options.out != kStandard) maker.Report();
-    return ExitCodeOf(console, failures);
+    // What is written is written, whatever signal came meanwhile.
+    return maker.IsDone() && failures == 0 ? kDone : ExitCodeOf(console, failures);
 }
 
 }  // namespace tidewalk

@@ -7,6 +7,10 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <charconv>
+#include <chrono>
+#include <filesystem>
+#include <thread>
 
 #include "model/file_error.h"
 
@@ -19,7 +23,23 @@ constexpr std::size_t kInputBytes = 128 * 1024;
 /// So long a wait goes on before the next look at whether to stop. The signal itself may reach any other thread.
 constexpr int kWaitMilliseconds = 50;
 
+namespace fs = std::filesystem;
+
+/// Another number for a descriptor of this run, which goes on where that one stands. To open its name anew would begin
+/// at a file's beginning, and find no beginning at all of what somebody else holds open. `refused` is the mode of
+/// opening that is of no use.
+int Duplicate(const std::string& path, int own, int refused) {
+    const int flags = fcntl(own, F_GETFL);
+    const int descriptor = flags < 0 ? -1 : fcntl(own, F_DUPFD_CLOEXEC, 0);
+    if (descriptor < 0 || (flags & O_ACCMODE) == refused) {
+        if (descriptor >= 0) close(descriptor);
+        Fail(path, EBADF);
+    }
+    return descriptor;
+}
+
 int OpenForReading(const std::string& path) {
+    if (const auto own = OwnDescriptor(path)) return Duplicate(path, *own, O_WRONLY);
     // Without O_NONBLOCK a pipe that nobody writes to yet would not even open.
     const int descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0) Fail(path, errno);
@@ -29,6 +49,19 @@ int OpenForReading(const std::string& path) {
         Fail(path, EISDIR);
     }
     return descriptor;
+}
+
+int OpenForWriting(const std::string& path, const std::atomic<int>& stopSignal) {
+    if (const auto own = OwnDescriptor(path)) return Duplicate(path, *own, O_RDONLY);
+    for (;;) {
+        const int descriptor = open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+        if (descriptor >= 0) return descriptor;
+        const int reason = errno;
+        std::error_code ignored;
+        const bool lacksReader = reason == ENXIO && fs::is_fifo(path, ignored);
+        if (!lacksReader || stopSignal != 0) Fail(path, reason);
+        std::this_thread::sleep_for(std::chrono::milliseconds(kWaitMilliseconds));
+    }
 }
 
 /// True when the descriptor is ready, or gone.
@@ -42,6 +75,40 @@ bool IsPassing(int reason) {
 }
 
 }  // namespace
+
+std::optional<int> OwnDescriptor(const std::string& path) {
+    constexpr int kMostLinks = 40;
+    std::error_code error;
+    const fs::path ours = fs::canonical("/proc/self/fd", error);
+    if (error) return std::nullopt;
+    fs::path at = fs::absolute(path, error);
+    for (int links = 0; links < kMostLinks && !error; ++links) {
+        if (fs::canonical(at.parent_path(), error) == ours) {
+            const std::string name = at.filename().string();
+            int number = 0;
+            const auto [end, wrong] = std::from_chars(name.data(), name.data() + name.size(), number);
+            if (wrong == std::errc() && end == name.data() + name.size()) return number;
+        }
+        // What is no link ends the search with an error.
+        at = at.parent_path() / fs::read_symlink(at, error);
+    }
+    return std::nullopt;
+}
+
+bool IsStream(const std::string& path) {
+    std::error_code ignored;
+    const fs::file_status status = fs::status(path, ignored);
+    return path == kStandard || fs::is_fifo(status) || fs::is_character_file(status) || fs::is_socket(status) ||
+           OwnDescriptor(path).has_value();
+}
+
+bool AreOneFile(const std::string& input, const std::string& output) {
+    std::error_code ignored;
+    const fs::path from = input == kStandard ? "/dev/stdin" : input;
+    const fs::path to = output == kStandard ? "/dev/stdout" : output;
+    // A terminal is no file that could be lost.
+    return fs::is_regular_file(to, ignored) && fs::equivalent(from, to, ignored);
+}
 
 InputDescriptor::InputDescriptor(int descriptor, const std::atomic<int>& stopSignal)
     : name_("standard input"), descriptor_(descriptor), owned_(false), stopSignal_(stopSignal), buffer_(kInputBytes) {}
@@ -72,9 +139,22 @@ InputDescriptor::int_type InputDescriptor::underflow() {
     return traits_type::eof();
 }
 
+Input::Input(Console& console, const std::string& path) : console_(console) {
+    if (path != kStandard) opened_ = std::make_unique<InputDescriptor>(path, console.stopSignal);
+}
+
 OutputDescriptor::OutputDescriptor(int descriptor, const std::atomic<int>& stopSignal)
-    : descriptor_(descriptor), stopSignal_(stopSignal) {
+    : descriptor_(descriptor), owned_(false), stopSignal_(stopSignal) {
     setp(buffer_.data(), buffer_.data() + buffer_.size());
+}
+
+OutputDescriptor::OutputDescriptor(const std::string& path, const std::atomic<int>& stopSignal)
+    : descriptor_(OpenForWriting(path, stopSignal)), owned_(true), stopSignal_(stopSignal) {
+    setp(buffer_.data(), buffer_.data() + buffer_.size());
+}
+
+OutputDescriptor::~OutputDescriptor() {
+    if (owned_) close(descriptor_);
 }
 
 /// Waits until a piece can be written, which for a pipe is as much as the buffer holds. After a signal it waits once

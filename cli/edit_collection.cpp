@@ -26,8 +26,10 @@ int AppendTo(Console& console, const std::string& target, const Puzzle& puzzle, 
     const int number = output.Add(PuzzleRecord(puzzle), Numbering::Count);
     output.Finish();
     if (target == kStandard) return ExitCodeOf(console, 0);
-    ReportOnce(console, json, "puzzle " + std::to_string(number) + " appended to " + target,
-               {{"file", target}, {"number", number}});
+    // A stream has no lines to count.
+    const bool counted = number > 0;
+    ReportOnce(console, json, "puzzle " + (counted ? std::to_string(number) + " appended to " : "written to ") + target,
+               {{"file", target}, {"number", counted ? JsonValue(number) : JsonValue(nullptr)}});
     // What is done is done, whatever signal came meanwhile.
     return kDone;
 }
@@ -56,7 +58,9 @@ int AppendPuzzle(Console& console, const AppendOptions& options) {
 
 int DeletePuzzle(Console& console, const DeleteOptions& options) {
     std::error_code error;
-    if (std::filesystem::exists(options.file, error) && !std::filesystem::is_regular_file(options.file, error)) {
+    const bool isOther =
+        std::filesystem::exists(options.file, error) && !std::filesystem::is_regular_file(options.file, error);
+    if (isOther || IsStream(options.file)) {
         Say(console, options.file + ": a puzzle can be deleted from a file only");
         return kWrongUsage;
     }
@@ -88,24 +92,24 @@ int ExportGrid(Console& console, const ExportOptions& options) {
         for (const std::string& row : PlainGrid(*puzzle))
             out << row << kLineEnd;
     };
-    if (options.grid == kStandard) {
-        write(console.out);
-        console.out << std::flush;
-        return ExitCodeOf(console, 0);
-    }
-    std::error_code error;
-    if (std::filesystem::equivalent(options.file, options.grid, error)) {
+    if (AreOneFile(options.file, options.grid)) {
         Say(console, options.grid + ": the grid must not replace its own collection");
         return kFailed;
     }
-    if (!options.force && FileLength(options.grid) > 0) {
+    if (IsStream(options.grid)) {
+        StreamOutput output(console, options.grid);
+        write(output.Stream());
+        output.Flush();
+        if (options.grid == kStandard) return ExitCodeOf(console, 0);
+    } else if (!options.force && FileLength(options.grid) > 0) {
         Say(console, options.grid + ": the file is there already; --force replaces it");
         return kFailed;
+    } else {
+        ReplaceFile(options.grid, write);
     }
-    ReplaceFile(options.grid, write);
     ReportOnce(console, options.json, "puzzle " + std::to_string(options.number) + " exported to " + options.grid,
                {{"file", options.grid}, {"number", options.number}});
-    return ExitCodeOf(console, 0);
+    return kDone;
 }
 
 int ImportGrid(Console& console, const ImportOptions& options) {

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <ctime>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -16,17 +17,28 @@ namespace {
 
 /// A signal handler reaches nothing else.
 std::atomic<int> stopSignal = 0;
-static_assert(std::atomic<int>::is_always_lock_free);
+std::atomic<long long> stopMilliseconds = 0;
+static_assert(std::atomic<int>::is_always_lock_free && std::atomic<long long>::is_always_lock_free);
 
+/// A second signal ends a run that the first one could not. One that comes at once is the first one again: "timeout"
+/// sends its signal to the program and to the program's group.
 extern "C" void NoteSignal(int signal) {
-    stopSignal = signal;
+    constexpr long long kAtOnceMilliseconds = 200;
+    timespec time{};
+    clock_gettime(CLOCK_MONOTONIC, &time);
+    const long long now = time.tv_sec * 1000LL + time.tv_nsec / 1000000;
+    if (stopSignal == 0) {
+        stopMilliseconds = now;
+        stopSignal = signal;
+    } else if (now - stopMilliseconds > kAtOnceMilliseconds) {
+        std::signal(signal, SIG_DFL);
+        std::raise(signal);
+    }
 }
 
 void WatchSignals() {
     struct sigaction action {};
     action.sa_handler = NoteSignal;
-    // A second signal ends a run that the first one could not.
-    action.sa_flags = static_cast<int>(SA_RESETHAND);
     for (const int signal : {SIGINT, SIGTERM})
         sigaction(signal, &action, nullptr);
     // Who started the program with nohup wants it to outlive the terminal.

@@ -3,44 +3,50 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <utility>
 
 #include "model/file_error.h"
 #include "model/line_reader.h"
-#include "model/replace_file.h"
+#include "model/system_file.h"
 
 namespace tidewalk {
 
-namespace {
-
-/// Records have the same line ends wherever they go.
-void PrintRecord(Console& console, std::string_view record) {
-    console.out << record << kLineEnd << std::flush;
+StreamOutput::StreamOutput(Console& console, const std::string& path) : console_(console), path_(path) {
+    if (path == kStandard) return;
+    descriptor_ = std::make_unique<OutputDescriptor>(path, console.stopSignal);
+    own_ = std::make_unique<std::ostream>(descriptor_.get());
 }
 
-}  // namespace
+void StreamOutput::Flush() {
+    Stream() << std::flush;
+    if (own_ && !*own_) Fail(path_, descriptor_->Failure());
+}
 
-ReplacedRecords::ReplacedRecords(Console& console, std::optional<std::string> path)
-    : console_(console), path_(std::move(path)) {
-    if (!path_ || *path_ == kStandard) return;
-    std::error_code error;
-    if (std::filesystem::is_directory(*path_, error)) Fail(*path_, EISDIR);
-    const std::filesystem::path folder = std::filesystem::absolute(*path_, error).parent_path();
-    if (!std::filesystem::is_directory(folder, error)) Fail(*path_, ENOENT);
+void StreamOutput::Add(std::string_view record) {
+    Stream() << record << kLineEnd;
+    Flush();
+}
+
+ReplacedRecords::ReplacedRecords(Console& console, const std::optional<std::string>& path) {
+    if (!path) return;
+    if (IsStream(*path)) {
+        stream_ = std::make_unique<StreamOutput>(console, *path);
+    } else {
+        file_ = std::make_unique<Replacement>(*path);
+    }
 }
 
 void ReplacedRecords::Add(std::string_view record) {
-    if (!path_) return;
-    if (*path_ == kStandard) return PrintRecord(console_, record);
-    records_ += record;
-    records_ += kLineEnd;
+    if (stream_) stream_->Add(record);
+    if (!file_) return;
+    file_->Stream() << record << kLineEnd;
+    file_->DemandWritten();
 }
 
 void ReplacedRecords::Finish() {
-    if (!path_ || *path_ == kStandard) return;
-    ReplaceFile(*path_, [this](std::ostream& file) { file << records_; });
+    if (file_) file_->Finish();
 }
 
 MayWait WaitingFor(Console& console, const std::string& path) {
@@ -56,21 +62,33 @@ MayWait WaitingFor(Console& console, const std::string& path) {
 }
 
 AppendedRecords::AppendedRecords(Console& console, std::string path) : console_(console), path_(std::move(path)) {
-    if (path_ == kStandard) return;
+    if (IsStream(path_)) {
+        stream_ = std::make_unique<StreamOutput>(console, path_);
+        return;
+    }
     DemandWritable(path_);
-    errno = 0;
-    if (!std::ofstream(path_, std::ios::binary | std::ios::app)) Fail(path_, errno);
+    // Behind a link that leads to no file yet one is made, too, but that is not the name to take away.
+    std::error_code error;
+    made_ = std::filesystem::symlink_status(path_, error).type() == std::filesystem::file_type::not_found;
+    if (!SystemFile::Open(path_, SystemFile::Mode::MakeOrChange)) Fail(path_, errno);
+}
+
+AppendedRecords::~AppendedRecords() {
+    if (!made_ || added_) return;
+    // Another program may have begun to fill it.
+    auto file = SystemFile::Open(path_, SystemFile::Mode::Change);
+    if (file && file->TryLock() && file->IsAt(path_) && file->Size() == 0) std::remove(path_.c_str());
 }
 
 int AppendedRecords::Add(std::string_view record, Numbering numbering) {
-    if (path_ == kStandard) {
-        PrintRecord(console_, record);
+    if (stream_) {
+        stream_->Add(record);
         return 0;
     }
     const Appended appended = AppendRecord(path_, record, numbering, WaitingFor(console_, path_));
+    added_ = true;
     if (appended.cutTail)
         Say(console_, path_ + ": a record that was cut off while it was written was taken off its end");
-    added_ = true;
     return appended.number;
 }
 

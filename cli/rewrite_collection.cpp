@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The commands "shuffle" and "convert", which write a whole collection anew.
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
-#include <fstream>
-#include <optional>
 #include <vector>
 
-#include "cli/collection_lines.h"
 #include "cli/commands.h"
+#include "cli/descriptor_buffers.h"
 #include "cli/report.h"
 #include "cli/temporary_files.h"
 #include "generator/shuffle_lines.h"
@@ -39,90 +36,92 @@ struct Converted {
     int puzzles = 0;  ///< lines that can be read as puzzles
 };
 
-/// Reads the converted collection and says which of its lines are no puzzles.
-Converted CountRecords(Console& console, const std::string& file, const std::string& path) {
-    CollectionLines lines(console, path);
-    NumberedLine line;
+/// Reads the converted collection and says which of its lines are no puzzles. Messages call the collection `file`.
+Converted CountRecords(Console& console, const std::string& file, const SystemFile& converted) {
+    FileInput input(converted, file);
+    LineReader lines(input, file);
+    Converted counts;
     std::vector<int> unreadable;
-    while (lines.Next(line)) {
+    for (std::string line; lines.Next(line, kLongestRecord + 1);) {
+        ++counts.lines;
         // A record of today's layout that is taken for a header brings its own semicolons.
-        const bool isHeaderKindAndRows = std::count(line.text.begin(), line.text.end(), ';') == 2;
-        if (!isHeaderKindAndRows || !ParsePuzzleRecord(line.text)) unreadable.push_back(line.number);
+        const bool isHeaderKindAndRows = std::count(line.begin(), line.end(), ';') == 2;
+        if (!isHeaderKindAndRows || !ParsePuzzleRecord(line)) unreadable.push_back(counts.lines);
     }
-    const Converted counts{lines.Number(), lines.Number() - static_cast<int>(unreadable.size())};
+    counts.puzzles = counts.lines - static_cast<int>(unreadable.size());
     if (counts.puzzles == 0) return counts;
     for (const int number : unreadable)
         SayOfPuzzle(console, file, number, "it did not become a puzzle record");
     return counts;
 }
 
-/// Shuffles with a progress bar; false when that was stopped.
-bool ShuffleWithProgress(Console& console, const std::string& input, const std::string& output, RandomSource random,
+/// Converts to a file of its own, so that nothing is replaced before it is known to be worth it.
+SystemFile Convert(Console& console, const std::string& path) {
+    const Input input(console, path);
+    LineReader lines(input.Buffer(), path);
+    SystemFile converted = TemporaryFile();
+    FileOutput output(converted);
+    std::ostream out(&output);
+    ConvertLayout(lines, out);
+    out.flush();
+    if (!out) Fail("the conversion of " + path, output.Failure());
+    return converted;
+}
+
+/// Shuffles with a progress bar; false when that was stopped. What comes only once goes to the standard output.
+bool ShuffleWithProgress(Console& console, const ShuffleOptions& options, const std::string& output,
                          ShuffleCounts& counts) {
-    Progress progress(console, false);
+    Progress progress(console, output == kStandard);
     const auto step = [&](const ShuffleCounts& now) {
         const bool writing = now.written > 0;
         progress.Show(writing ? static_cast<double>(now.written) / static_cast<double>(now.Kept()) : -1,
                       std::to_string(writing ? now.written : now.lines) + (writing ? " written" : " lines read"));
         return !console.Stopped();
     };
-    return !console.Stopped() && ShuffleLines(input, output, random, counts, step);
+    RandomSource random = options.seed ? RandomSource(*options.seed) : RandomSource();
+    if (output != kStandard) return ShuffleLines(options.file, output, random, counts, step);
+    const InputFile input(console, options.file);
+    if (console.Stopped() || !ShuffleLines(input.File(), options.file, console.out, random, counts, step)) return false;
+    console.out << std::flush;
+    return true;
 }
 
 }  // namespace
 
 int ShuffleCollection(Console& console, const ShuffleOptions& options) {
-    const bool piped = options.file == kStandard;
-    const std::string name = piped ? "" : ShuffledName(FullPath(options.file));
-    if (!piped && name.empty()) return RefuseName(console, options.file);
-    const InputFile input(console, options.file);
-    std::optional<TemporaryFile> passedOn;
-    const std::string output = piped ? passedOn.emplace().Path() : name;
+    const std::string output = IsStream(options.file) ? kStandard : ShuffledName(FullPath(options.file));
+    if (output.empty()) return RefuseName(console, options.file);
     ShuffleCounts counts;
-    if (!ShuffleWithProgress(console, input.Path(), output, options.seed ? RandomSource(*options.seed) : RandomSource(),
-                             counts)) {
-        return ExitCodeOf(console, 1);
-    }
-    if (piped) {
-        CopyToOutput(console, output);
-    } else {
-        ReportOnce(console, options.json,
-                   output + ": " + std::to_string(counts.written) + " lines written, " +
-                       std::to_string(counts.duplicates) + " that were there twice dropped",
-                   {{"file", output}, {"written", counts.written}, {"duplicates", counts.duplicates}});
-    }
-    return ExitCodeOf(console, 0);
+    if (!ShuffleWithProgress(console, options, output, counts)) return ExitCodeOf(console, 1);
+    if (output == kStandard) return ExitCodeOf(console, 0);
+    ReportOnce(console, options.json,
+               output + ": " + std::to_string(counts.written) + " lines written, " + std::to_string(counts.duplicates) +
+                   " that were there twice dropped",
+               {{"file", output}, {"written", counts.written}, {"duplicates", counts.duplicates}});
+    // What is written is written, whatever signal came meanwhile.
+    return kDone;
 }
 
 int ConvertCollection(Console& console, const ConvertOptions& options) {
-    const bool piped = options.file == kStandard;
-    const std::string output = piped ? "" : ConvertedPath(FullPath(options.file));
-    if (!piped && output.empty()) return RefuseName(console, options.file);
-    const InputFile input(console, options.file);
-    const TemporaryFile converted;
-    {
-        LineReader lines(input.Path());
-        std::ofstream out(converted.Path(), std::ios::binary);
-        ConvertLayout(lines, out);
-        out.close();
-        if (!out) Fail(converted.Path(), EIO);
-    }
+    const std::string output = IsStream(options.file) ? kStandard : ConvertedPath(FullPath(options.file));
+    if (output.empty()) return RefuseName(console, options.file);
+    const SystemFile converted = Convert(console, options.file);
     if (console.Stopped()) return ExitCodeOf(console, 1);
-    const Converted counts = CountRecords(console, options.file, converted.Path());
+    const Converted counts = CountRecords(console, options.file, converted);
     if (counts.puzzles == 0) {
         Say(console, options.file + ": there is no puzzle of the older layout in it");
         return kFailed;
     }
-    if (piped) {
-        CopyToOutput(console, converted.Path());
-    } else {
-        ReplaceFile(output,
-                    [&](std::ostream& file) { file << std::ifstream(converted.Path(), std::ios::binary).rdbuf(); });
-        ReportOnce(console, options.json, output + ": " + std::to_string(counts.lines) + " puzzles written",
-                   {{"file", output}, {"written", counts.lines}});
+    const int failures = counts.lines - counts.puzzles;
+    if (output == kStandard) {
+        CopyTo(console.out, converted, options.file, UntilStopSignal(console));
+        return ExitCodeOf(console, failures);
     }
+    ReplaceFile(output, [&](std::ostream& file) { CopyTo(file, converted, options.file, [] { return true; }); });
+    ReportOnce(console, options.json, output + ": " + std::to_string(counts.lines) + " puzzles written",
+               {{"file", output}, {"written", counts.lines}});
     // What is written is written, whatever signal came meanwhile.
-    return counts.lines == counts.puzzles ? kDone : kFailed;
+    return failures == 0 ? kDone : kFailed;
 }
 
 }  // namespace tidewalk

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <utility>
@@ -133,12 +132,6 @@ SolvedLine SolveLine(SolverBoard& board, const NumberedLine& line, const SolveOp
     return solved;
 }
 
-/// True when the solved records would replace the collection that they come from, and with it what is not solved.
-bool WouldReplaceItself(const SolveOptions& options) {
-    std::error_code error;
-    return options.out && *options.out != kStandard && std::filesystem::equivalent(options.file, *options.out, error);
-}
-
 /// Takes the next line that is to be solved; false when there is none.
 bool NextWanted(CollectionLines& lines, const PuzzleRange& range, NumberedLine& line) {
     while (lines.Number() < range.last && lines.Next(line)) {
@@ -171,7 +164,7 @@ void SolveAll(Console& console, const SolveOptions& options, CollectionLines& li
 }  // namespace
 
 int SolvePuzzles(Console& console, const SolveOptions& options) {
-    if (WouldReplaceItself(options)) {
+    if (options.out && AreOneFile(options.file, *options.out)) {
         Say(console, options.file + ": the solved records must not replace the collection itself");
         return kFailed;
     }
@@ -180,12 +173,11 @@ int SolvePuzzles(Console& console, const SolveOptions& options) {
     CollectionReport report(console, options.file, options.json, options.out == kStandard);
     SolveAll(console, options, lines, output, report);
     report.End();
-    int failures = report.Failures();
-    if (!console.Stopped()) {
-        failures += SayIfMissing(console, options.file, options.range, lines.Number());
-        output.Finish();
-    }
-    return ExitCodeOf(console, failures);
+    if (console.Stopped()) return ExitCodeOf(console, report.Failures());
+    const int missing = SayIfMissing(console, options.file, options.range, lines.Number());
+    output.Finish();
+    // What is written is written, whatever signal came meanwhile.
+    return report.Failures() + missing > 0 ? kFailed : kDone;
 }
 
 }  // namespace tidewalk

@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/temporary_files.h"
 
-#include <unistd.h>
-
 #include <array>
 #include <cerrno>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 
 #include "cli/descriptor_buffers.h"
 #include "model/file_error.h"
@@ -16,51 +12,53 @@ namespace tidewalk {
 
 namespace {
 
-/// Copies until the end, until the run is to stop, or until nobody takes any more.
-void Copy(Console& console, std::streambuf& from, std::ostream& to) {
+void Copy(std::streambuf& from, std::ostream& to, const MayGoOn& mayGoOn) {
     std::array<char, 4096> piece{};
-    while (to && !console.Stopped()) {
+    while (to && mayGoOn()) {
         const std::streamsize count = from.sgetn(piece.data(), piece.size());
         if (count <= 0) return;
         to.write(piece.data(), count);
     }
 }
 
+/// A copy of what the stream brings.
+SystemFile CopyOf(Console& console, const std::string& path) {
+    const Input input(console, path);
+    SystemFile copy = TemporaryFile();
+    FileOutput output(copy);
+    std::ostream stream(&output);
+    Copy(input.Buffer(), stream, UntilStopSignal(console));
+    stream.flush();
+    if (!stream) Fail("the copy of " + (path == kStandard ? "standard input" : path), output.Failure());
+    return copy;
+}
+
+SystemFile OpenToRead(const std::string& path) {
+    DemandReadable(path);
+    auto file = SystemFile::Open(path, SystemFile::Mode::Read);
+    if (!file) Fail(path, errno);
+    return std::move(*file);
+}
+
 }  // namespace
 
-TemporaryFile::TemporaryFile() {
+SystemFile TemporaryFile() {
     std::error_code error;
     std::filesystem::path folder = std::filesystem::temp_directory_path(error);
     if (error) folder = "/tmp";
-    path_ = (folder / "tidewalk-XXXXXX").string();
-    const int descriptor = mkstemp(path_.data());
-    if (descriptor < 0) Fail(path_, errno);
-    close(descriptor);
+    auto file = SystemFile::MakeNameless(folder.string());
+    if (!file) Fail(folder.string(), errno);
+    return std::move(*file);
 }
 
-TemporaryFile::~TemporaryFile() {
-    std::error_code ignored;
-    std::filesystem::remove(path_, ignored);
-}
+InputFile::InputFile(Console& console, const std::string& path)
+    : file_(IsStream(path) ? CopyOf(console, path) : OpenToRead(path)),
+      path_(IsStream(path) ? "/dev/fd/" + std::to_string(file_.Descriptor()) : path) {}
 
-InputFile::InputFile(Console& console, const std::string& path) : path_(path) {
-    if (path != kStandard) {
-        // Opening it says what is wrong with it better than the routines that read it do.
-        const InputDescriptor file(path, console.stopSignal);
-        return;
-    }
-    path_ = copy_.emplace().Path();
-    errno = 0;
-    std::ofstream file(path_, std::ios::binary);
-    Copy(console, *console.in.rdbuf(), file);
-    file.close();
-    if (!file) Fail(path_, errno);
-}
-
-void CopyToOutput(Console& console, const std::string& path) {
-    InputDescriptor file(path, console.stopSignal);
-    Copy(console, file, console.out);
-    console.out << std::flush;
+void CopyTo(std::ostream& out, const SystemFile& file, const std::string& name, const MayGoOn& mayGoOn) {
+    FileInput input(file, name);
+    Copy(input, out, mayGoOn);
+    out << std::flush;
 }
 
 }  // namespace tidewalk

@@ -4,9 +4,11 @@
 
 #include <cstddef>
 #include <functional>
+#include <ostream>
 #include <string>
 
 #include "model/random_source.h"
+#include "model/system_file.h"
 
 namespace tidewalk {
 
@@ -23,13 +25,18 @@ struct ShuffleCounts {
 /// Asked again and again in a shuffle; false stops it.
 using ShuffleStep = std::function<bool(const ShuffleCounts&)>;
 
-/// Writes the distinct lines of the file `input` in random order to `output`. A line may have any length and hold any
-/// bytes but its end, which is LF or CR LF in the input and CR LF in the output.
+/// Writes the distinct lines of the file `input` in random order to `output`. A line may hold any bytes but its end,
+/// which is LF or CR LF in the input and CR LF in the output; a byte order mark at the start is passed over.
 ///
-/// True when the output is complete. When `step` stops the work, or with FileError when a file cannot be read or
-/// written, an older output stays as it was.
+/// The lines stay in the file, 24 bytes and a place in a table are kept of each. True when the output is complete. When
+/// `step` stops the work, or with FileError when a file cannot be read or written or a line does not come to an end, an
+/// older output stays as it was.
 bool ShuffleLines(const std::string& input, const std::string& output, RandomSource& random, ShuffleCounts& counts,
                   const ShuffleStep& step);
+
+/// The same from an open file, which messages call `name`, to a stream. Nothing is written before all is read.
+bool ShuffleLines(const SystemFile& input, const std::string& name, std::ostream& output, RandomSource& random,
+                  ShuffleCounts& counts, const ShuffleStep& step);
 
 /// The name of the shuffled copy of `path`: "puzzles.txt" gives "puzzles-noduprandom.txt"; "" for a path without ".".
 std::string ShuffledName(const std::string& path);

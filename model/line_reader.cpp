@@ -66,7 +66,7 @@ bool LineReader::Take(std::string* line, std::size_t most) {
         if (position_ == 0) SkipByteOrderMark();
         if (at_ == filled_ && !Fill()) return false;
     }
-    const std::uint64_t start = position_;
+    lineStart_ = position_;
     lineEnded_ = false;
     do {
         const char* const from = buffer_.data() + at_;
@@ -77,7 +77,7 @@ bool LineReader::Take(std::string* line, std::size_t most) {
         at_ += length + (lineEnded_ ? 1 : 0);
         position_ += length + (lineEnded_ ? 1 : 0);
         if (line != nullptr) line->append(from, std::min(length, most - std::min(most, line->size())));
-        if (line != nullptr && position_ - start > kLongestLine) Fail(name_, EFBIG);
+        if (line != nullptr && position_ - lineStart_ > kLongestLine) Fail(name_, EFBIG);
     } while (!lineEnded_ && Fill());
     if (line != nullptr && !line->empty() && line->back() == '\r') line->pop_back();
     return true;

@@ -40,6 +40,9 @@ class LineReader {
     /// How many bytes of the text were taken, the line that comes next beginning there.
     std::uint64_t Position() const { return position_; }
 
+    /// Where the line that was taken last begins, in bytes from the file's beginning.
+    std::uint64_t LineStart() const { return lineStart_; }
+
     /// True when the line that was taken last had an end.
     bool LineEnded() const { return lineEnded_; }
 
@@ -56,6 +59,7 @@ class LineReader {
     std::size_t at_ = 0;
     std::size_t filled_ = 0;
     std::uint64_t position_ = 0;
+    std::uint64_t lineStart_ = 0;
     bool lineEnded_ = true;
 };
 

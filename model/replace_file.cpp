@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -96,19 +97,45 @@ class FileBeside {
 
 }  // namespace
 
-void ReplaceFile(const std::string& path, const std::function<void(std::ostream&)>& write) {
+struct Replacement::Parts {
+    explicit Parts(const std::string& path) : target(path), beside(path), output(beside.File()), stream(&output) {}
+
+    std::string target;
+    FileBeside beside;
+    FileOutput output;
+    std::ostream stream;
+};
+
+Replacement::Replacement(const std::string& path) {
     const std::string target = BehindLinks(path).string();
     const std::optional<SystemFile> old = OpenOld(target);
     RemoveLeftovers(target);
-    FileBeside beside(target);
-    if (!(old ? beside.File().TakeModeOf(*old) : beside.File().TakeUsualMode())) Fail(target, errno);
-    FileOutput output(beside.File());
-    std::ostream stream(&output);
-    write(stream);
-    const int failure = output.Finish();
-    if (failure != 0 || !stream) Fail(target, failure);
-    if (!beside.File().Sync()) Fail(target, errno);
-    beside.RenameOverTarget();
+    parts_ = std::make_unique<Parts>(target);
+    SystemFile& file = parts_->beside.File();
+    if (!(old ? file.TakeModeOf(*old) : file.TakeUsualMode())) Fail(target, errno);
+}
+
+Replacement::~Replacement() = default;
+
+std::ostream& Replacement::Stream() {
+    return parts_->stream;
+}
+
+void Replacement::DemandWritten() {
+    if (!parts_->stream) Fail(parts_->target, parts_->output.Failure());
+}
+
+void Replacement::Finish() {
+    parts_->stream.flush();
+    DemandWritten();
+    if (!parts_->beside.File().Sync()) Fail(parts_->target, errno);
+    parts_->beside.RenameOverTarget();
+}
+
+void ReplaceFile(const std::string& path, const std::function<void(std::ostream&)>& write) {
+    Replacement replacement(path);
+    write(replacement.Stream());
+    replacement.Finish();
 }
 
 }  // namespace tidewalk

@@ -8,6 +8,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <thread>
 #include <utility>
@@ -21,6 +22,8 @@ namespace {
 /// What every program of this system may do with a new file, less the user's mask.
 constexpr mode_t kUsualRights = 0666;
 constexpr mode_t kOwnRights = 0600;
+
+constexpr std::size_t kInputBytes = 128 * 1024;
 
 int FlagsOf(SystemFile::Mode mode) {
     switch (mode) {
@@ -49,6 +52,17 @@ std::optional<SystemFile> SystemFile::Open(const std::string& path, Mode mode) {
     const int descriptor = open(path.c_str(), flags, mode == Mode::MakeNew ? kOwnRights : kUsualRights);
     if (descriptor < 0) return std::nullopt;
     return SystemFile(descriptor);
+}
+
+std::optional<SystemFile> SystemFile::MakeNameless(const std::string& folder) {
+    const int descriptor = open(folder.c_str(), O_TMPFILE | O_RDWR | O_CLOEXEC, kOwnRights);
+    if (descriptor >= 0) return SystemFile(descriptor);
+    // Not every file system can do without a name, not even for the beginning.
+    std::string path = (std::filesystem::path(folder) / "tidewalk-XXXXXX").string();
+    const int named = mkostemp(path.data(), O_CLOEXEC);
+    if (named < 0) return std::nullopt;
+    unlink(path.c_str());
+    return SystemFile(named);
 }
 
 SystemFile::SystemFile(SystemFile&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
@@ -144,6 +158,21 @@ void SyncFolderOf(const std::string& path) {
     if (auto opened = SystemFile::Open(folder.empty() ? "." : folder.string(), SystemFile::Mode::Read)) opened->Sync();
 }
 
+FileInput::FileInput(const SystemFile& file, std::string name)
+    : file_(file), name_(std::move(name)), buffer_(kInputBytes) {}
+
+FileInput::int_type FileInput::underflow() {
+    ssize_t count = 0;
+    do {
+        count = pread(file_.Descriptor(), buffer_.data(), buffer_.size(), static_cast<off_t>(position_));
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) Fail(name_, errno);
+    if (count == 0) return traits_type::eof();
+    position_ += static_cast<std::uint64_t>(count);
+    setg(buffer_.data(), buffer_.data(), buffer_.data() + count);
+    return traits_type::to_int_type(*gptr());
+}
+
 FileOutput::FileOutput(SystemFile& file) : file_(file) {
     setp(buffer_.data(), buffer_.data() + buffer_.size());
 }
@@ -153,11 +182,6 @@ bool FileOutput::Flush() {
     if (failure_ == 0 && !file_.Append(waiting)) failure_ = errno != 0 ? errno : EIO;
     setp(buffer_.data(), buffer_.data() + buffer_.size());
     return failure_ == 0;
-}
-
-int FileOutput::Finish() {
-    Flush();
-    return failure_;
 }
 
 FileOutput::int_type FileOutput::overflow(int_type character) {

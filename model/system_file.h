@@ -9,6 +9,7 @@
 #include <streambuf>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tidewalk {
 
@@ -28,6 +29,10 @@ class SystemFile {
     /// Opens the file. A file that is made has the rights that the user's mask leaves, with `MakeNew` none but the
     /// user's own. Nothing when the system refuses; its reason is in `errno`.
     static std::optional<SystemFile> Open(const std::string& path, Mode mode);
+
+    /// Makes an empty file in the folder that has no name there: it is gone when it is closed, however the program
+    /// ends. Nothing when the system refuses; its reason is in `errno`.
+    static std::optional<SystemFile> MakeNameless(const std::string& folder);
 
     SystemFile(SystemFile&& other) noexcept;
     SystemFile& operator=(SystemFile&& other) noexcept;
@@ -69,14 +74,31 @@ class SystemFile {
 /// Brings the names in the folder of `path` to the disk, after a file there was made, renamed or removed.
 void SyncFolderOf(const std::string& path);
 
+/// A stream buffer that reads a file from its beginning, wherever the file itself stands.
+class FileInput final : public std::streambuf {
+ public:
+    /// The file has to live as long. Messages call it `name`.
+    FileInput(const SystemFile& file, std::string name);
+
+ protected:
+    /// Throws FileError when the system cannot read.
+    int_type underflow() override;
+
+ private:
+    const SystemFile& file_;
+    std::string name_;
+    std::uint64_t position_ = 0;
+    std::vector<char> buffer_;
+};
+
 /// A stream buffer that writes to a file and forgets no failure.
 class FileOutput final : public std::streambuf {
  public:
     /// The file has to live as long.
     explicit FileOutput(SystemFile& file);
 
-    /// Writes what is left in the buffer. 0, or the system's reason for the first failure.
-    int Finish();
+    /// The system's reason for the first failure; 0 for none.
+    int Failure() const { return failure_; }
 
  protected:
     int_type overflow(int_type character) override;

@@ -70,10 +70,8 @@ TEST_F(Cli, ListTellsTheStateOfTheStoredBridges) {
     EXPECT_EQ(err_, "tidewalk-cli: " + file + ": puzzle 2: the line is no puzzle record\n");
     const json listed = RunJson({"list", file});
     ASSERT_EQ(listed.size(), 4U);
-    EXPECT_EQ(listed[0]["solution"], "valid");
     EXPECT_EQ(listed[1]["error"], "the line is no puzzle record");
     EXPECT_EQ(Run({"list", "-"}, kRing + "\n" + kRing), 0) << "line feeds alone, and a last line without an end";
-    EXPECT_EQ(Run({"list", File("empty.txt", {})}), 0);
     EXPECT_EQ(RunJson({"list", File("empty.txt", {})}), json::array());
 }
 
@@ -101,7 +99,9 @@ TEST_F(Cli, SolveGivesBridgesAndRecords) {
     EXPECT_EQ(folder_.Read("s.txt"), " 3, 3, 8;D;2-2,|.|,2-2,\r\n");
     EXPECT_EQ(Run({"solve", file, "--out", file}), 1);
     EXPECT_EQ(Run({"list", file}), 0) << "the collection itself is not replaced";
-    EXPECT_EQ(Run({"solve", file, "1", "--out", "-"}), 0);
+    EXPECT_EQ(Run({"solve", file, "--out", folder_.Path("no/such")}), 1);
+    EXPECT_EQ(out_, "") << "what cannot be written is not solved first";
+    EXPECT_EQ(Run({"solve", file, "1", "--out", "/dev/stdout"}), 0);
     EXPECT_EQ(out_, folder_.Read("s.txt"));
     EXPECT_EQ(Run({"solve", file, "1", "--links"}), 0);
     EXPECT_TRUE(out_.starts_with("     1    3x3  solved        3 trials  Easy   ")) << out_;
@@ -118,7 +118,6 @@ TEST_F(Cli, MaxTrialsIsTheMostThatAreTried) {
     EXPECT_NE(err_.find("puzzle 117: given up after " + std::to_string(trials - 1) + " trials"), std::string::npos);
     EXPECT_EQ(Run({"solve", all, "117", "--max-trials", "0"}), 1);
     EXPECT_NE(err_.find("puzzle 117: the rules alone do not solve it"), std::string::npos);
-    EXPECT_TRUE(out_.starts_with("   117  11x11  unsolved      0 trials  -      ")) << out_;
     EXPECT_EQ(Run({"solve", all, "1", "--max-trials", "0"}), 0) << "the rules alone solve it";
 }
 
@@ -166,15 +165,15 @@ TEST_F(Cli, PuzzlesMoveBetweenFilesAsInTheWindow) {
     EXPECT_EQ(Run({"export", from, "2", folder_.Path("grid.txt"), "--force"}), 0);
     EXPECT_EQ(Run({"export", from, "1", from, "--force"}), 1) << "its own collection";
     EXPECT_EQ(Run({"import", folder_.Path("grid.txt"), to}), 0);
-    EXPECT_EQ(Run({"import", "-", to}, "2.2\n...\n2.2\n"), 0);
+    EXPECT_EQ(Run({"import", "/dev/stdin", to}, "2.2\n...\n2.2\n"), 0);
     EXPECT_EQ(RunJson({"append", from, "1", to})["number"], 3);
+    EXPECT_EQ(RunJson({"append", from, "1", "/dev/null"})["number"], nullptr) << "it has no lines";
     EXPECT_EQ(Run({"import", File("none.txt", {"..."}), to}), 1);
     EXPECT_EQ(Run({"delete", to, "4"}), 1);
     EXPECT_EQ(RunJson({"delete", to, "1"})["left"], 2);
     EXPECT_EQ(Run({"delete", to, "1"}), 0);
     EXPECT_EQ(Run({"delete", to, "1"}), 1) << "the only one stays";
     EXPECT_EQ(folder_.Read("to.txt"), " 3, 3, 4;D;2-2,|.|,2-2,\r\n");
-    EXPECT_FALSE(std::filesystem::exists(folder_.Path("tidetemp.tmp")));
 }
 
 TEST_F(Cli, ARecordThatIsCutShortIsToldFromAWrongOne) {
@@ -224,9 +223,9 @@ TEST_F(Cli, WrongUsageIsTold) {
                                    {"solve", file, "--jobs", "0"},
                                    {"solve", file, "--out", "-", "--json"},
                                    {"show", file, "x"},
-                                   {"delete", "-", "1"},
+                                   {"delete", "/dev/stdin", "1"},
+                                   {"shuffle", "-", "--json"},
                                    {"delete", folder_.Path(""), "1"},
-                                   {"delete", "/dev/null", "1"},
                                    {"create", "9", "--out", file, "--seed", "-1"},
                                    {"create", "9", "--out", file, "--seed", "18446744073709551616"},
                                    {"check", file, "--seconds", "nan"},

@@ -2,6 +2,7 @@
 #include "model/replace_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -27,7 +28,8 @@ TEST(ReplaceFile, MakesOrReplacesTheFileAndKeepsItsPermissions) {
     ReplaceFile("made.txt", WriteNew);
     EXPECT_EQ(folder.Read("made.txt"), "new\r\n");
     const fs::path old = folder.Write("old.txt", "a long old content\n");
-    const auto rights = fs::perms::owner_read | fs::perms::owner_write;
+    EXPECT_EQ(fs::status("made.txt").permissions(), fs::status(old).permissions()) << "the usual ones";
+    const auto rights = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_exec;
     fs::permissions(old, rights);
     ReplaceFile(old.string(), WriteNew);
     EXPECT_EQ(folder.Read("old.txt"), "new\r\n");
@@ -59,7 +61,9 @@ TEST(ReplaceFile, TakesAwayWhatWasLeftBesideButNotWhatIsStillWritten) {
     ASSERT_TRUE(other && other->TryLock());
     ReplaceFile("a", WriteNew);
     EXPECT_EQ(folder.Read("a") + folder.Read("a.new1"), "new\r\nanother's");
-    EXPECT_EQ(folder.Entries(), 2);
+    folder.Write("b.new3", "left behind two that have just ended");
+    ReplaceFile("b", WriteNew);
+    EXPECT_EQ(folder.Entries(), 3);
 }
 
 TEST(ReplaceFile, FollowsLinksAlsoToAFileThatIsNotThereYet) {
@@ -78,9 +82,10 @@ TEST(ReplaceFile, RefusesWhatIsNoPlainFileAndNamesTheReason) {
     const TempFolder folder;
     fs::create_directory("sub");
     EXPECT_EQ(Replaced("sub"), "sub: Is a directory");
-    EXPECT_EQ(Replaced("/dev/full"), "/dev/full: Invalid argument");
+    ASSERT_EQ(mkfifo("pipe", 0600), 0);
+    EXPECT_EQ(Replaced("pipe"), "pipe: Invalid argument");
     EXPECT_EQ(Replaced("missing/new.txt"), "missing/new.txt: No such file or directory");
-    EXPECT_EQ(folder.Entries(), 1);
+    EXPECT_EQ(folder.Entries(), 2);
 }
 
 }  // namespace
