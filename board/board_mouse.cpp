@@ -12,12 +12,12 @@ namespace tidewalk {
 
 namespace {
 
-/// Takes the cell at `point` for the one that a click is for; beside the board it stays the last one.
+/// Takes the cell at `point` for the one that a click is for; beside the cells a click is for none.
 void HoverAt(Board& board, Point point) {
-    const auto [row, col] = CellUnder(board.layout, point);
-    if (!board.puzzle.OnBoard(row, col)) return;
-    board.HoverRow = row;
-    board.HoverCol = col;
+    const CellPlace cell = CellUnder(board.layout, point);
+    const bool onBoard = board.puzzle.OnBoard(cell.row, cell.col);
+    board.HoverRow = onBoard ? cell.row : 0;
+    board.HoverCol = onBoard ? cell.col : 0;
 }
 
 void SelectHovered(Board& board) {

@@ -20,8 +20,11 @@ constexpr double kTitleSize = 8;
 constexpr double kHeadingSize = 6;
 constexpr double kSolutionNumberSize = 5;
 constexpr double kFooterSize = 6;
-constexpr double kFooterGap = 120;  ///< above the footer, in twips
-constexpr double kHeadingGap = 60;  ///< between a heading in the margin and the board, in twips
+constexpr double kFooterGap = 120;    ///< above the footer, in twips
+constexpr double kHeadingGap = 60;    ///< between a heading in the margin and the board, in twips
+constexpr double kHeadingRoom = 260;  ///< what a heading above its board takes, in twips
+constexpr double kFooterRoom = 300;   ///< kept free at the foot of a wide page, in twips
+constexpr double kBoardsApart = 450;  ///< between puzzle and solution on a wide page, in twips
 
 /// Two fifths of a cell: discs of neighbours two cells apart leave more than a cell of their bridges to be seen, and
 /// both strokes of a double bridge, a seventh of a cell apart at most, end well inside the disc.
@@ -113,11 +116,20 @@ void DrawBoard(const Puzzle& puzzle, Surface& surface, const PrintedBoard& board
     DrawIslands(puzzle, surface, board, drawn);
 }
 
-/// The heading stands at a fixed height, which boards of 15 to 22 rows reach; it then goes into the left margin.
-void PrintHeading(const Puzzle& puzzle, Surface& surface, const RenderRequest& request, const PrintedBoard& board,
+/// A page wider than high has no room at the height where the solution stands on others.
+bool IsWidePage(const RenderRequest& request) {
+    const Surface::Area& limit = request.limit;
+    return request.mode == RenderMode::Page && limit.right - limit.left > limit.bottom - limit.top;
+}
+
+/// The heading stands at a fixed height, which boards of 15 to 22 rows reach; it then goes into the left margin. On a
+/// wide page it stands above its board.
+void PrintHeading(const Puzzle& puzzle, Surface& surface, const RenderRequest& request, const PrintedBoard& solution,
                   Surface::Area& drawn) {
     surface.SetFontSize(kHeadingSize);
     const std::string text = "Solution" + Str(puzzle.Rows) + "x" + NumText(puzzle.Cols);
+    if (IsWidePage(request)) return PrintText(surface, solution.left, solution.top - kHeadingRoom, text, drawn);
+    const PrintedBoard board = LayoutPrintedPuzzle(puzzle, request);
     const double boardEnd = board.top + puzzle.Rows * board.cell;
     double x = request.x0;
     if (boardEnd > kHeadingY) x -= surface.TextExtent(text).width + kHeadingGap;
@@ -148,6 +160,27 @@ int WantedCell(const Puzzle& puzzle) {
     return 965 - 30 * (puzzle.MaxDim() - 5);
 }
 
+/// Takes the board's cells down to what lets it end at `right` and `bottom`.
+void FitInto(PrintedBoard& board, const Puzzle& puzzle, double right, double bottom) {
+    const double width = (right - board.left) / std::max(puzzle.Cols, 1);
+    const double height = (bottom - board.top) / std::max(puzzle.Rows, 1);
+    const int fitting = std::max(static_cast<int>(std::floor(std::min(width, height))), 1);
+    if (fitting >= board.cell) return;
+    board.cell = fitting;
+    board.half = RoundHalfEven(fitting / 2.0);
+}
+
+/// The solution of a wide page: beside the puzzle or below it, wherever its cells can be larger.
+PrintedBoard PlaceBeside(const Puzzle& puzzle, const RenderRequest& request, const PrintedBoard& whole) {
+    PrintedBoard beside = whole;
+    beside.left += puzzle.Cols * whole.cell + kBoardsApart;
+    PrintedBoard below = whole;
+    below.top += puzzle.Rows * whole.cell + kBoardsApart + kHeadingRoom;
+    for (PrintedBoard* const board : {&beside, &below})
+        FitInto(*board, puzzle, request.limit.right, request.limit.bottom - kFooterRoom);
+    return beside.cell >= below.cell ? beside : below;
+}
+
 }  // namespace
 
 double PrintedBoard::Radius() const {
@@ -165,19 +198,18 @@ PrintedBoard LayoutPrintedPuzzle(const Puzzle& puzzle, const RenderRequest& requ
     board.left = request.x0;
     board.top = request.y0 + kPuzzleBelowOffset;
     board.fontSize = 14 - (puzzle.Rows - 5) / 3.0;
+    if (IsWidePage(request)) FitInto(board, puzzle, request.limit.right, request.limit.bottom - kFooterRoom);
     board.lineWidth = LimitedPen(board, request.lineWidth);
     return board;
 }
 
 PrintedBoard LayoutPrintedSolution(const Puzzle& puzzle, const RenderRequest& request, double footerHeight) {
     PrintedBoard board = LayoutPrintedPuzzle(puzzle, request);
-    board.top = request.y0 + kSolutionBelowOffset;
-    const double width = (request.limit.right - board.left) / std::max(puzzle.Cols, 1);
-    const double height = (request.limit.bottom - footerHeight - board.top) / std::max(puzzle.Rows, 1);
-    const int fitting = std::max(static_cast<int>(std::floor(std::min(width, height))), 1);
-    if (fitting < board.cell) {
-        board.cell = fitting;
-        board.half = RoundHalfEven(fitting / 2.0);
+    if (IsWidePage(request)) {
+        board = PlaceBeside(puzzle, request, board);
+    } else {
+        board.top = request.y0 + kSolutionBelowOffset;
+        FitInto(board, puzzle, request.limit.right, request.limit.bottom - footerHeight);
     }
     board.fontSize = std::min(kSolutionNumberSize, board.Radius() / kDigitReach);
     board.lineWidth = LimitedPen(board, request.lineWidth);
@@ -192,8 +224,8 @@ Surface::Area RenderPuzzle(const Puzzle& puzzle, Surface& surface, const RenderR
     PrintTitleLine(surface, request, drawn);
     DrawBoard(puzzle, surface, board, request.mode == RenderMode::Solution, drawn);
     if (request.mode == RenderMode::Page) {
-        PrintHeading(puzzle, surface, request, board, drawn);
         const PrintedBoard solution = LayoutPrintedSolution(puzzle, request, FooterHeight(surface));
+        PrintHeading(puzzle, surface, request, solution, drawn);
         DrawBoard(puzzle, surface, solution, true, drawn);
     }
     PrintFooter(surface, request, drawn);

@@ -54,8 +54,9 @@ struct PrintedBoard {
 /// The board of the puzzle, or of the solution on a picture of its own.
 PrintedBoard LayoutPrintedPuzzle(const Puzzle& puzzle, const RenderRequest& request);
 
-/// The board of the solution on a page: as large as what is left of the page below the heading lets it be, and no
-/// larger than the puzzle. `footerHeight` is kept free at the bottom.
+/// The board of the solution on a page: as large as what is left of the page lets it be, below the heading or, on a
+/// page wider than high, beside or below the puzzle, and no larger than the puzzle. `footerHeight` is kept free at the
+/// bottom.
 PrintedBoard LayoutPrintedSolution(const Puzzle& puzzle, const RenderRequest& request, double footerHeight);
 
 /// Draws the title, the board or both boards, and the footer. Returns the rectangle that holds what was drawn.

@@ -20,10 +20,12 @@ Colour HighlightOf(const Options& options, const MainWindow& desktop) {
     return LegibleOn(background, wanted, kShapeContrast);
 }
 
-/// White stands for "no colour of its own" there: a white button on a dark desktop is nobody's choice.
+/// White, and what nobody has adjusted, stand for "no colour of its own" there: a white button on a dark desktop is
+/// nobody's choice.
 Colour FaceOf(const Options& options, const MainWindow& desktop) {
     const Colour face = options.SchemeColours[kFaceEntry];
-    return FollowsDesktop(options) && face == kWhite ? desktop.Desktop(DesktopColour::ButtonFace) : face;
+    const bool chosen = face != kWhite && options.SchemeColours[kAdjustedEntry] != 0;
+    return FollowsDesktop(options) && !chosen ? desktop.Desktop(DesktopColour::ButtonFace) : face;
 }
 
 }  // namespace

@@ -47,9 +47,11 @@ AboutBox::AboutBox(QWidget* parent) : QDialog(parent) {
     QPushButton* const aboutQt = buttons->addButton(tr("About &Qt"), QDialogButtonBox::HelpRole);
     aboutQt->setObjectName("AboutQt");
     aboutQt->setAutoDefault(false);
-    buttons->button(QDialogButtonBox::Ok)->setIcon({});
-    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
-    buttons->button(QDialogButtonBox::Ok)->setFocus();
+    QPushButton* const ok = buttons->button(QDialogButtonBox::Ok);
+    ok->setText(tr("&OK"));
+    ok->setIcon({});
+    ok->setDefault(true);
+    ok->setFocus();
 
     auto* const body = new QHBoxLayout;
     body->setSpacing(18);

@@ -12,6 +12,7 @@
 #include "model/system_file.h"
 #include "ui/app_folder.h"
 #include "ui/command_line.h"
+#include "ui/file_name.h"
 #include "ui/icons.h"
 #include "ui/program.h"
 #include "ui/save_file.h"
@@ -24,13 +25,17 @@ constexpr int kFailed = 1;
 constexpr int kWrongUsage = 2;
 
 void Say(FILE* where, const QString& text) {
-    std::fprintf(where, "%s\n", text.trimmed().toLocal8Bit().constData());
+    std::fprintf(where, "%s\n", FileNameBytes(text.trimmed()).c_str());
 }
 
 CommandLine ReadCommandLine(int argc, char** argv) {
     // Help and complaints must work without a display.
     const QCoreApplication forTheNames(argc, argv);
-    return ParseCommandLine(QCoreApplication::arguments());
+    // Qt's own list of them has lost the bytes that are not UTF-8.
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments += FileNameText(argv[i]);
+    return ParseCommandLine(arguments);
 }
 
 /// Answers help, version and wrong usage; nothing when the program is to run.
@@ -99,7 +104,7 @@ StartRequest RequestOf(const CommandLine& line, const AppFolderChoice& choice, c
     request.appFolder = QFile::encodeName(choice.folder).toStdString();
     request.folderIsNew = choice.isNew;
     request.windowNumber = window.Value();
-    request.collection = QFile::encodeName(line.collection).toStdString();
+    request.collection = FileNameBytes(line.collection);
     request.puzzleNumber = line.puzzleNumber;
     return request;
 }

@@ -13,6 +13,13 @@ namespace tidewalk {
 
 namespace {
 
+/// What the status line says, and on which island a failed check has ended.
+QString StatusWithPlace(const Game& game) {
+    const QString status = QString::fromStdString(game.window.Text(WindowText::Status));
+    const QString place = FramedIslandName(game);
+    return place.isEmpty() ? status : status + ": " + place;
+}
+
 /// The board's game while its islands are the player's, otherwise nothing.
 Game* QuietGame(const BoardView* board) {
     Game* const game = board == nullptr ? nullptr : board->Source().game();
@@ -39,7 +46,9 @@ class IslandAccessible final : public QAccessibleInterface, public QAccessibleAc
 
     QString text(QAccessible::Text what) const override {
         const Game* const game = Current();
-        return game != nullptr && what == QAccessible::Name ? IslandName(*game, id_) : QString();
+        if (game != nullptr && what == QAccessible::Name) return IslandName(*game, id_);
+        const bool hasStatus = game != nullptr && what == QAccessible::Description && board_->StatusIsland() == id_;
+        return hasStatus ? StatusWithPlace(*game) : QString();
     }
 
     QRect rect() const override {
@@ -100,6 +109,10 @@ QString IslandName(const Game& game, CellNumber id) {
         .arg(col)
         .arg(game.board.puzzle.IslandAt(id))
         .arg(game.board.BridgeState.CountAt(id));
+}
+
+QString FramedIslandName(const Game& game) {
+    return game.board.Shape1.visible ? IslandName(game, game.board.puzzle.CellId(game.board.Shape1.cell)) : QString();
 }
 
 BoardAccessible::BoardAccessible(BoardView* board) : QAccessibleWidget(board, QAccessible::Grouping), board_(board) {}
@@ -196,6 +209,13 @@ void IslandAnnouncer::Announce(BoardView& view) {
     if (view.hasFocus()) TellFocus(*game, *board);
 }
 
+void IslandAnnouncer::AnnounceStatus(BoardView& view) {
+    QAccessibleInterface* const board = QAccessible::queryAccessibleInterface(&view);
+    QAccessibleInterface* const island = board == nullptr ? nullptr : board->focusChild();
+    if (const Game* const game = QuietGame(&view)) statusIsland_ = FocusedIsland(game->board);
+    if (board != nullptr) tell_(island == nullptr ? board : island, QAccessible::DescriptionChanged);
+}
+
 void IslandAnnouncer::TellBridges(const Game& game, const BoardAccessible& board) {
     if (loadCount_ == game.board.loadCount && undoRevision_ == game.board.history.Revision()) return;
     const bool samePuzzle = loadCount_ == game.board.loadCount;
@@ -210,7 +230,9 @@ void IslandAnnouncer::TellBridges(const Game& game, const BoardAccessible& board
 
 void IslandAnnouncer::TellFocus(const Game& game, const BoardAccessible& board) {
     const CellNumber now = FocusedIsland(game.board);
-    if (std::exchange(focused_, now) != now && now != 0) tell_(board.Island(now), QAccessible::Focus);
+    if (std::exchange(focused_, now) == now) return;
+    statusIsland_ = 0;
+    if (now != 0) tell_(board.Island(now), QAccessible::Focus);
 }
 
 }  // namespace tidewalk

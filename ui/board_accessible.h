@@ -17,6 +17,9 @@ class BoardView;
 /// How an island is read out: "row 3, column 5, needs 4, has 2".
 QString IslandName(const Game& game, CellNumber id);
 
+/// The name of the island on which a failed check has ended, while it is framed; "" otherwise.
+QString FramedIslandName(const Game& game);
+
 /// The board. Its children are the islands, row by row; while a job works on the grids it has none.
 class BoardAccessible final : public QAccessibleWidget {
  public:
@@ -58,6 +61,12 @@ class IslandAnnouncer {
     /// Compares the game with what was told last.
     void Announce(BoardView& view);
 
+    /// Tells on the focused island, or on the board when there is none, what the status line says.
+    void AnnounceStatus(BoardView& view);
+
+    /// The island whose description that is, until the focus goes elsewhere; 0 for none.
+    CellNumber StatusIsland() const { return statusIsland_; }
+
     /// The board has just received the keyboard: its island is told again.
     void ForgetFocus() { focused_ = 0; }
 
@@ -70,6 +79,7 @@ class IslandAnnouncer {
     std::uint64_t undoRevision_ = 0;
     PerCell<int> bridges_;
     CellNumber focused_ = 0;
+    CellNumber statusIsland_ = 0;
 };
 
 }  // namespace tidewalk

@@ -27,6 +27,10 @@ class BoardView final : public QWidget {
     /// Takes its place in the container from the game, with a new backing picture if the size is another one.
     void Place();
 
+    /// Tells screen readers on the focused island what the status line says.
+    void AnnounceStatus() { announcer_.AnnounceStatus(*this); }
+    CellNumber StatusIsland() const { return announcer_.StatusIsland(); }
+
     /// While switched off the board takes neither mouse nor keys.
     void SetTakesMouse(bool takes) { takesMouse_ = takes; }
 

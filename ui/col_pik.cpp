@@ -24,7 +24,7 @@ ColPik::ColPik(QWidget* parent) : QWidget(parent), swatch_(new QLabel) {
     auto* const layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     AddChannel(layout, 0, tr("&Red"), "red");
-    AddChannel(layout, 1, tr("&Green"), "green");
+    AddChannel(layout, 1, tr("Gr&een"), "green");
     AddChannel(layout, 2, tr("&Blue"), "blue");
     swatch_->setObjectName("swatch");
     swatch_->setAlignment(Qt::AlignCenter);

@@ -2,7 +2,9 @@
 #include "ui/command_line.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
+#include <filesystem>
+
+#include "ui/file_name.h"
 
 namespace tidewalk {
 
@@ -44,7 +46,16 @@ CommandLine Wrong(const QString& text) {
 }
 
 QString Absolute(const QString& path) {
-    return QFileInfo(path).absoluteFilePath();
+    return FileNameText(std::filesystem::absolute(FileNameBytes(path)).lexically_normal().string());
+}
+
+/// The first of the names that have to be UTF-8 and are not; "" when all are.
+QString StrangeName(const CommandLine& line) {
+    const QString output = line.output ? line.output->file : "";
+    for (const QString& name : {line.folder.value_or(""), line.screenshot.value_or(""), output}) {
+        if (!IsPlainFileName(name)) return name;
+    }
+    return "";
 }
 
 /// Reads what `--picture` and `--pdf` ask for. "" when all is well, else what is wrong.
@@ -101,14 +112,14 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     if (!isNumber) return Wrong("The seed is no number: " + parser.value(known.seed));
     if (!positional.isEmpty() && positional.at(0).isEmpty()) return Wrong("The collection has no name");
     if (const QString wrong = ReadOutput(known, positional, line); !wrong.isEmpty()) return Wrong(wrong);
-    if (line.output) return line;
-    if (positional.size() == 2) line.puzzleNumber = positional.at(1).toInt(&isNumber);
+    if (positional.size() == 2 && !line.output) line.puzzleNumber = positional.at(1).toInt(&isNumber);
     if (!isNumber || line.puzzleNumber.value_or(1) < 1) return Wrong("This is no puzzle number: " + positional.at(1));
     if (!positional.isEmpty()) line.collection = Absolute(positional.at(0));
     if (parser.isSet(known.folder)) line.folder = Absolute(parser.value(known.folder));
     if (parser.isSet(known.screenshot)) line.screenshot = Absolute(parser.value(known.screenshot));
     line.namesPlatform = parser.isSet("platform");
-    return line;
+    const QString strange = StrangeName(line);
+    return strange.isEmpty() ? line : Wrong("Only a collection may have a name that is not in UTF-8: " + strange);
 }
 
 }  // namespace tidewalk

@@ -25,7 +25,8 @@ struct CommandLine {
     bool namesPlatform = false;         ///< Qt was told where to show its windows
 };
 
-/// Reads the arguments, the program's name first. Paths are made absolute from the current directory.
+/// Reads the arguments, the program's name first, each a `FileNameText`. Paths are made absolute from the current
+/// directory. The collection may have any name that a file can have; what is to be written has one in UTF-8.
 CommandLine ParseCommandLine(const QStringList& arguments);
 
 }  // namespace tidewalk

@@ -30,10 +30,10 @@ struct Command {
     const char* menu = "";  ///< "Puzzle" or "Puzzle/Maintenance"; "" for none
     const char* name = "";  ///< the control's name, without the index
     int index = kNoIndex;   ///< its place in a control array; the object name then ends in it
-    const char* text = "";  ///< in the menu; "-" for a separator
+    const char* text = "";  ///< in the menu, with the mark of its letter; "-" for a separator
     int bar = 0;            ///< its place in the tool bar, counted from the left; 0 for none
     const char* icon = "";
-    const char* toolTip = "";  ///< "caption|hint"; the text if empty
+    const char* toolTip = "";  ///< "caption|hint" of the tool bar's control
     QList<QKeySequence> keys = {};
     MouseButton button = MouseButton::Left;    ///< what the menu item stands for
     Handler handler = nullptr;                 ///< on a click or on release

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/form1.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDropEvent>
-#include <QFile>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -21,12 +21,14 @@
 #include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "generator/new_puzzle.h"
 #include "program/exit.h"
 #include "ui/box_control.h"
 #include "ui/icons.h"
 #include "ui/lines_view.h"
+#include "ui/mnemonic.h"
 #include "ui/tool_tip.h"
 
 namespace tidewalk {
@@ -40,25 +42,33 @@ LineSource SourceOf(const ListBox& list) {
             [&list](int line) { return list.Lines()[static_cast<std::size_t>(line)]; }};
 }
 
-LineSource SourceOf(const History& history) {
+/// A move as a screen reader says it: the islands are places, not numbers of cells.
+QString Spoken(const UndoRecord& move, const Puzzle& puzzle) {
+    const CellPlace a = puzzle.PlaceOf(move.a);
+    const CellPlace b = puzzle.PlaceOf(move.b);
+    return Form1::tr("row %1, column %2 and row %3, column %4 had %5")
+        .arg(a.row)
+        .arg(a.col)
+        .arg(b.row)
+        .arg(b.col)
+        .arg(move.state);
+}
+
+LineSource SourceOf(const Board& board) {
+    const History& history = board.history;
+    const auto move = [&history](int line) { return history.UndoList()[static_cast<std::size_t>(line)]; };
     return {[&history] { return history.Revision(); },
             [&history] { return static_cast<int>(history.UndoList().size()); },
-            [&history](int line) { return Text(history.UndoList()[static_cast<std::size_t>(line)]); }};
+            [move](int line) { return Text(move(line)); },
+            [move, &board](int line) { return Spoken(move(line), board.puzzle); }};
 }
 
-QString ToolTipOf(const Command& command) {
-    return QLatin1String(*command.toolTip != '\0' ? command.toolTip : command.text);
-}
-
-/// The title with a mark before its first letter that no other menu of the bar is opened with.
-QString WithMnemonic(const QString& title, const QMenuBar& bar) {
+/// The title of a menu with the mark of a letter that leads to nothing else in `place`, the bar or another menu.
+QString TitleIn(const QWidget& place, const QString& title) {
     QString taken;
-    for (const QAction* const menu : bar.actions())
-        taken += menu->text().section('&', 1).left(1);
-    for (qsizetype at = 0; at < title.size(); ++at) {
-        if (!taken.contains(title.at(at), Qt::CaseInsensitive)) return title.left(at) + "&" + title.mid(at);
-    }
-    return title;
+    for (const QAction* const action : place.actions())
+        taken += action->text().section('&', 1).left(1);
+    return WithMnemonic(title, taken);
 }
 
 /// A text box as wide as `sample`.
@@ -92,11 +102,12 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
     AddMenus();
     AddToolBar();
     AddCentre();
-    AddDock(list1_, tr("Work list 1"));
-    AddDock(list2_, tr("Work list 2"));
+    AddDock(list1_, tr("Work list &1"));
+    AddDock(list2_, tr("Work list &2"));
     AddStatusLine();
     connect(&handlers_, &Handlers::Changed, this, &Form1::RefreshLists);
     connect(&handlers_, &Handlers::Changed, this, &Form1::RefreshCommands);
+    connect(&handlers_, &Handlers::Changed, this, &Form1::AnnounceStatus);
     setAcceptDrops(true);
     connect(&handlers_, &Handlers::Ending, this, &QWidget::hide);
     container_->Board().setFocus();
@@ -116,7 +127,12 @@ QMenu* Form1::MenuAt(const QString& path) {
     if (menu != nullptr) return menu;
     const QString parent = path.section('/', 0, -2);
     const QString title = path.section('/', -1);
-    menu = parent.isEmpty() ? menuBar()->addMenu(WithMnemonic(title, *menuBar())) : MenuAt(parent)->addMenu(title);
+    if (parent.isEmpty()) {
+        menu = menuBar()->addMenu(TitleIn(*menuBar(), title));
+    } else {
+        QMenu* const around = MenuAt(parent);
+        menu = around->addMenu(TitleIn(*around, title));
+    }
     return menu;
 }
 
@@ -157,8 +173,8 @@ QWidget* Form1::BarWidget(const Command& command) {
         if (box->objectName() == command.ObjectName()) control = box;
     }
     if (control == nullptr) control = BarButton(command);
-    const QString toolTip = ToolTipOf(command);
-    control->setToolTip(ToolTipText(toolTip));
+    const QString toolTip = command.toolTip;
+    GiveToolTip(*control, toolTip);
     control->setAccessibleName(CaptionOf(toolTip));
     return control;
 }
@@ -215,13 +231,13 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
 void Form1::AddCentre() {
     auto* const side = new QWidget;
     auto* const sideLayout = new QVBoxLayout(side);
-    auto* const title = new QLabel(tr("Undo list"));
+    auto* const title = new QLabel(tr("&Undo list"));
     title->setBuddy(undoList_);
     sideLayout->setContentsMargins(4, 4, 4, 4);
     sideLayout->addWidget(title);
     sideLayout->addWidget(undoList_);
     undoList_->setAccessibleName(tr("Undo list"));
-    undoList_->setToolTip(ToolTipText(tr("Moves that can be taken back|Two islands and the bridges before the move")));
+    GiveToolTip(*undoList_, tr("Moves that can be taken back|Two islands and the bridges before the move"));
     auto* const splitter = new QSplitter;
     splitter->addWidget(container_);
     splitter->addWidget(side);
@@ -232,7 +248,8 @@ void Form1::AddCentre() {
     setCentralWidget(splitter);
 }
 
-void Form1::AddDock(LinesView* list, const QString& title) {
+void Form1::AddDock(LinesView* list, const QString& caption) {
+    const QString title = QString(caption).remove('&');
     auto* const dock = new QDockWidget(title);
     dock->setObjectName("dock" + list->objectName());
     dock->setWidget(list);
@@ -241,6 +258,7 @@ void Form1::AddDock(LinesView* list, const QString& title) {
     dock->hide();
     QAction* const toggle = dock->toggleViewAction();
     toggle->setObjectName("view" + list->objectName());
+    toggle->setText(caption);
     MenuAt("Tide/View")->addAction(toggle);
     connect(toggle, &QAction::triggered, this, [this, dock](bool shown) {
         if (shown) MakeRoomFor(dock);
@@ -269,14 +287,12 @@ void Form1::AddStatusLine() {
     pb_->setForegroundRole(QPalette::Text);
     pb_->setMargin(3);
     pb_->setMinimumWidth(1);
-    pb_->setAccessibleName(tr("Status"));
     progress_->setObjectName("Progress");
     progress_->setMaximumWidth(kProgressWidth);
     progress_->hide();
     puzfile_->setObjectName("Puzfile");
     puzfile_->setTextFormat(Qt::PlainText);
     puzfile_->setMargin(3);
-    puzfile_->setAccessibleName(tr("Puzzle file"));
     statusBar()->addWidget(pb_, 1);
     statusBar()->addWidget(progress_);
     statusBar()->addPermanentWidget(puzfile_);
@@ -304,10 +320,11 @@ QString Form1::TextOf(WindowText which) const {
 
 void Form1::SetTextOf(WindowText which, const QString& text) {
     WidgetOf(which)->setProperty("text", text);
+    if (which == WindowText::Status) statusIsNew_ = !text.isEmpty();
 }
 
 void Form1::SetToolTipOf(WindowText which, const QString& toolTip) {
-    WidgetOf(which)->setToolTip(PlainTipText(toolTip));
+    GivePlainTip(*WidgetOf(which), toolTip);
 }
 
 void Form1::SetProgress(int done, int total) {
@@ -317,7 +334,7 @@ void Form1::SetProgress(int done, int total) {
 }
 
 void Form1::Show(Game& game) {
-    undoList_->SetSource(SourceOf(game.board.history));
+    undoList_->SetSource(SourceOf(game.board));
     list1_->SetSource(SourceOf(game.List1));
     list2_->SetSource(SourceOf(game.List2));
 }
@@ -326,6 +343,16 @@ void Form1::RefreshLists() {
     for (LinesView* const list : {undoList_, list1_, list2_}) {
         if (list->isVisible()) list->Refresh();
     }
+}
+
+/// What a command has said in the end is told to screen readers, where the keyboard's focus is too: not all of them
+/// listen to alerts.
+void Form1::AnnounceStatus() {
+    if (!std::exchange(statusIsNew_, false)) return;
+    pb_->setAccessibleDescription(FramedIslandName(*handlers_.game()));
+    QAccessibleEvent alert(pb_, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+    container_->Board().AnnounceStatus();
 }
 
 void Form1::RefreshCommands() {
@@ -349,20 +376,24 @@ void Form1::TakeDefaultSize() {
     // On a small screen the board gives way, but not the tool bar's last buttons.
     const int bar = std::min(findChild<QToolBar*>()->sizeHint().width(), room.width());
     resize(std::max(wanted.width() - less, bar), wanted.height() - less);
+    // Boards are fitted to the container's width, so what the bar needs beyond a square goes to the list.
+    const int side = container_->sizeHint().width() - less;
+    findChild<QSplitter*>()->setSizes({side, width() - side});
 }
 
-/// The one file of a drop, or "".
-QString Form1::DroppedFile(const QDropEvent& event) {
+/// The path of the one file of a drop, byte for byte, or "".
+std::string Form1::DroppedFile(const QDropEvent& event) {
     const QList<QUrl> urls = event.mimeData()->urls();
-    return urls.size() == 1 && urls.first().isLocalFile() ? urls.first().toLocalFile() : QString();
+    if (urls.size() != 1 || !urls.first().isLocalFile()) return "";
+    return QByteArray::fromPercentEncoding(urls.first().path(QUrl::FullyEncoded).toLatin1()).toStdString();
 }
 
 void Form1::dragEnterEvent(QDragEnterEvent* event) {
-    if (!DroppedFile(*event).isEmpty()) event->acceptProposedAction();
+    if (!DroppedFile(*event).empty()) event->acceptProposedAction();
 }
 
 void Form1::dropEvent(QDropEvent* event) {
-    const std::string path = QFile::encodeName(DroppedFile(*event)).toStdString();
+    const std::string path = DroppedFile(*event);
     event->acceptProposedAction();
     // The program that the file was dragged from waits until this returns.
     QTimer::singleShot(0, this, [this, path] { handlers_.Run([&](Game& game) { OpenChosen(game, path); }); });

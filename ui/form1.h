@@ -60,13 +60,14 @@ class Form1 final : public QMainWindow {
     void AddNumberBox();
     void AddSizeBox();
     void AddCentre();
-    void AddDock(LinesView* list, const QString& title);
+    void AddDock(LinesView* list, const QString& caption);
     void MakeRoomFor(const QDockWidget* dock);
     void AddStatusLine();
     void RefreshLists();
     void RefreshCommands();
+    void AnnounceStatus();
     QWidget* WidgetOf(WindowText which) const;
-    static QString DroppedFile(const QDropEvent& event);
+    static std::string DroppedFile(const QDropEvent& event);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     Handlers& handlers_;
@@ -82,6 +83,7 @@ class Form1 final : public QMainWindow {
     QLabel* puzNumber_;
     QLabel* puzfile_;
     QLineEdit* gridSize_;
+    bool statusIsNew_ = false;  ///< it says something that was not announced yet
 };
 
 }  // namespace tidewalk

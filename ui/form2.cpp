@@ -12,6 +12,7 @@
 #include <QSignalBlocker>
 #include <QToolTip>
 
+#include "options/colour_scheme.h"
 #include "ui/colours.h"
 #include "ui/tool_tip.h"
 
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int kDarker = 1;
 constexpr int kLighter = 2;
+constexpr Colour kNearlyWhite = Rgb(254, 254, 254);  ///< a button's white, where white itself stands for no colour
 
 }  // namespace
 
@@ -34,10 +36,10 @@ Form2::Form2(Handlers& handlers, QWidget* parent)
       label1_(new Swatch(Swatch::Shape::Number, "Label1")),
       label2_(new Swatch(Swatch::Shape::Island, "Label2")),
       text3_(new QLineEdit),
-      option1_(new QRadioButton("Square")),
-      option2_(new QRadioButton("Circle")),
-      check1_(new QCheckBox("Show")),
-      check2_(new QCheckBox(tr("Paler"))) {
+      option1_(new QRadioButton("&Square")),
+      option2_(new QRadioButton("&Circle")),
+      check1_(new QCheckBox("Sho&w")),
+      check2_(new QCheckBox(tr("&Paler"))) {
     setObjectName("Form2");
     setWindowTitle("Tide Options");
     auto* const small = new QHBoxLayout;
@@ -57,16 +59,16 @@ Form2::Form2(Handlers& handlers, QWidget* parent)
 QPushButton* Form2::AddButton(const char* name, const QString& text, const QString& toolTip) {
     auto* const button = new QPushButton(text);
     button->setObjectName(name);
-    button->setToolTip(ToolTipText(toolTip));
+    GiveToolTip(*button, toolTip);
     button->setAutoDefault(false);
     return button;
 }
 
 QWidget* Form2::SchemeBox() {
-    auto* const box = new QGroupBox(tr("Colour scheme"));
+    auto* const box = new QGroupBox(tr("Colour sche&me"));
     auto* const row = new QHBoxLayout(box);
     combo1_->setObjectName("Combo1");
-    combo1_->setToolTip(tr("Colour scheme"));
+    GiveToolTip(*combo1_, tr("Colour scheme|The colours of the windows"));
     combo1_->setAccessibleName(tr("Colour scheme"));
     row->addWidget(combo1_, 1);
     for (const int index : {kDarker, kLighter}) {
@@ -144,18 +146,18 @@ QWidget* Form2::FinishedBox() {
     auto* const box = new QGroupBox(tr("Finished islands"));
     auto* const layout = new QVBoxLayout(box);
     check2_->setObjectName("Check2");
-    check2_->setToolTip(tr("Show islands with all their bridges paler"));
+    GiveToolTip(*check2_, tr("Show islands with all their bridges paler"));
     layout->addWidget(check2_);
     layout->addStretch();
     return box;
 }
 
 QWidget* Form2::PrintBox() {
-    auto* const box = new QGroupBox(tr("Printed line width"));
+    auto* const box = new QGroupBox(tr("Printed line w&idth"));
     auto* const layout = new QVBoxLayout(box);
     text3_->setObjectName("Text3");
-    text3_->setToolTip("Set line width for printer puzzles");
-    text3_->setAccessibleName(text3_->toolTip());
+    GiveToolTip(*text3_, "Set line width for printer puzzles");
+    text3_->setAccessibleName(text3_->accessibleDescription());
     text3_->setValidator(new QIntValidator(1, kWidestPrintLine, text3_));
     layout->addWidget(text3_);
     layout->addStretch();
@@ -164,9 +166,9 @@ QWidget* Form2::PrintBox() {
 
 QLayout* Form2::ButtonRow() {
     auto* const row = new QHBoxLayout;
-    auto* const reset = AddButton("reset", tr("&Reset"), "Apply default options and exit");
+    auto* const reset = AddButton("reset", tr("Rese&t"), "Apply default options and exit");
     auto* const apply = AddButton("command1", tr("&Apply"), tr("Apply the options and close"));
-    auto* const close = AddButton("command2", tr("Close"), tr("Close and leave the options as they were"));
+    auto* const close = AddButton("command2", tr("Cl&ose"), tr("Close and leave the options as they were"));
     apply->setDefault(true);
     row->addWidget(reset);
     row->addStretch();
@@ -187,7 +189,12 @@ QLayout* Form2::ButtonRow() {
 
 void Form2::AdjustBrightness(int index) {
     TakeControls();
+    // Where a button has the desktop's colour, that is what is made lighter or darker, and no white that stands for it.
+    Colour& face = form_.draft.SchemeColours[static_cast<std::size_t>(form_.draft.AdjustIndex)];
+    if (const Game* const game = handlers_.game()) face = FormColours(*game, form_).face;
     cmdadjust4_Click(form_, index);
+    if (face == kWhite && IsDefaultScheme(form_.draft.ColourSchemeName))
+        face = form_.draft.SchemeColours[kAdjustedEntry] = kNearlyWhite;
     ShowForm();
 }
 
@@ -221,9 +228,6 @@ void Form2::ShowForm() {
     label2_->Show(form_.Label2, background, form_.Label2, form_.Option2);
     // The window wears the scheme that is chosen, before the others do.
     if (const Game* const game = handlers_.game()) ColourFrame(*this, FormColours(*game, form_));
-    QPalette face;
-    face.setColor(QPalette::Button, ToQColor(form_.AdjustedColour()));
-    combo1_->setPalette(face);
 }
 
 void Form2::Open() {

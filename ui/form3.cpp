@@ -3,7 +3,6 @@
 
 #include <QComboBox>
 #include <QEvent>
-#include <QFile>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -11,6 +10,8 @@
 #include <QPushButton>
 
 #include "generator/batch.h"
+#include "ui/file_name.h"
+#include "ui/tool_tip.h"
 
 namespace tidewalk {
 
@@ -62,7 +63,7 @@ void Form3::AddFields(QFormLayout* form) {
     fileNow_->setMinimumWidth(kFileWidth);
     auto* const pick = new QPushButton(tr("&Browse ..."));
     pick->setObjectName("gf1");
-    pick->setToolTip(tr("Select an output Puzzle file"));
+    GiveToolTip(*pick, tr("Select an output Puzzle file"));
     pick->setAutoDefault(false);
     connect(pick, &QPushButton::clicked, this, &Form3::Gf1);
     auto* const file = new QHBoxLayout;
@@ -79,11 +80,11 @@ void Form3::AddFields(QFormLayout* form) {
 }
 
 void Form3::AddButtons(QFormLayout* form) {
-    auto* const ok = new QPushButton(tr("OK"));
+    auto* const ok = new QPushButton(tr("&OK"));
     ok->setObjectName("Command1");
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &Form3::Command1);
-    auto* const leave = new QPushButton(tr("Cancel"));
+    auto* const leave = new QPushButton(tr("Cance&l"));
     leave->setObjectName("command2");
     connect(leave, &QPushButton::clicked, this, &QDialog::reject);
     auto* const row = new QHBoxLayout;
@@ -113,11 +114,11 @@ bool Form3::Ask(BatchRequest& request) {
 
 BatchRequest Form3::Typed() const {
     return {text1_->text().toStdString(), combo1_->currentText().toStdString(), combo2_->currentText().toStdString(),
-            QFile::encodeName(fileNow_->text()).toStdString()};
+            FileNameBytes(fileNow_->text())};
 }
 
 void Form3::Show(const BatchRequest& request) {
-    fileNow_->setText(QFile::decodeName(request.outputFile.c_str()));
+    fileNow_->setText(FileNameText(request.outputFile));
 }
 
 void Form3::Command1() {

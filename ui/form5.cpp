@@ -2,11 +2,11 @@
 #include "ui/form5.h"
 
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QGridLayout>
 #include <QPushButton>
 
 #include "board/copy_and_print.h"
+#include "ui/file_name.h"
 
 namespace tidewalk {
 
@@ -38,7 +38,7 @@ Form5::Form5(Handlers& handlers, PrintRequest& request, QWidget* parent)
       fileNow_(Named(new QLineEdit, "FileNow", tr("File"))),
       text1_(Named(new QLineEdit, "Text1", tr("First puzzle"))),
       text2_(Named(new QLineEdit, "Text2", tr("Last puzzle"))),
-      count_(Named(new QLabel, "Count", tr("Puzzles in the file"))),
+      count_(Named(new QLabel, "Count", {})),
       combo1_(Named(new QComboBox, "Combo1", tr("Printer"))) {
     setObjectName("Form5");
     setWindowTitle(tr("Print Puzzles From File"));
@@ -65,10 +65,14 @@ void Form5::AddControls() {
     range->addWidget(count_);
     range->addStretch();
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-    Named(buttons->button(QDialogButtonBox::Ok), "Command1", tr("OK"));
-    Named(buttons->button(QDialogButtonBox::Cancel), "command2", tr("Cancel"));
+    auto* const ok = buttons->button(QDialogButtonBox::Ok);
+    auto* const cancel = buttons->button(QDialogButtonBox::Cancel);
+    ok->setText(tr("&OK"));
+    cancel->setText(tr("&Cancel"));
+    ok->setObjectName("Command1");
+    cancel->setObjectName("command2");
     // Some desktops put pictures on these two, and on no other button of the program.
-    for (QAbstractButton* const button : buttons->buttons())
+    for (QPushButton* const button : {ok, cancel})
         button->setIcon({});
 
     auto* const grid = new QGridLayout(this);
@@ -87,7 +91,7 @@ void Form5::AddControls() {
 }
 
 void Form5::Show() {
-    fileNow_->setText(QFile::decodeName(request_.collection.c_str()));
+    fileNow_->setText(FileNameText(request_.collection));
     text1_->setText(QString::fromStdString(request_.first));
     text2_->setText(QString::fromStdString(request_.last));
     count_->setText(tr("of %1").arg(request_.puzzleCount));
@@ -95,7 +99,7 @@ void Form5::Show() {
 }
 
 void Form5::Take() {
-    request_.collection = QFile::encodeName(fileNow_->text()).toStdString();
+    request_.collection = FileNameBytes(fileNow_->text());
     request_.first = text1_->text().toStdString();
     request_.last = text2_->text().toStdString();
     request_.printer = combo1_->currentText().toStdString();

@@ -60,7 +60,7 @@ void Form6::AddSizes(QLayout* row) {
 QPushButton* Form6::AddButton(const char* name, const QString& text, const QString& toolTip) {
     auto* const button = new QPushButton(text);
     button->setObjectName(name);
-    button->setToolTip(ToolTipText(toolTip));
+    GiveToolTip(*button, toolTip);
     // Enter belongs to the grid; it must not press a button that the player does not look at.
     button->setAutoDefault(false);
     return button;
@@ -82,11 +82,11 @@ void Form6::AddButtons(QVBoxLayout* column) {
         [this](Game& game) { LoadNumberGrid(game, grid_); });
     add("cmdsave6", tr("&Save ..."), tr("Write this grid to a file"),
         [this](Game& game) { SaveNumberGrid(game, grid_); });
-    add("cmdcurrent", tr("&Current Puzzle"), tr("Take the numbers of the puzzle in the main window"),
+    add("cmdcurrent", tr("Current &Puzzle"), tr("Take the numbers of the puzzle in the main window"),
         [this](Game& game) { EditCurrentPuzzle(game, grid_); });
     add("cmdclear", tr("Cl&ear"), tr("Make every cell water"), [this](Game&) { grid_.Clear(); });
     column->addStretch();
-    add("cmdclose", tr("Close"), tr("Close and keep what was typed"), [this](Game&) { reject(); });
+    add("cmdclose", tr("Cl&ose"), tr("Close and keep what was typed"), [this](Game&) { reject(); });
 }
 
 /// The grid may have another size now.

@@ -6,9 +6,11 @@
 #include <QEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QSvgRenderer>
 #include <QVBoxLayout>
 
 namespace tidewalk {
@@ -20,9 +22,37 @@ constexpr int kHeight = 720;
 constexpr int kScreenShare = 90;  ///< per cent of the screen that the window may take
 constexpr int kPageMargin = 14;
 
+/// The picture of a file at a screen's pixel ratio; a null one for what is no picture.
+QPixmap DrawnAt(const QString& file, double ratio) {
+    constexpr double kMadeFor = 2;  // the ratio that the page's pictures of pixels are made for
+    QPixmap drawn;
+    if (file.endsWith(".svg")) {
+        QSvgRenderer picture(file);
+        if (!picture.isValid()) return {};
+        drawn = QPixmap(picture.viewBox().size() * ratio);
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        picture.render(&painter);
+    } else if (drawn.load(file)) {
+        drawn = drawn.scaled(drawn.size() * (ratio / kMadeFor), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    }
+    drawn.setDevicePixelRatio(ratio);
+    return drawn;
+}
+
+/// The page. It draws its pictures at the screen's own pixel ratio; Qt would draw them once and scale what it has.
+class HelpPage final : public QTextBrowser {
+ public:
+    QVariant loadResource(int type, const QUrl& name) override {
+        if (type != QTextDocument::ImageResource) return QTextBrowser::loadResource(type, name);
+        const QPixmap drawn = DrawnAt(source().resolved(name).toLocalFile(), devicePixelRatioF());
+        return drawn.isNull() ? QVariant() : drawn;
+    }
+};
+
 }  // namespace
 
-HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), browser_(new QTextBrowser) {
+HelpWindow::HelpWindow(QWidget* parent) : QDialog(parent), browser_(new HelpPage) {
     setObjectName("WebBrowser");
     setWindowTitle(tr("Help"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -39,7 +69,7 @@ void HelpWindow::AddControls() {
     auto* const back = new QPushButton(tr("&Back"));
     auto* const forward = new QPushButton(tr("&Forward"));
     auto* const home = new QPushButton(tr("&Contents"));
-    auto* const close = new QPushButton(tr("Close"));
+    auto* const close = new QPushButton(tr("C&lose"));
     back->setObjectName("HelpBack");
     forward->setObjectName("HelpForward");
     home->setObjectName("HelpHome");

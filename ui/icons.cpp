@@ -4,16 +4,15 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
 #include <QSvgRenderer>
-#include <initializer_list>
+#include <memory>
 
 namespace tidewalk {
 
 namespace {
-
-constexpr std::initializer_list<int> kSides = {16, 20, 24, 32, 40, 48, 64, 96, 128};
 
 /// The bytes of the picture with the strokes in `colour`. Qt draws `currentColor` black whatever the palette says.
 QByteArray PictureBytes(const QString& name, const QColor& colour) {
@@ -22,57 +21,65 @@ QByteArray PictureBytes(const QString& name, const QColor& colour) {
     return file.readAll().replace("currentColor", colour.name().toLatin1());
 }
 
-void AddPixmaps(QIcon& icon, const QByteArray& bytes, QIcon::Mode mode, double opacity) {
-    QSvgRenderer renderer(bytes);
-    if (!renderer.isValid()) return;
-    for (const int side : kSides) {
-        QPixmap pixmap(side, side);
+/// Draws the picture anew in whatever size it is asked for: pixmaps of a few sizes would be scaled, and blurred, where
+/// a screen has one and a half pixels for each.
+class PictureEngine final : public QIconEngine {
+ public:
+    explicit PictureEngine(const QByteArray& bytes) : picture_(std::make_shared<QSvgRenderer>(bytes)) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+        constexpr double kDisabledOpacity = 0.35;
+        painter->save();
+        if (mode == QIcon::Disabled) painter->setOpacity(painter->opacity() * kDisabledOpacity);
+        picture_->render(painter, rect);
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        painter.setOpacity(opacity);
-        renderer.render(&painter);
-        painter.end();
-        icon.addPixmap(pixmap, mode);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
     }
-}
+
+    QIconEngine* clone() const override { return new PictureEngine(*this); }
+
+ private:
+    std::shared_ptr<QSvgRenderer> picture_;
+};
 
 using Icons = QHash<QString, QIcon>;
 
-/// The icons that were drawn already, by name and colour. Menus and tool bar share most of them, and every dialog that
+/// The icons that were read already, by name and colour. Menus and tool bar share most of them, and every dialog that
 /// opens asks for all of them again. They go with the application, which pictures must not outlive.
-Icons& DrawnIcons() {
+Icons& ReadIcons() {
     constexpr qsizetype kMost = 200;
-    static Icons* drawn = nullptr;
-    if (drawn == nullptr) {
-        drawn = new Icons;
+    static Icons* read = nullptr;
+    if (read == nullptr) {
+        read = new Icons;
         qAddPostRoutine([] {
-            delete drawn;
-            drawn = nullptr;
+            delete read;
+            read = nullptr;
         });
     }
     // Colours come and go with the schemes that are tried.
-    if (drawn->size() >= kMost) drawn->clear();
-    return *drawn;
+    if (read->size() >= kMost) read->clear();
+    return *read;
 }
 
 }  // namespace
 
 QIcon MakeIcon(const QString& name, const QPalette& palette) {
-    constexpr double kDisabledOpacity = 0.35;
     const QColor colour = palette.color(QPalette::Active, QPalette::ButtonText);
-    QIcon& icon = DrawnIcons()[name + colour.name()];
-    if (!icon.isNull()) return icon;
-    const QByteArray bytes = PictureBytes(name, colour);
-    if (bytes.isEmpty()) return icon;
-    AddPixmaps(icon, bytes, QIcon::Normal, 1);
-    AddPixmaps(icon, bytes, QIcon::Disabled, kDisabledOpacity);
+    QIcon& icon = ReadIcons()[name + colour.name()];
+    const QByteArray bytes = icon.isNull() ? PictureBytes(name, colour) : QByteArray();
+    if (!bytes.isEmpty()) icon = QIcon(new PictureEngine(bytes));
     return icon;
 }
 
 QIcon ProgramIcon() {
-    QIcon icon;
-    AddPixmaps(icon, PictureBytes("tidewalk", Qt::black), QIcon::Normal, 1);
-    return icon;
+    return QIcon(new PictureEngine(PictureBytes("tidewalk", Qt::black)));
 }
 
 }  // namespace tidewalk

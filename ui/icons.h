@@ -8,7 +8,7 @@
 
 namespace tidewalk {
 
-/// The icon `name` in the text colour of `palette`, sharp at every usual size and pixel ratio. A name without a picture
+/// The icon `name` in the text colour of `palette`, sharp at every size and pixel ratio. A name without a picture
 /// gives a null icon.
 QIcon MakeIcon(const QString& name, const QPalette& palette);
 

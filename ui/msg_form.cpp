@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "ui/icons.h"
+#include "ui/mnemonic.h"
 
 namespace tidewalk {
 
@@ -103,10 +104,11 @@ void MsgForm::AddText(QHBoxLayout* row) {
 void MsgForm::AddButtons(QHBoxLayout* row) {
     row->addStretch();
     int index = 0;
+    QString taken;
     for (const MessageButton& button : style_.buttons) {
         const QString caption =
             QString::fromLatin1(button.caption.data(), static_cast<qsizetype>(button.caption.size()));
-        auto* const control = new QPushButton(caption);
+        auto* const control = new QPushButton(WithMnemonic(caption, taken));
         control->setObjectName("cmd" + QString::number(index));
         control->setProperty("Tag", QString::number(button.code));
         control->setAutoDefault(true);

@@ -27,6 +27,9 @@ class NumberGridView final : public QWidget {
 
  private:
     bool TakeKey(const QKeyEvent& event);
+    void Show();
+    double Whole(double pixels) const;
+    double LineWidth() const;
     /// The side of a cell in pixels, and where the grid begins.
     double CellSide() const;
     QPointF Corner() const;

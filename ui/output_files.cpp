@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ui/output_files.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QSaveFile>
 
@@ -12,6 +11,7 @@
 #include "model/line_reader.h"
 #include "model/puzzle_range.h"
 #include "options/options.h"
+#include "ui/file_name.h"
 #include "ui/paper.h"
 #include "ui/picture.h"
 #include "ui/save_file.h"
@@ -20,12 +20,8 @@ namespace tidewalk {
 
 namespace {
 
-std::string FileName(const QString& name) {
-    return QFile::encodeName(name).toStdString();
-}
-
 QString WritePictureFile(const OutputOrder& order) {
-    const std::string path = FileName(order.collection);
+    const std::string path = FileNameBytes(order.collection);
     const auto puzzle = ReadPuzzle(path, order.from);
     if (!puzzle) {
         return QString("Puzzle %1 of %2 is missing or cannot be read").arg(order.from).arg(order.collection);
@@ -43,9 +39,9 @@ QString WritePictureFile(const OutputOrder& order) {
 }
 
 QString WritePages(const OutputOrder& order) {
-    const std::string path = FileName(order.collection);
+    const std::string path = FileNameBytes(order.collection);
     std::string error;
-    const auto document = BeginPdf(FileName(order.file), error);
+    const auto document = BeginPdf(FileNameBytes(order.file), error);
     if (!document) return QString("The pages could not be written: %1").arg(QString::fromStdString(error));
     QStringList broken;
     const auto page = [&](int number) {
@@ -65,7 +61,7 @@ QString WritePages(const OutputOrder& order) {
 int CountPuzzles(const QString& collection, int wanted) {
     int count = 0;
     try {
-        LineReader lines(FileName(collection));
+        LineReader lines(FileNameBytes(collection));
         while (count < wanted && lines.Skip())
             ++count;
     } catch (const FileError&) {

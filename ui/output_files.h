@@ -12,7 +12,7 @@ struct OutputOrder {
 
     Kind kind = Kind::Picture;
     QString file;
-    QString collection;
+    QString collection;  ///< a `FileNameText`
     int from = 1;
     int to = 1;  ///< a picture has one puzzle: `from`
     bool solution = false;

@@ -3,7 +3,6 @@
 
 #include <QFile>
 #include <QLocale>
-#include <QPageLayout>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <algorithm>
@@ -27,12 +26,12 @@ class PdfDocument final : public PrintDocument {
     explicit PdfDocument(const QString& path) : file_(path), surface_(kPdfPixelsPerInch, kTwipsPerPen) {}
     ~PdfDocument() override { surface_.SetTarget(nullptr); }
 
-    bool Open() {
+    bool Open(QPageLayout::Orientation orientation) {
         if (!file_.open(QIODevice::WriteOnly)) return false;
         writer_ = std::make_unique<QPdfWriter>(&file_);
         writer_->setResolution(kPdfPixelsPerInch);
         writer_->setCreator(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
-        UseWholeSheets(*writer_, UsualPaper());
+        UseWholeSheets(*writer_, UsualPaper(), orientation);
         surface_.SetTarget(writer_.get());
         StartPainting();
         return true;
@@ -65,9 +64,8 @@ QPageSize UsualPaper(const QPageSize& wanted) {
     return letter ? QPageSize::Letter : QPageSize::A4;
 }
 
-void UseWholeSheets(QPagedPaintDevice& device, const QPageSize& paper) {
-    QPageLayout layout(paper, QPageLayout::Portrait, QMarginsF(), QPageLayout::Point,
-                       device.pageLayout().minimumMargins());
+void UseWholeSheets(QPagedPaintDevice& device, const QPageSize& paper, QPageLayout::Orientation orientation) {
+    QPageLayout layout(paper, orientation, QMarginsF(), QPageLayout::Point, device.pageLayout().minimumMargins());
     layout.setMode(QPageLayout::FullPageMode);
     device.setPageLayout(layout);
 }
@@ -81,14 +79,15 @@ Surface::Area PrintableArea(const QPagedPaintDevice& device) {
             sheet.height() - margin(needed.bottom())};
 }
 
-std::unique_ptr<PrintDocument> BeginPdf(const std::string& path, std::string& error) {
+std::unique_ptr<PrintDocument> BeginPdf(const std::string& path, std::string& error,
+                                        QPageLayout::Orientation orientation) {
     const QString name = QFile::decodeName(path.c_str());
     if (const QString reason = WhyNotReplaceable(name); !reason.isEmpty()) {
         error = (name + "\n" + reason).toStdString();
         return nullptr;
     }
     auto document = std::make_unique<PdfDocument>(name);
-    if (document->Open()) return document;
+    if (document->Open(orientation)) return document;
     error = document->Error();
     return nullptr;
 }

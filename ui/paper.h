@@ -2,6 +2,7 @@
 // Sheets of paper: what fits on them, and documents made of them.
 #pragma once
 
+#include <QPageLayout>
 #include <QPageSize>
 #include <QPagedPaintDevice>
 #include <memory>
@@ -15,7 +16,8 @@ namespace tidewalk {
 QPageSize UsualPaper(const QPageSize& wanted = QPageSize());
 
 /// Lays `device` out for sheets of `paper` that are drawn on from their very corner.
-void UseWholeSheets(QPagedPaintDevice& device, const QPageSize& paper);
+void UseWholeSheets(QPagedPaintDevice& device, const QPageSize& paper,
+                    QPageLayout::Orientation orientation = QPageLayout::Portrait);
 
 /// The rectangle of the device's sheet that can be printed on, in twips: a quarter of an inch, or as much as the device
 /// needs, stays free on each side.
@@ -23,6 +25,7 @@ Surface::Area PrintableArea(const QPagedPaintDevice& device);
 
 /// Begins a PDF document that appears at `path`, complete, at its end. Nothing when the file cannot be written; `error`
 /// then tells why.
-std::unique_ptr<PrintDocument> BeginPdf(const std::string& path, std::string& error);
+std::unique_ptr<PrintDocument> BeginPdf(const std::string& path, std::string& error,
+                                        QPageLayout::Orientation orientation = QPageLayout::Portrait);
 
 }  // namespace tidewalk

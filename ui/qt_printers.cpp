@@ -1,22 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt_printers.h"
 
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 
+#include "board/copy_and_print.h"
 #include "drawing/render_puzzle.h"
 #include "ui/paper.h"
+#include "ui/print_preview.h"
 #include "ui/qt_surface.h"
 
 namespace tidewalk {
 
 namespace {
 
-constexpr int kPreviewWidth = 760;  ///< in pixels
-constexpr int kPreviewHeight = 820;
-
-void SetUp(QPrinter& device, const std::string& name) {
+void SetUp(QPrinter& device, const std::string& name, QPageLayout::Orientation orientation) {
     if (name == kPdfPrinter) {
         device.setOutputFormat(QPrinter::PdfFormat);
     } else {
@@ -24,14 +22,15 @@ void SetUp(QPrinter& device, const std::string& name) {
     }
     device.setCreator(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
     device.setDocName(device.creator());
-    UseWholeSheets(device, UsualPaper(device.pageLayout().pageSize()));
+    UseWholeSheets(device, UsualPaper(device.pageLayout().pageSize()), orientation);
 }
 
 /// A document on a printer of the system.
 class PrinterDocument final : public PrintDocument {
  public:
-    explicit PrinterDocument(const std::string& name) : name_(name), device_(QPrinter::HighResolution) {
-        SetUp(device_, name);
+    PrinterDocument(const std::string& name, QPageLayout::Orientation orientation)
+        : name_(name), device_(QPrinter::HighResolution) {
+        SetUp(device_, name, orientation);
         surface_ = std::make_unique<QtSurface>(device_.resolution(), kTwipsPerPen);
         surface_->SetTarget(&device_);
         // A page that stays empty, the first one too, is a page only if painting has begun.
@@ -80,8 +79,8 @@ std::vector<std::string> QtPrinters::Names() {
 
 std::unique_ptr<PrintDocument> QtPrinters::Begin(const std::string& printer, const std::string& file,
                                                  std::string& error) {
-    if (printer == kPdfPrinter) return BeginPdf(file, error);
-    auto document = std::make_unique<PrinterDocument>(printer);
+    if (printer == kPdfPrinter) return BeginPdf(file, error, orientation_);
+    auto document = std::make_unique<PrinterDocument>(printer, orientation_);
     if (document->Works()) return document;
     error = document->Error();
     return nullptr;
@@ -89,19 +88,19 @@ std::unique_ptr<PrintDocument> QtPrinters::Begin(const std::string& printer, con
 
 void QtPrinters::Preview(const std::string& printer, const PageFunction& draw) {
     QPrinter device(QPrinter::HighResolution);
-    SetUp(device, printer);
-    QPrintPreviewDialog dialog(&device, mainWindow_.data());
-    dialog.setObjectName("PrintPreview");
-    dialog.setWindowTitle(QPrintPreviewDialog::tr("Print Preview"));
-    dialog.resize(kPreviewWidth, kPreviewHeight);
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&draw](QPrinter* target) {
+    SetUp(device, printer, orientation_);
+    PrintPreview dialog(device, mainWindow_.data());
+    QObject::connect(&dialog, &PrintPreview::PaintRequested, &dialog, [&draw](QPrinter* target) {
         QtSurface surface(target->resolution(), kTwipsPerPen);
         surface.SetTarget(target);
         draw(surface, PrintableArea(*target));
         surface.SetTarget(nullptr);
     });
     QObject::connect(&handlers_, &Handlers::Ending, &dialog, &QDialog::reject);
-    dialog.exec();
+    if (dialog.exec() != QDialog::Accepted) return;
+    orientation_ = dialog.Orientation();
+    handlers_.Run(mnuprintcurrent_Click);
+    orientation_ = QPageLayout::Portrait;
 }
 
 }  // namespace tidewalk

@@ -2,6 +2,7 @@
 // The printers of the system, the PDF file among them.
 #pragma once
 
+#include <QPageLayout>
 #include <QPointer>
 #include <QWidget>
 
@@ -19,11 +20,13 @@ class QtPrinters final : public Printers {
     std::vector<std::string> Names() override;
     std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
                                          std::string& error) override;
+    /// The preview may be left by printing the current puzzle as it shows there.
     void Preview(const std::string& printer, const PageFunction& draw) override;
 
  private:
     Handlers& handlers_;
     QPointer<QWidget> mainWindow_;
+    QPageLayout::Orientation orientation_ = QPageLayout::Portrait;  ///< of the documents to come
 };
 
 }  // namespace tidewalk

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ui/tool_tip.h"
 
+#include <QWidget>
+
 namespace tidewalk {
 
 namespace {
@@ -24,6 +26,17 @@ QString ToolTipText(const QString& toolTip) {
 
 QString PlainTipText(const QString& text) {
     return text.isEmpty() ? QString() : kStart + text.toHtmlEscaped() + kEnd;
+}
+
+void GiveToolTip(QWidget& control, const QString& toolTip) {
+    const QString hint = toolTip.section('|', 1);
+    control.setToolTip(ToolTipText(toolTip));
+    control.setAccessibleDescription(hint.isEmpty() ? CaptionOf(toolTip) : hint);
+}
+
+void GivePlainTip(QWidget& control, const QString& text) {
+    control.setToolTip(PlainTipText(text));
+    control.setAccessibleDescription(text);
 }
 
 }  // namespace tidewalk

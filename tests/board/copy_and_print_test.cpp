@@ -133,13 +133,14 @@ TEST_F(Printing, AFailingPrinterSaysWhyAndKeepsTheBoard) {
 
 TEST_F(Printing, ARangeMayHaveBrokenLinesAndNoPuzzleBefore) {
     for (const bool before : {true, false}) {
+        game.collection.PuzzleNumber = 1;
         if (!before) game.collection = {};
         game.world.Expect("Printed 4 puzzles from file:\r\n" + other, kInformation);
         PrintRange({kOther, "no record", " 7, 7, 1;D;2=2....,", "", kOther, kOther}, "2", " 5");
         ASSERT_EQ(game.world.pages.size(), 4U);
         EXPECT_EQ(Content(game.world.pages[0]) + Content(game.world.pages[1]) + Content(game.world.pages[2]), "");
         EXPECT_EQ(Content(game.world.pages[3]), "print 1200 600 Puzzle# 5 file:" + other + " 0|4|2|6");
-        EXPECT_EQ(game.collection.PuzzleNumber, before ? 2 : 0);
+        EXPECT_EQ(game.collection.PuzzleNumber, before ? 1 : 0);
         EXPECT_EQ(game.board.BridgeState(3, 7), 0) << "the puzzle from before is read again";
     }
 }

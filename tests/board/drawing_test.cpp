@@ -41,8 +41,8 @@ TEST(Layout, ACellReachesHalfACellAroundItsIsland) {
     CellUnder(layout, {1e300, -1e300});
 }
 
-/// A board of one row in cells of 400 twips and colours that are easy to tell apart. Its islands are a 1 at (90, 230)
-/// and a 2 at (890, 230), 300 twips wide, their numbers 80 wide and 160 high.
+/// A board of one row or column in cells of 400 twips and colours that are easy to tell apart. Its islands are a 1 at
+/// (90, 230) and a 2 at (890, 230), 300 twips wide, their numbers 80 wide and 160 high.
 struct Drawn : testing::Test {
     Drawn() {
         options.SchemeColours[kBackgroundEntry] = kWhite;
@@ -51,10 +51,10 @@ struct Drawn : testing::Test {
         options.NodeColour = 2;
         options.GivenColour = 3;
         options.ChainColour = 4;
-        Take("1-2");
+        Take({"1-2"});
     }
-    void Take(const std::string& row) {
-        board.puzzle = PuzzleFrom({row});
+    void Take(const Rows& rows) {
+        board.puzzle = PuzzleFrom(rows);
         board.layout = LayoutBoard(board.puzzle.Size(), 400, {9000, 9000});
     }
 
@@ -83,6 +83,7 @@ TEST_F(Drawn, BoardHasOutlinesLinesAndIslands) {
     EXPECT_EQ(Redraw(false), start + line + "1, " + ends + ", pen 4, pen 2");
     options.ShowLines = 0;
     options.NodeShape = 1;
+    options.ShowFinished = 1;
     EXPECT_EQ(Redraw(false), start +
                                  "circle 90 230 200 2 2, print 50 150 1 3, circle 890 230 200 2 2, print 850 150 2 3, "
                                  "pen 4, pen 2");
@@ -95,10 +96,15 @@ TEST_F(Drawn, SolutionHasItsBridgesWhateverElseShows) {
     EXPECT_EQ(Redraw(true), start + line + "1, " + ends);
     board.puzzle.LinkList = {MakeLink(1, 3, 0), MakeLink(3, 1, 2)};
     EXPECT_EQ(Redraw(true), start + line + "1, " + second + "1, " + ends);
+    Take({"1", "|", "2"});
+    const std::string down = "line 30 290 30 1090 1, ";
+    EXPECT_NE(Redraw(true).find(down + "filledbox"), std::string::npos);
+    board.puzzle.LinkList = {MakeLink(1, 3, 0)};
+    EXPECT_NE(Redraw(true).find(down + "line 97 290 97 1090 1, filledbox"), std::string::npos);
 }
 
 TEST_F(Drawn, PlayersBridgesLieOverTheIslandsAndUnderTheirEnds) {
-    Take("1.2");
+    Take({"1.2"});
     board.OpenNeighbours[3].Append(1);
     board.BridgeState.Set(3, 1, 1);
     const std::string before = start + "line 890 230 90 230 1, " + ends + ", pen 4, ";
@@ -112,7 +118,7 @@ TEST_F(Drawn, PlayersBridgesLieOverTheIslandsAndUnderTheirEnds) {
 }
 
 TEST_F(Drawn, FinishedIslandsArePaleAndAllNumbersCanBeRead) {
-    Take("1.2");
+    Take({"1.2"});
     options.NodeColour = options.GivenColour = kBlack;
     EXPECT_NE(Redraw(false).find("print 50 150 1 16777215, "), std::string::npos);
     options.ShowFinished = 1;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 // Playing: with the mouse, with the keyboard, and the commands on the board.
-#include <random>
 #include <set>
 #include <sstream>
 
 #include "board/board_commands.h"
 #include "board/board_keys.h"
 #include "board/board_mouse.h"
+#include "board/place_bridge.h"
 #include "board/show_board.h"
 #include "program/escape.h"
 #include "support/test_game.h"
@@ -73,14 +73,11 @@ std::string After(const std::string& moves, const Lines& rows = kCorners) {
     return (Play(rows) << moves).State();
 }
 
-TEST(Mouse, ClicksCycleThroughOneTwoAndNone) {
+TEST(Mouse, ClicksCycleShiftLaysTwoAndTheRightButtonRemoves) {
     EXPECT_EQ(After("1-4"), "1-4*1 ; 1, 4, 0");
     EXPECT_EQ(After("1-4 4-1"), "1-4*2 ; 4, 1, 1; 1, 4, 0");
     EXPECT_EQ(After("1-4 1-4 1-4 "), "; 1, 4, 2; 1, 4, 1; 1, 4, 0");
     EXPECT_EQ(After("1-7"), "1-7*1 ; 1, 7, 0") << "over an island: the board takes it";
-}
-
-TEST(Mouse, ShiftLaysTwoAndTheRightButtonRemoves) {
     EXPECT_EQ(After("1=4"), "1-4*2 ; 1, 4, 0") << "the click that follows selects nothing";
     EXPECT_EQ(After("1-4 1=4"), "1-4*2 ; 1, 4, 1; 1, 4, 0");
     EXPECT_EQ(After("1=4 1=4"), "1-4*2 ; 1, 4, 2; 1, 4, 0");
@@ -95,6 +92,9 @@ TEST(Mouse, WhatIsNoPairChangesNothing) {
     EXPECT_EQ(After("1-49"), "; 1, 49, 0");
     EXPECT_EQ(After("1=1"), "; 1, 1, 0");
     EXPECT_EQ(After("x4 =20 x20 1-1 1-20 20"), "") << "water drops the selection, and so does the island itself";
+    Play game;
+    PlaceBridge(game.board, PlaceMode::Double, 1, 2, 1);
+    EXPECT_EQ(game.State(), "");
 }
 
 TEST(Mouse, TheRubberBandFollowsAndAClickBesideTheBoardDropsTheSelection) {
@@ -103,13 +103,17 @@ TEST(Mouse, TheRubberBandFollowsAndAClickBesideTheBoardDropsTheSelection) {
     EXPECT_EQ(game.board.Line1.from, game.board.At(1));
     EXPECT_EQ(game.board.Line1.to, game.board.At(1));
     game.Run(Picture1_MouseMove, false, Point{1000, 1100}, Point{});
-    game.Run(Picture1_MouseMove, false, Point{-5000, 1100}, Point{});
+    for (const Point& beside : {Point{-5000, 1100}, {1000, -5000}})
+        game.Run(Picture1_MouseMove, false, beside, Point{});
     EXPECT_EQ(game.board.Line1.to, (Point{1000, 1100})) << "as long as it is over the board";
     game.Run(Picture5_MouseUp);
     EXPECT_EQ(game.board.AnchorRow + game.board.AnchorCol + game.board.HoverRow + game.board.HoverCol, -4);
     EXPECT_FALSE(game.board.Line1.visible);
-    game << "4-7";
-    EXPECT_EQ(game.State(), "4-7*1 ; 4, 7, 0");
+    game << "4-7 1";
+    game.Run(Picture1_MouseMove, false, game.board.At(7), Point{});
+    game.Run(Picture1_MouseUp, MouseButton::Left, false, Point{-50, 100});
+    game.Run(Picture1_Click);
+    EXPECT_EQ(game.State(), "4-7*1 ; 4, 7, 0") << "no bridge to the last island under the pointer";
 }
 
 TEST(Mouse, ALeftDragMovesTheBoardAndNoOtherDoes) {
@@ -150,6 +154,9 @@ TEST(Keys, ArrowsGoToTheNearestInLineAndElseToTheNearestOnThatSide) {
 TEST(Keys, DoWhatTheMouseDoes) {
     EXPECT_EQ(After(":.", kField), "#1 ") << "the first one only shows where the focus is";
     EXPECT_EQ(After(":.e", kField), "#25 ");
+    EXPECT_EQ(After(":.ef", kField), "#1 ");
+    for (const char* keys : {":.", ":.ef"})
+        EXPECT_EQ(After(keys, {".1.1"}), "#2 ");
     EXPECT_EQ(After(":.enpp", kField), "#10 ");
     EXPECT_EQ(After(":.efpn", kField), "#3 ");
     EXPECT_EQ(After(":..r", kField), "#3 @1");
@@ -191,6 +198,9 @@ TEST(Keys, BringTheIslandWithTheFocusIntoView) {
         EXPECT_DOUBLE_EQ(at(), (wide ? 9000 : 7000) - 420);
         game << ":e";
         EXPECT_DOUBLE_EQ(at(), (wide ? 9000 : 7000) - 420) << "it shows already";
+        game.world.container = {600, 600};
+        game << ":f";
+        EXPECT_DOUBLE_EQ(at(), 300) << "there is no room for a margin";
     }
 }
 
@@ -256,6 +266,7 @@ TEST(Zoom, StaysWithinItsLimitsAndKeepsTheBridges) {
     game.Run(Picture1_Click);
     EXPECT_EQ(zoomed(300, 1), 330);
     EXPECT_EQ(game.board.Line1.from, game.board.At(4)) << "the ring follows";
+    EXPECT_EQ(game.board.Line1.to, game.board.At(4));
     game.world.visible = false;
     game.Run(cmdzoom_Click, 1);
     EXPECT_EQ(game.board.layout.CellSize, 330);
@@ -267,7 +278,8 @@ TEST(BoardCommands, ShowTheSolutionWhileHeldAndResetWhenWanted) {
     game.Run(cmdviewcol_Press);
     EXPECT_TRUE(game.ShowsSolution());
     game.Run(cmdviewcol_Release);
-    EXPECT_FALSE(game.ShowsSolution());
+    for (const char* move : {"", "3=7", "u", "3-7", "u"})
+        EXPECT_FALSE((game << move).ShowsSolution()) << move;
     game.world.Seen();
     for (const int answer : {kNo, kYes}) {
         game.world.Expect("Reset?", "vbYesNo", answer);
@@ -275,30 +287,6 @@ TEST(BoardCommands, ShowTheSolutionWhileHeldAndResetWhenWanted) {
         EXPECT_EQ(game.State(), answer == kNo ? "3-7*1 ; 3, 7, 0" : "");
         EXPECT_EQ(game.world.Seen(), answer == kNo ? "box, events" : "box, events, number: 1, status: ");
     }
-}
-
-TEST(Play, WhateverIsDoneTheScreenShowsIt) {
-    std::mt19937 random(7);
-    const auto draw = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
-    Play game(kSmallPuzzle);
-    game.world.AnswerAll(kYes);
-    for (int turn = 0; turn < 600 && !testing::Test::HasFailure(); ++turn) {
-        const Link link = game.board.puzzle.LinkList[static_cast<std::size_t>(draw(10))];
-        const CellNumber id = draw(5) == 0 ? 1 + draw(49) : draw(2) == 0 ? link.first : link.second;
-        game.options.ShowFinished = turn / 200 % 2;
-        const int what = draw(40);
-        if (what == 0) game.Run(mnupuzreset_Click);
-        if (what == 1) game.Run(Timer1_Timer);
-        if (what == 2) game.Run(Picture5_MouseUp);
-        if (what == 3) game.Run(cmdviewcol_Press);
-        if (what == 4) game.Run(cmdviewcol_Release);
-        if (what == 5 || what == 6) game.Run(cmdverify_Click);
-        if (what == 7 || what == 8) game.Run(cmdzoom_Click, draw(3));
-        if (what == 9 || what == 10) game.Run(cmdundo_Click);
-        if (what > 10 && what < 20) game.Run(Picture1_KeyDown, static_cast<BoardKey>(draw(11)));
-        if (what >= 20) game.Press(id, what < 36 ? MouseButton::Left : MouseButton::Right, what % 5 == 0);
-    }
-    EXPECT_GT(game.board.history.Revision(), 100U);
 }
 
 }  // namespace

@@ -92,6 +92,8 @@ TEST(RenderPuzzle, PictureIsDrawnFromItsTitleToItsFooter) {
     RenderPuzzle(puzzle, numbers, PictureRequest(RenderMode::Puzzle, kTitle, 9));
     EXPECT_EQ(numbers.Count("line"), 0);
     EXPECT_EQ(numbers.Count("circle"), 4);
+    const RenderRequest narrow = PictureRequest(RenderMode::Puzzle, kTitle, 9);
+    EXPECT_EQ(RenderPuzzle(PuzzleFrom({"1-1"}), numbers, narrow).right, 400 + 50 * 60) << "the footer";
 }
 
 TEST(RenderPuzzle, PenLeavesTheStrokesOfADoubleBridgeApart) {
@@ -118,15 +120,37 @@ TEST(RenderPuzzle, PageHoldsEverythingAndTheSolutionIsAsLargeAsItLets) {
             EXPECT_LT(last[1] + last[2], NumbersOf(page.Calls("print").back())[1]) << size << ": the footer";
 
             const PrintedBoard whole = LayoutPrintedPuzzle(puzzle, request);
-            const PrintedBoard board = LayoutPrintedSolution(puzzle, request, 200);
-            const bool larger = board.top + puzzle.Rows * (board.cell + 1) <= paper.bottom - 200 &&
+            const PrintedBoard board = LayoutPrintedSolution(puzzle, request, 240);
+            const bool larger = board.top + puzzle.Rows * (board.cell + 1) <= paper.bottom - 240 &&
                                 board.left + puzzle.Cols * (board.cell + 1) <= paper.right;
             EXPECT_TRUE(board.cell == whole.cell || !larger) << size;
             EXPECT_EQ(board.half, board.cell == whole.cell ? whole.half : RoundHalfEven(board.cell / 2.0)) << size;
             EXPECT_EQ(board.top, 800 + 11800);
+            EXPECT_NEAR(last[2], board.Radius(), 0.001) << size;
             EXPECT_GT(board.Gap() - board.lineWidth * kTwipsPerPen, board.Gap() * 0.4) << size << ": one thick stroke";
             EXPECT_LE(std::hypot(board.fontSize * 5.6, board.fontSize * 7.2), board.Radius()) << size << ": a number";
             EXPECT_LE(board.fontSize, 5);
+        }
+    }
+}
+
+TEST(RenderPuzzle, WidePageHoldsPuzzleHeadingAndSolutionApart) {
+    for (const Surface::Area& paper : {Surface::Area{360, 360, 16478, 11546}, Surface::Area{360, 360, 15480, 11880}}) {
+        for (int cell = 1; cell < kMaxCells; ++cell) {
+            const Puzzle puzzle = Corners(1 + cell / kMaxSide, 1 + cell % kMaxSide);
+            RecordingSurface page;
+            const Surface::Area drawn = RenderPuzzle(puzzle, page, PageRequest(std::string(500, 'x'), 4, paper));
+            const std::string size = "on " + NumText(puzzle.Rows) + "x" + NumText(puzzle.Cols);
+            EXPECT_TRUE(drawn.left >= paper.left && drawn.top >= paper.top) << size;
+            EXPECT_TRUE(drawn.right <= paper.right && drawn.bottom <= paper.bottom) << size;
+            const std::vector<double> end = NumbersOf(page.Calls("circle")[1]);
+            const std::vector<double> heading = NumbersOf(CallWith(page, "Solution"));
+            const std::vector<double> first = NumbersOf(page.Calls("circle")[2]);
+            const std::vector<double> last = NumbersOf(page.Calls("circle")[3]);
+            EXPECT_TRUE(heading[0] > end[0] + end[2] || heading[1] > end[1] + end[2]) << size;
+            EXPECT_LT(heading[1] + 120, first[1] - first[2]) << size;
+            const double footer = NumbersOf(page.Calls("print").back())[1];
+            EXPECT_LT(std::max(end[1] + end[2], last[1] + last[2]), footer) << size;
         }
     }
 }
@@ -158,6 +182,7 @@ TEST(RenderPuzzle, LongTitleLosesItsMiddleBetweenCharacters) {
         const std::size_t dots = shown.find("...");
         ASSERT_NE(dots, std::string::npos);
         EXPECT_EQ(shown.substr(dots - 2, 2), "\xC3\xBC");
+        EXPECT_NEAR(static_cast<double>(dots), (15 + static_cast<double>(shown.size())) / 2, 4) << "its middle";
         EXPECT_EQ(shown.substr(dots + 3, 2), "\xC3\xBC");
         // 80 twips a byte between the offset and the edge of the page.
         EXPECT_NEAR(static_cast<double>(shown.size()), 15 + (11546 - 1200) / 80 + 2, 4) << "no shorter than it must be";

