@@ -44,7 +44,7 @@ void Choose(TestGame& game) {
     game.Run(OpenChosen, game.PathOfCollection());
 }
 void UseNumbers(TestGame& game) {
-    game.Run(UseNumberGrid, NumberGrid());
+    EXPECT_FALSE(game.Run(UseNumberGrid, NumberGrid())) << "the editor stays open";
 }
 void TypeTwo(TestGame& game) {
     game.TypeNumber("2");

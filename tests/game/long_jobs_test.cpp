@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "board/copy_and_print.h"
+#include "game/job.h"
 #include "generator/batch.h"
 #include "generator/new_puzzle.h"
 #include "generator/shuffle.h"
@@ -139,6 +140,16 @@ struct LongJobGame : TestGame {
     const LongJob& longJob;
     int moments = 0;  ///< how often events were let through in the job
 };
+
+TEST(PollEvents, LetsThemThroughOnceIn20Milliseconds) {
+    TestGame game;
+    int times = 0;
+    game.world.happen = [&] { ++times; };
+    game.world.step = 10;
+    for (int i = 0; i < 10; ++i)
+        PollEvents(game);
+    EXPECT_EQ(times, 5) << "every second look of 10 ms, and one look is made afterwards";
+}
 
 class LongJobs : public testing::TestWithParam<LongJob> {
  protected:

@@ -3,13 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 #include <tuple>
 
 #include "generator/grid_size.h"
-#include "generator/grow.h"
-#include "model/plain_grid.h"
 #include "support/board_text.h"
 #include "support/layout_checker.h"
 
@@ -74,120 +71,6 @@ TEST(CreatePuzzle, StoppedItLeavesALayoutWithoutBridges) {
     }
     EXPECT_EQ(moment, 31);
     EXPECT_EQ(FaultOfLayout(first), "");
-}
-
-TEST(GrownPuzzle, EmptyBordersArePulledInByOneLine) {
-    const auto pulledIn = [](const Rows& rows) {
-        const Puzzle puzzle = PuzzleFrom(rows);
-        GrowingLayout layout(puzzle.Size());
-        for (CellNumber id = 1; id <= layout.CellCount(); ++id)
-            layout.BridgeTotals(puzzle.CellRow(id), puzzle.CellCol(id)) = puzzle.IslandAt(id);
-        return PlainGrid(GrownPuzzle(layout));
-    };
-    EXPECT_EQ(pulledIn({"......", ".1.23.", "......", ".45.6.", "......"}),
-              (Rows{"1..2.3", "......", "......", "......", "4.5..6"}));
-    EXPECT_EQ(pulledIn({"1.....", "......", ".....2"}), (Rows{"1.....", "......", ".....2"}));
-    EXPECT_EQ(pulledIn({".....", ".....", "..1..", ".....", "....."}),
-              (Rows{".....", ".....", "..1..", ".....", "....."}))
-        << "of two empty lines one stays";
-    EXPECT_EQ(pulledIn({"..1...", "....2.", "......"}), (Rows{"..1...", "......", ".....2"}));
-}
-
-/// A board with these islands, of which the last one grows first.
-GrowingLayout Layout(BoardSize size, const std::vector<CellNumber>& islands) {
-    GrowingLayout layout(size);
-    for (const CellNumber island : islands)
-        PlaceIsland(layout, layout.GrowFromCell = island);
-    return layout;
-}
-
-int TotalAt(const GrowingLayout& layout, CellNumber id) {
-    const auto [row, col] = layout.PlaceOf(id);
-    return layout.BridgeTotals(row, col);
-}
-
-TEST(GrowStep, GoesOnFromTheNewIslandWithAsManyDoubleBridgesAsSingleOnes) {
-    RandomSource random(1);
-    int doubles = 0;
-    for (int round = 0; round < 1000; ++round) {
-        GrowingLayout layout = Layout({7, 7}, {1});
-        int count = 0;
-        GrowStep(layout, random, count, 100);
-        ASSERT_EQ(count, 1);
-        const auto [row, col] = layout.PlaceOf(layout.GrowFromCell);
-        ASSERT_GT(row + col, 2) << "the island that was placed";
-        ASSERT_EQ(layout.IslandGrid(row, col), kPlacedIsland);
-        ASSERT_EQ(layout.BridgeTotals(row, col), layout.BridgeTotals(1, 1));
-        ASSERT_EQ(layout.CrossGrid(row == 1 ? 1 : 2, row == 1 ? 2 : 1), row == 1 ? Cross::H : Cross::V);
-        doubles += layout.BridgeTotals(1, 1) == 2;
-    }
-    EXPECT_NEAR(doubles, 500, 60);
-}
-
-TEST(GrowStep, GoesOnFromARandomIslandWhenTheNewOneIsExhausted) {
-    RandomSource random(1);
-    std::map<CellNumber, int> sources;
-    for (int round = 0; round < 600; ++round) {
-        GrowingLayout layout = Layout({25, 25}, {1, 25, 601, 313, 625});
-        // The island in the corner is shut in.
-        layout.CrossGrid(24, 25) = layout.CrossGrid(25, 24) = Cross::H;
-        int count = 0;
-        GrowStep(layout, random, count, 100);
-        ASSERT_EQ(layout.CrossGrid(25, 25), Cross::X);
-        ASSERT_FALSE(layout.liveIslands.Contains(625));
-        for (const CellNumber island : {1, 25, 601, 313})
-            sources[island] += TotalAt(layout, island) > 0;
-    }
-    for (const auto& [island, times] : sources)
-        EXPECT_NEAR(times, 150, 45) << island;
-}
-
-TEST(GrowStep, StopsAtTheFillTargetOrWithTheLastIsland) {
-    RandomSource random(1);
-    const auto growFrom = [&](int count) {
-        GrowingLayout layout = Layout({7, 7}, {1});
-        GrowStep(layout, random, count, 1000.F / 98);
-        return count;
-    };
-    EXPECT_EQ(growFrom(3), 4) << "4 bridges are 8.2 percent of 49 cells";
-    EXPECT_EQ(growFrom(4), -1) << "5 bridges are 10.2 percent";
-    GrowingLayout full = Layout({2, 2}, {1});
-    int count = 0;
-    GrowStep(full, random, count, 100);
-    EXPECT_EQ(count, -1);
-}
-
-TEST(PickBridgeTarget, KeepsAwayFromDiagonalsAndStopsAtWhatIsInTheWay) {
-    RandomSource random(1);
-    GrowingLayout layout({9, 9});
-    const auto targets = [&](CellNumber cell) {
-        std::map<CellNumber, int> drawn;
-        for (int i = 0; i < 300; ++i)
-            ++drawn[PickBridgeTarget(layout, random, cell)];
-        return drawn;
-    };
-    std::set<CellNumber> inReach;
-    for (const auto& [cell, times] : targets(41)) {
-        inReach.insert(cell);
-        EXPECT_NEAR(times, 25, 20) << "all alike";
-    }
-    EXPECT_EQ(inReach, (std::set<CellNumber>{5, 14, 23, 37, 38, 39, 43, 44, 45, 59, 68, 77}));
-    // Up it is blocked, to the left a bridge crosses, down there is an island, to the right a bridge runs past.
-    layout.IslandGrid(2, 5) = kBlockedWater;
-    layout.CrossGrid(5, 2) = layout.CrossGrid(5, 6) = Cross::V;
-    for (const auto& [row, col] : {CellPlace{8, 5}, {6, 4}, {8, 6}, {4, 4}})
-        layout.IslandGrid(row, col) = kPlacedIsland;
-    EXPECT_EQ(targets(41), (std::map<CellNumber, int>{{23, 300}})) << "39 and 59 have more islands on their diagonals";
-    EXPECT_EQ(CountDiagonalIslands(layout, 59), 2);
-    layout.CrossGrid(4, 5) = layout.CrossGrid(6, 5) = Cross::H;
-    layout.CrossGrid(5, 4) = Cross::V;
-    EXPECT_EQ(PickBridgeTarget(layout, random, 41), 0);
-}
-
-TEST(BlockNeighbours, BlocksWhateverTheyHoldOnTheBoard) {
-    GrowingLayout layout = Layout({7, 7}, {8, 1});
-    EXPECT_TRUE(layout.IslandGrid(2, 1) == kBlockedWater && layout.IslandGrid(1, 2) == kBlockedWater);
-    EXPECT_TRUE(layout.IslandGrid(0, 1) == 0 && layout.IslandGrid(1, 0) == 0);
 }
 
 TEST(GridSize, IsReadInEitherForm) {

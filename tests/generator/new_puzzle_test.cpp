@@ -39,6 +39,7 @@ struct NewGame : TestGame {
 
 TEST(NewPuzzle, BecomesTheCurrentPuzzleAndTheOnlyOneOfItsFile) {
     NewGame game("9x12");
+    game.world.container = {9000, 7000};
     game.collection.leftOpen = true;
     game.When(" Creating 9x12 puzzle ...", [&] {
         EXPECT_EQ(game.board.puzzle, Puzzle({9, 12})) << "the board is empty meanwhile";
@@ -60,14 +61,10 @@ TEST(NewPuzzle, AnEmptyBoxGivesRandomSides) {
     NewGame game("8x8");
     game.Run(GridSize_MouseDown, MouseButton::Left);
     EXPECT_EQ(game.world.Text(WindowText::BoardSize), "8x8");
-    int square = 0;
-    for (int i = 0; i < 4; ++i) {
-        game.Run(GridSize_MouseDown, MouseButton::Right);
-        EXPECT_EQ(game.world.Text(WindowText::BoardSize), "");
-        game.Run(cmdnew1_Click);
-        square += game.board.puzzle.Rows == game.board.puzzle.Cols ? 1 : 0;
-    }
-    EXPECT_LT(square, 3);
+    game.Run(GridSize_MouseDown, MouseButton::Right);
+    EXPECT_EQ(game.world.Text(WindowText::BoardSize), "");
+    game.Run(cmdnew1_Click);
+    EXPECT_NE(game.board.puzzle.Rows, game.board.puzzle.Cols);
 }
 
 TEST(NewPuzzle, SizesOutOfRangeAreRefused) {
@@ -94,13 +91,6 @@ TEST(NewPuzzle, AFileThatRefusesBringsTheOldPuzzleBackIfItIsThere) {
         EXPECT_EQ(game.collection.CollectionPath, game.PathOfCollection());
         std::filesystem::remove("collection.tdw");
     }
-}
-
-TEST(Cancel, WithoutAJobEmptiesTheStatusLine) {
-    NewGame game;
-    game.Run(cmdcancel_Click);
-    EXPECT_EQ(game.world.Seen(), "status: ");
-    EXPECT_FALSE(game.job.CancelFlag());
 }
 
 TEST(BatchWindow, AsksForACountASizeAndAFile) {
@@ -157,6 +147,8 @@ TEST(Batch, StopsAsAWhole) {
     });
     game.RunBatch("3", "8", "8");
     EXPECT_EQ(LinesOf(game.folder.Read("out.txt")).size(), 1U);
+    game.RunBatch("2", "8", "8", true);
+    EXPECT_EQ(LinesOf(game.folder.Read("out.txt")).size(), 3U) << "the next one is another matter";
     EXPECT_FALSE(BatchRuns(game));
 }
 
@@ -194,15 +186,12 @@ TEST(RandomBatch, Makes1200PuzzlesOfRandomSizes) {
     const Lines lines = LinesOf(game.folder.Read("rand1.txt"));
     const std::string seen = game.world.Seen();
     ASSERT_EQ(lines.size(), 1200U);
-    int square = 0;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const Puzzle puzzle = ParsePuzzleRecord(lines[i]).value();
         const std::string number = std::to_string(i + 1);
         const std::string status = Format(puzzle.Rows, "00") + Format(puzzle.Cols, "00") + " " + number + " of 1200";
         ASSERT_NE(seen.find("status: " + status + ","), std::string::npos) << lines[i];
-        square += puzzle.Rows == puzzle.Cols ? 1 : 0;
     }
-    EXPECT_LT(square, 200);
     EXPECT_TRUE(seen.ends_with("not busy, box, status: "));
 }
 

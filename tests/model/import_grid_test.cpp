@@ -102,9 +102,9 @@ TEST(Paste, TakesLinesOfBothEndsAndPassesOverEmptyOnesAtTheEnd) {
 TEST(Paste, RefusesWhatFitsNoBoard) {
     TestGame game({kSmallPuzzle});
     game.Load(1);
-    std::filesystem::create_directory("tempin.txt");
     for (const std::string& text : {std::string(), std::string("  "), std::string("\r\n\r\n"), Joined(Lines(26, "1")),
                                     std::string(26, '1') + "\n1\n", std::string("\n1\n"), std::string("1.1")}) {
+        if (text == "1.1") std::filesystem::create_directory("tempin.txt");
         game.world.clipboard = text;
         game.Run(mnupastepuzzle_Click);
         EXPECT_EQ(game.world.Seen(), "status: Error importing puzzle") << text;
@@ -138,8 +138,9 @@ TEST(NumberGrid, KeysFillItInReadingOrderAndTakeThatBack) {
     EXPECT_EQ(Typed(2, 3, "1.2").State(), "1.2/.../ 2,1");
     EXPECT_EQ(Typed(2, 3, "19x/2").State(), "12./.../ 1,3") << "other keys do nothing";
     EXPECT_EQ(Typed(2, 3, "1.2 08").State(), "1.2/..8/ 2,3");
-    EXPECT_EQ(Typed(2, 2, "1234<").State(), "12/3./ 2,2");
-    EXPECT_EQ(Typed(2, 2, "1234<<").State(), "12/../ 2,1");
+    EXPECT_EQ(Typed(2, 3, "123456<").State(), "123/45./ 2,3");
+    EXPECT_EQ(Typed(2, 3, "123456<<").State(), "123/4../ 2,2");
+    EXPECT_EQ(Typed(3, 2, "1234<").State(), "12/3./../ 2,2");
     EXPECT_EQ(Typed(2, 2, "1234<<<").State(), "1./../ 1,2");
     EXPECT_EQ(Typed(2, 2, "12<<<<").State(), "../../ 1,1");
     NumberGrid grid;
@@ -151,6 +152,7 @@ TEST(NumberGrid, TheCursorStaysInItWhateverItsSize) {
     Typed grid(2, 3, "12345");
     grid.MoveBy(-1, -1);
     grid.Delete();
+    grid.Resize(2, 3);
     EXPECT_EQ(grid.State(), "1.3/45./ 1,2");
     grid.MoveTo(9, 9);
     EXPECT_EQ(grid.State(), "1.3/45./ 2,3");

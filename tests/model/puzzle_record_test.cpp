@@ -81,6 +81,16 @@ TEST(PuzzleRecord, ComesBackAsItWasWritten) {
     EXPECT_EQ(ParsePuzzleRecord(PuzzleRecord(puzzle)), puzzle);
 }
 
+TEST(PuzzleRecord, HasNoRoomForABridgeBetweenIslandsThatTouch) {
+    const auto holds = [](const Link& link) {
+        Puzzle puzzle({2, 3});
+        puzzle.LinkList = {{1, 3, 1}, link};
+        return RecordHoldsBridges(puzzle);
+    };
+    EXPECT_TRUE(holds({4, 1, 2}) && holds({4, 6, 0})) << "a link without a bridge needs none";
+    EXPECT_FALSE(holds({2, 1, 1}) || holds({1, 4, 0}));
+}
+
 TEST(PuzzleRecord, DrawsEachLinkAsItsStateAndOrderTell) {
     Puzzle puzzle = PuzzleFrom({"3.2", "...", "3.2"});
     for (const char* link : {"0030011", "0090070", "0070010", "0030092", "0010091", "0010011"})

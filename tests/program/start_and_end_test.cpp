@@ -28,6 +28,7 @@ struct StartGame : TestGame {
     std::optional<std::string> Start(const std::string& file = "", std::optional<int> number = std::nullopt) {
         std::string program = folder.Path("");
         program.pop_back();
+        AppFolder.clear();
         return Run(Form_Load, StartRequest{program, file, number});
     }
     std::string Place() const { return collection.CollectionPath + " " + std::to_string(collection.PuzzleNumber); }
@@ -68,6 +69,7 @@ TEST(Start, WhatTheCommandLineAsksForComesFirst) {
         if (number == 6) game.world.Expect("puzzle 6 not found", kInformation);
         game.Start(other, number == 0 ? std::nullopt : std::optional(number));
         EXPECT_EQ(game.Place(), number == 0 ? other + " 1" : number == 2 ? other + " 2" : "puzzles.txt 3");
+        EXPECT_GT(game.board.puzzle.IslandCount(), 0);
     }
 }
 

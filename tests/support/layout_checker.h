@@ -14,7 +14,8 @@ inline std::string FaultOfLayout(const Puzzle& puzzle) {
     for (CellNumber id = 1; id <= puzzle.CellCount(); ++id) {
         const auto [row, col] = puzzle.PlaceOf(id);
         if (puzzle.IslandAt(id) > 8) return "an island of " + std::to_string(puzzle.IslandAt(id));
-        if (puzzle.IslandAt(id) == 0 || (puzzle.IslandGrid(row + 1, col) == 0 && puzzle.IslandGrid(row, col + 1) == 0)) {
+        if (puzzle.IslandAt(id) == 0 ||
+            (puzzle.IslandGrid(row + 1, col) == 0 && puzzle.IslandGrid(row, col + 1) == 0)) {
             continue;
         }
         return "islands that touch";
