@@ -11,6 +11,9 @@
 #include <filesystem>
 #include <functional>
 #include <limits>
+#include <optional>
+#include <sstream>
+#include <string_view>
 #include <utility>
 
 #include "cli/commands.h"
@@ -29,6 +32,8 @@ struct Wishes {
     SolveOptions solve;
     CheckOptions check;
     CreateOptions create;
+    ExplainOptions explain;
+    HintOptions hint;
     ShowOptions show;
     ShuffleOptions shuffle;
     ConvertOptions convert;
@@ -37,12 +42,64 @@ struct Wishes {
     ExportOptions exported;
     ImportOptions import;
     std::string range = "all";
+    std::string explained = "all";
+    std::string laid;
+    std::string noMore;
     std::function<int(Console&)> command;  ///< the one that was chosen
 };
 
 /// The puzzles that RANGE means; nothing for a text that is none.
 std::optional<PuzzleRange> RangeOf(const std::string& text) {
     return text == "all" ? PuzzleRange{} : ParsePuzzleRange(text);
+}
+
+/// Takes a number of 1 to 9999 off the front of the text; false when there is none.
+bool TakeNumber(std::string_view& text, int& number) {
+    constexpr std::size_t kDigits = 4;
+    const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
+    if (digits == 0 || digits > kDigits) return false;
+    std::from_chars(text.data(), text.data() + digits, number);
+    text.remove_prefix(digits);
+    return number > 0;
+}
+
+/// Takes a character off the front of the text; false when another one stands there.
+bool TakeCharacter(std::string_view& text, char wanted) {
+    if (text.empty() || text.front() != wanted) return false;
+    text.remove_prefix(1);
+    return true;
+}
+
+/// Pairs of islands as "12-15", `counted` with ":" and 1 or 2 bridges behind each; nothing for a text of another form.
+std::optional<std::vector<PlayedPair>> ParsePairs(const std::string& text, bool counted) {
+    std::vector<PlayedPair> pairs;
+    std::istringstream words(text);
+    for (std::string word; words >> word;) {
+        PlayedPair pair;
+        std::string_view rest = word;
+        if (!TakeNumber(rest, pair.a) || !TakeCharacter(rest, '-') || !TakeNumber(rest, pair.b)) return std::nullopt;
+        if (counted && (!TakeCharacter(rest, ':') || !TakeNumber(rest, pair.bridges))) return std::nullopt;
+        if (!rest.empty() || pair.bridges > kMostBridges) return std::nullopt;
+        pairs.push_back(pair);
+    }
+    return pairs;
+}
+
+/// The position in which these bridges lie and these pairs take no further one.
+std::vector<PlayedPair> PositionOf(const std::string& laid, const std::string& noMore) {
+    std::vector<PlayedPair> position = ParsePairs(laid, true).value_or(std::vector<PlayedPair>());
+    for (PlayedPair pair : ParsePairs(noMore, false).value_or(std::vector<PlayedPair>())) {
+        pair.noMore = true;
+        const auto found = std::find_if(position.begin(), position.end(), [&pair](const PlayedPair& other) {
+            return std::minmax(pair.a, pair.b) == std::minmax(other.a, other.b);
+        });
+        if (found != position.end()) {
+            found->noMore = true;
+        } else {
+            position.push_back(pair);
+        }
+    }
+    return position;
 }
 
 /// The name that the commands know the standard input or output by, if the path stands for that descriptor.
@@ -71,6 +128,7 @@ class Parser {
         AddReaders();
         AddCreate();
         AddShow();
+        AddTeachers();
         AddRewriters();
         AddMovers();
     }
@@ -118,6 +176,17 @@ class Parser {
             ->check(CLI::Range(1, kMostNumber));
     }
 
+    static void AddRange(CLI::App* command, std::string& range) {
+        command->add_option("RANGE", range, "Which puzzles: N, A-B or all")->check([](const std::string& text) {
+            return RangeOf(text) ? "" : "\"" + text + "\" is no number, no range A-B and not \"all\"";
+        });
+    }
+
+    static std::string WhatIsNoPairs(const std::string& text, bool counted) {
+        if (ParsePairs(text, counted)) return "";
+        return "\"" + text + "\" is no list such as \"" + (counted ? "12-15:2 15-40:1" : "12-30 15-40") + "\"";
+    }
+
     static void AddJobs(CLI::App* command, int& jobs) {
         command->add_option("--jobs", jobs, "How many puzzles to work on at the same time")
             ->type_name("N")
@@ -125,13 +194,13 @@ class Parser {
     }
 
     void AddReaders() {
-        AddFile(Command("list", "Print a line for every puzzle", wishes_.list, ListPuzzles), wishes_.list.file);
+        CLI::App* const list = Command("list", "Print a line for every puzzle", wishes_.list, ListPuzzles);
+        AddFile(list, wishes_.list.file);
+        list->add_flag("--grades", wishes_.list.grades, "With the grade and the number of solutions");
 
         CLI::App* const solve = Command("solve", "Solve puzzles", wishes_.solve, SolvePuzzles);
         AddFile(solve, wishes_.solve.file);
-        solve->add_option("RANGE", wishes_.range, "Which puzzles: N, A-B or all")->check([](const std::string& text) {
-            return RangeOf(text) ? "" : "\"" + text + "\" is no number, no range A-B and not \"all\"";
-        });
+        AddRange(solve, wishes_.range);
         solve->add_option("--out", wishes_.solve.out, "Write the solved records to this file")
             ->type_name("FILE")
             ->transform(NameOfOutput);
@@ -180,6 +249,24 @@ class Parser {
         AddFile(show, wishes_.show.file);
         AddNumber(show, wishes_.show.number);
         show->add_flag("--solution", wishes_.show.solution, "With the stored bridges");
+    }
+
+    void AddTeachers() {
+        CLI::App* const explain =
+            Command("explain", "Tell the way to the solution, step by step", wishes_.explain, ExplainPuzzles);
+        AddFile(explain, wishes_.explain.file);
+        AddRange(explain, wishes_.explained);
+
+        CLI::App* const hint =
+            Command("hint", "Tell the next step from a position, or what is wrong with it", wishes_.hint, GiveHint);
+        AddFile(hint, wishes_.hint.file);
+        AddNumber(hint, wishes_.hint.number);
+        hint->add_option("--laid", wishes_.laid, "The bridges that lie, as id-id:count with blanks between")
+            ->type_name("PAIRS")
+            ->check([](const std::string& text) { return WhatIsNoPairs(text, true); });
+        hint->add_option("--not", wishes_.noMore, "Pairs that take no further bridge, as id-id with blanks between")
+            ->type_name("PAIRS")
+            ->check([](const std::string& text) { return WhatIsNoPairs(text, false); });
     }
 
     void AddRewriters() {
@@ -242,7 +329,7 @@ std::string DiskAmongOutputs(const Wishes& wishes) {
 }
 
 /// What is wrong with options that do not go together; "" when all is well.
-std::string Contradiction(const Wishes& wishes) {
+std::string WhatDoesNotGoTogether(const Wishes& wishes) {
     const bool solveToOutput = wishes.solve.out == kStandard;
     if (solveToOutput && (wishes.solve.json || wishes.solve.links)) {
         return "with --out - the standard output holds records; --json and --links have no place there";
@@ -290,7 +377,9 @@ int RunCommandLine(Console& console, std::vector<std::string> arguments) {
             return parser.App().exit(error, console.out, console.err);
         }
         wishes.solve.range = RangeOf(wishes.range).value_or(PuzzleRange{});
-        if (const std::string wrong = Contradiction(wishes); !wrong.empty()) return WrongUsage(console, wrong);
+        wishes.explain.range = RangeOf(wishes.explained).value_or(PuzzleRange{});
+        wishes.hint.played = PositionOf(wishes.laid, wishes.noMore);
+        if (const std::string wrong = WhatDoesNotGoTogether(wishes); !wrong.empty()) return WrongUsage(console, wrong);
         return wishes.command(console);
     } catch (const std::exception& error) {
         // A file that was cut short by the signal is no news.

@@ -36,6 +36,13 @@ bool CollectionLines::Next(NumberedLine& line) {
     return true;
 }
 
+bool CollectionLines::NextWithin(const PuzzleRange& range, NumberedLine& line) {
+    while (number_ < range.last && Next(line)) {
+        if (range.Holds(line.number)) return true;
+    }
+    return false;
+}
+
 std::optional<Puzzle> ReadOnePuzzle(Console& console, const std::string& path, int number) {
     CollectionLines lines(console, path);
     NumberedLine line;

@@ -33,6 +33,9 @@ class CollectionLines {
     /// when a line does not come to an end.
     bool Next(NumberedLine& line);
 
+    /// Takes the next line whose number the range holds; false when there is none.
+    bool NextWithin(const PuzzleRange& range, NumberedLine& line);
+
     /// The number of the last line that was taken.
     int Number() const { return number_; }
 

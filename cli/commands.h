@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cli/console.h"
 #include "model/puzzle_range.h"
+#include "techniques/hint.h"
 
 namespace tidewalk {
 
@@ -16,9 +18,11 @@ namespace tidewalk {
 
 struct ListOptions {
     std::string file;
+    bool grades = false;
     bool json = false;
 };
-/// Prints a line for every puzzle: number, size, islands, bridges and the state of its stored solution.
+/// Prints a line for every puzzle: number, size, islands, bridges and the state of its stored solution; on demand its
+/// grade and number of solutions, too.
 int ListPuzzles(Console& console, const ListOptions& options);
 
 struct SolveOptions {
@@ -53,6 +57,23 @@ struct CreateOptions {
 };
 /// Makes puzzles and appends them to a file.
 int CreatePuzzles(Console& console, const CreateOptions& options);
+
+struct ExplainOptions {
+    std::string file;
+    PuzzleRange range;
+    bool json = false;
+};
+/// Tells the way to the solution of puzzles, step by step.
+int ExplainPuzzles(Console& console, const ExplainOptions& options);
+
+struct HintOptions {
+    std::string file;
+    int number = 1;
+    std::vector<PlayedPair> played;  ///< the position
+    bool json = false;
+};
+/// Tells the next step from a position, or what is wrong with it.
+int GiveHint(Console& console, const HintOptions& options);
 
 struct ShowOptions {
     std::string file;

@@ -19,7 +19,7 @@ int BridgeCount(const Puzzle& puzzle) {
     return bridges;
 }
 
-PuzzleReport Listed(const NumberedLine& line) {
+PuzzleReport Listed(const NumberedLine& line, bool grades, const MayGoOn& mayGoOn) {
     constexpr int kCountWidth = 3;
     PuzzleReport report;
     const std::optional<Puzzle> puzzle = BeginReport(line, report);
@@ -32,6 +32,7 @@ PuzzleReport Listed(const NumberedLine& line) {
     report.fields.emplace_back("islands", islands);
     report.fields.emplace_back("bridges", bridges);
     report.fields.emplace_back("solution", solution);
+    if (grades) AddAssessment(report, AssessPuzzle(*puzzle, mayGoOn));
     return report;
 }
 
@@ -41,7 +42,7 @@ int ListPuzzles(Console& console, const ListOptions& options) {
     CollectionLines lines(console, options.file);
     CollectionReport report(console, options.file, options.json);
     NumberedLine line;
-    while (lines.Next(line) && report.Add(Listed(line)))
+    while (lines.Next(line) && report.Add(Listed(line, options.grades, WithinBounds(console))))
         report.ShowProgress(line.part, std::to_string(line.number) + " puzzles");
     report.End();
     return ExitCodeOf(console, report.Failures());

@@ -2,6 +2,7 @@
 #include "cli/puzzle_facts.h"
 
 #include "model/puzzle_record.h"
+#include "solver/difficulty.h"
 #include "solver/valid_solution.h"
 
 namespace tidewalk {
@@ -44,6 +45,24 @@ std::optional<Puzzle> BeginReport(const NumberedLine& line, PuzzleReport& report
     report.line = Padded(std::to_string(line.number), kNumberWidth) + "  " + Padded(size, kSizeWidth);
     report.fields = SizeFields(*puzzle);
     return puzzle;
+}
+
+MayGoOn WithinBounds(const Console& console) {
+    constexpr int kMostChoices = 300000;
+    return
+        [mayGoOn = UntilStopSignal(console), choices = 0]() mutable { return ++choices <= kMostChoices && mayGoOn(); };
+}
+
+void AddAssessment(PuzzleReport& report, const Assessment& assessment) {
+    constexpr int kGradeWidth = 5;
+    constexpr const char* kSolutions[] = {"no solution", "one solution", "several solutions"};
+    const std::string grade = assessment.score ? std::string(DifficultyName(*assessment.score)) : "-";
+    report.line += "  " + Padded(grade, -kGradeWidth) + "  " +
+                   (assessment.solutions ? kSolutions[*assessment.solutions] : "undecided");
+    report.fields.emplace_back("grade", assessment.score ? JsonValue(grade) : JsonValue(nullptr));
+    report.fields.emplace_back("score", assessment.score ? JsonValue(*assessment.score) : JsonValue(nullptr));
+    report.fields.emplace_back("solutions",
+                               assessment.solutions ? JsonValue(*assessment.solutions) : JsonValue(nullptr));
 }
 
 }  // namespace tidewalk

@@ -8,6 +8,7 @@
 #include "cli/collection_lines.h"
 #include "cli/report.h"
 #include "model/puzzle.h"
+#include "techniques/grade.h"
 
 namespace tidewalk {
 
@@ -32,5 +33,14 @@ JsonFields SizeFields(const Puzzle& puzzle);
 /// Reads the puzzle of a line and begins the report on it with its number and size, in columns. A line that is no
 /// record is a fault, and nothing is returned.
 std::optional<Puzzle> BeginReport(const NumberedLine& line, PuzzleReport& report);
+
+/// Two solutions are several.
+inline constexpr int kSeveral = 2;
+
+/// Lets work on one puzzle go on until a signal asks the run to end, or so many choices that hardly any puzzle needs.
+MayGoOn WithinBounds(const Console& console);
+
+/// Adds grade, score and number of solutions, in columns; what is not known is "-", in JSON null.
+void AddAssessment(PuzzleReport& report, const Assessment& assessment);
 
 }  // namespace tidewalk

@@ -11,9 +11,31 @@ namespace {
 /// Keeps its keys in the order in which they were added.
 using Json = nlohmann::ordered_json;
 
+Json ObjectOf(const JsonFields& fields);
+
+/// What a field becomes: lists of objects have to be gone through.
+struct ToJson {
+    template <class Value>
+    Json operator()(const Value& value) const {
+        return value;
+    }
+    Json operator()(const JsonObjects& objects) const {
+        Json list = Json::array();
+        for (const JsonFields& fields : objects)
+            list.push_back(ObjectOf(fields));
+        return list;
+    }
+};
+
 void AddFields(Json& object, const JsonFields& fields) {
     for (const auto& [name, field] : fields)
-        std::visit([&, &key = name](const auto& value) { object[key] = value; }, field);
+        object[name] = std::visit(ToJson(), static_cast<const JsonValue::variant&>(field));
+}
+
+Json ObjectOf(const JsonFields& fields) {
+    Json object = Json::object();
+    AddFields(object, fields);
+    return object;
 }
 
 /// The object in one line. Bytes that are no UTF-8, as file names may hold, are replaced.

@@ -13,12 +13,19 @@
 
 namespace tidewalk {
 
-/// The values that a JSON object may have here.
-using JsonValue =
-    std::variant<std::nullptr_t, bool, std::int64_t, std::uint64_t, double, std::string, std::vector<std::string>>;
+struct JsonValue;
 
 /// The names and values of a JSON object, in the order in which they are printed.
 using JsonFields = std::vector<std::pair<std::string, JsonValue>>;
+using JsonObjects = std::vector<JsonFields>;
+/// Lists of numbers in a list.
+using JsonNumbers = std::vector<std::vector<int>>;
+
+/// The values that a JSON object may have here.
+struct JsonValue : std::variant<std::nullptr_t, bool, std::int64_t, std::uint64_t, double, std::string,
+                                std::vector<std::string>, std::vector<int>, JsonNumbers, JsonObjects> {
+    using variant::variant;
+};
 
 /// What is told of one line of a collection.
 struct PuzzleReport {

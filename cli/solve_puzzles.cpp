@@ -29,6 +29,7 @@ struct Outcome {
     int trials = 0;
     double milliseconds = 0;
     Puzzle solution;
+    std::optional<int> score;  ///< only of a puzzle with exactly one solution
 };
 
 /// A line of the collection, solved if that could be done.
@@ -84,8 +85,9 @@ std::vector<std::string> BridgeTexts(const Puzzle& puzzle) {
     return texts;
 }
 
+/// The grade's name, or "-".
 std::string Grade(const Outcome& outcome) {
-    return std::string(DifficultyName(outcome.trials));
+    return outcome.score ? std::string(DifficultyName(*outcome.score)) : "-";
 }
 
 /// What follows the puzzle's number and size on its line.
@@ -98,7 +100,7 @@ std::string OutcomeText(const Outcome& outcome, const std::vector<std::string>& 
     std::snprintf(time, sizeof time, "%.3f", outcome.milliseconds);
     std::string text = std::string(solved ? "solved  " : "unsolved") + "  " +
                        Padded(std::to_string(outcome.trials), kTrialsWidth) + " trials  " +
-                       Padded(solved ? Grade(outcome) : "-", -kGradeWidth) + "  " + Padded(time, kTimeWidth) + " ms";
+                       Padded(Grade(outcome), -kGradeWidth) + "  " + Padded(time, kTimeWidth) + " ms";
     if (!bridges.empty()) text += " ";
     for (const std::string& bridge : bridges)
         text += " " + bridge;
@@ -113,17 +115,18 @@ void AddOutcome(PuzzleReport& report, const Outcome& outcome, bool links) {
     report.line += "  " + OutcomeText(outcome, bridges);
     report.fields.emplace_back("solved", solved);
     report.fields.emplace_back("trials", outcome.trials);
-    report.fields.emplace_back("grade", solved ? JsonValue(Grade(outcome)) : JsonValue(nullptr));
+    report.fields.emplace_back("grade", outcome.score ? JsonValue(Grade(outcome)) : JsonValue(nullptr));
     report.fields.emplace_back("milliseconds", outcome.milliseconds);
     if (solved && links) report.fields.emplace_back("links", bridges);
 }
 
-SolvedLine SolveLine(SolverBoard& board, const NumberedLine& line, const SolveOptions& options,
-                     const MayGoOn& mayGoOn) {
+SolvedLine SolveLine(const Console& console, SolverBoard& board, const NumberedLine& line,
+                     const SolveOptions& options) {
     SolvedLine solved;
     const std::optional<Puzzle> puzzle = BeginReport(line, solved.report);
     if (!puzzle) return solved;
-    const Outcome outcome = TimedSolve(board, *puzzle, options.maxTrials, mayGoOn);
+    Outcome outcome = TimedSolve(board, *puzzle, options.maxTrials, UntilStopSignal(console));
+    if (outcome.failure.empty()) outcome.score = AssessPuzzle(*puzzle, WithinBounds(console)).score;
     AddOutcome(solved.report, outcome, options.links);
     if (options.out && outcome.failure.empty()) {
         solved.record = PuzzleRecord(outcome.solution);
@@ -132,23 +135,14 @@ SolvedLine SolveLine(SolverBoard& board, const NumberedLine& line, const SolveOp
     return solved;
 }
 
-/// Takes the next line that is to be solved; false when there is none.
-bool NextWanted(CollectionLines& lines, const PuzzleRange& range, NumberedLine& line) {
-    while (lines.Number() < range.last && lines.Next(line)) {
-        if (range.Holds(line.number)) return true;
-    }
-    return false;
-}
-
 /// Solves the lines on so many threads; solved records go to `output`.
 void SolveAll(Console& console, const SolveOptions& options, CollectionLines& lines, ReplacedRecords& output,
               CollectionReport& report) {
-    const MayGoOn mayGoOn = UntilStopSignal(console);
     std::vector<SolverBoard> boards(static_cast<std::size_t>(options.jobs));
     WorkSteps<NumberedLine, SolvedLine> steps;
-    steps.next = [&](NumberedLine& line) { return NextWanted(lines, options.range, line); };
+    steps.next = [&](NumberedLine& line) { return lines.NextWithin(options.range, line); };
     steps.work = [&](int worker, NumberedLine& line) {
-        return SolveLine(boards[static_cast<std::size_t>(worker)], line, options, mayGoOn);
+        return SolveLine(console, boards[static_cast<std::size_t>(worker)], line, options);
     };
     steps.take = [&](SolvedLine& solved) {
         if (!report.Add(solved.report)) return false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "techniques/sentences.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -273,6 +274,18 @@ std::string IsleText(const Archipelago& board, int isle) {
     const Isle& at = board.IsleAt(isle);
     return "the " + std::to_string(at.number) + " at row " + std::to_string(at.place.row) + ", column " +
            std::to_string(at.place.col);
+}
+
+std::string MistakeText(const Archipelago& board, const PlayedPair& wrong) {
+    const auto name = [&](CellNumber id) {
+        const auto found =
+            std::find_if(board.isles.begin(), board.isles.end(), [id](const Isle& isle) { return isle.id == id; });
+        return IsleText(board, static_cast<int>(found - board.isles.begin()));
+    };
+    const std::string pair = name(wrong.a) + " and " + name(wrong.b);
+    if (wrong.noMore) return "More bridges join " + pair + " in the solution than lie there.";
+    if (wrong.bridges == 1) return "No bridge joins " + pair + " in the solution.";
+    return "The solution has fewer than two bridges between " + pair + ".";
 }
 
 std::string Sentence(const Position& position, const Deduction& deduction) {

@@ -276,5 +276,42 @@ TEST(PuzzleRange, IsANumberOrTwo) {
         EXPECT_FALSE(ParsePuzzleRange(text)) << text;
 }
 
+TEST_F(Cli, ExplainTellsTheWayAndListTheGrade) {
+    const std::string file = File("a", {kSmallPuzzle, kRingSplit, kImpossible, "no record"});
+    const json all = RunJson({"explain", file});
+    EXPECT_EQ(all[0]["grade"], "VEasy");
+    EXPECT_EQ(all[0]["score"], 0);
+    EXPECT_TRUE(all[0]["solved"]);
+    EXPECT_EQ(all[0]["steps"][0]["technique"], "last");
+    EXPECT_EQ(all[0]["steps"][0]["rule"], "4-2 connect");
+    EXPECT_EQ(all[0]["steps"][0]["level"], 1);
+    EXPECT_EQ(all[0]["steps"][0]["islands"], (std::vector<int>{3, 7, 17}));
+    EXPECT_EQ(all[0]["steps"][0]["must"], (std::vector<std::vector<int>>{{3, 7, 2}, {3, 17, 2}}));
+    EXPECT_TRUE(all[0]["steps"][0]["cannot"].empty());
+    EXPECT_EQ(all[2]["solutions"], 0);
+    EXPECT_TRUE(all[2]["grade"].is_null() && all[2]["steps"].empty() && !all[2]["solved"]);
+    EXPECT_EQ(Run({"explain", file, "2"}), 0);
+    EXPECT_TRUE(out_.starts_with("     2    3x3  Easy   one solution\n")) << out_;
+    const json grades = RunJson({"list", file, "--grades"});
+    EXPECT_EQ(grades[0]["grade"], "VEasy");
+    EXPECT_EQ(grades[1]["score"], all[1]["score"]);
+}
+
+TEST_F(Cli, HintTellsTheNextStepOrWhatIsWrong) {
+    const std::string file = File("a", {Record({"1.2.1"}), kImpossible});
+    const auto hint = [&](const std::string& laid, const std::string& noMore) {
+        return RunJson({"hint", file, "1", "--laid", laid, "--not", noMore});
+    };
+    EXPECT_EQ(hint("", "")["steps"][0]["must"], (std::vector<std::vector<int>>{{1, 3, 1}}));
+    EXPECT_EQ(hint("3-1:1", "1-3")["steps"][0]["must"], (std::vector<std::vector<int>>{{3, 5, 1}}));
+    EXPECT_EQ(hint("1-3:2", "3-5")["mistake"], (std::vector<std::vector<int>>{{1, 3}, {3, 5}}));
+    EXPECT_TRUE(hint("1-3:1 3-5:1", "")["solved"]);
+    EXPECT_EQ(Run({"hint", file, "2"}), 1);
+    EXPECT_EQ(out_, "the puzzle has no solution\n");
+    EXPECT_EQ(Run({"hint", file, "1", "--laid", "1-5:1"}), 2);
+    for (const char* wrong : {"1-3", "1-3:3", "1-3:1x", "0-3:1", "1:3", "+1-3:1"})
+        EXPECT_EQ(Run({"hint", file, "1", "--laid", wrong}), 2) << wrong;
+}
+
 }  // namespace
 }  // namespace tidewalk::test
