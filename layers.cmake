@@ -51,13 +51,13 @@ tidewalk_layer(drawing ON model FILES
     drawing/contrast drawing/double_line drawing/render_puzzle drawing/surface)
 
 tidewalk_layer(board ON drawing FILES
-    board/board board/bridge_table board/check_bridges board/drawing board/history board/layout board/place_bridge
+    board/board board/bridge_table board/check_bridges board/drawing board/guide board/history board/layout board/place_bridge
     options/options)
 
 # The game: what the window's handlers share, and the seams to the world.
 
 tidewalk_layer(game ON board generator FILES
-    game/choices game/file_work game/game game/job game/job_state game/list_box game/main_window game/messages game/output game/pick_file
+    game/background game/choices game/file_work game/game game/guidance game/job game/job_state game/list_box game/main_window game/messages game/output game/pick_file
     game/questions game/system_clock)
 
 # The handlers of menus, buttons, mouse and keys, each beside its subject.
@@ -68,7 +68,8 @@ tidewalk_layer(commands ON game FILES
     model/collection_commands model/configuration model/import_grid model/load_puzzle model/navigation
     model/number_grid
     options/colour_scheme options/options_form options/window_colours
-    solver/auto_solve)
+    solver/auto_solve
+    techniques/assess_board techniques/explain_board techniques/give_hint techniques/show_guide)
 
 # The start and the end of a run.
 

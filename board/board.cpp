@@ -3,6 +3,11 @@
 
 namespace tidewalk {
 
+const BridgeTable& Board::ShownBridges() const {
+    const Guide* const shown = ShownGuide();
+    return shown != nullptr && shown->position ? *shown->position : BridgeState;
+}
+
 CellNumber SelectedIsland(const Board& board) {
     return board.puzzle.OnBoard(board.AnchorRow, board.AnchorCol)
                ? board.puzzle.CellId(board.AnchorRow, board.AnchorCol)
@@ -31,6 +36,7 @@ void TakePuzzle(Board& board, const Puzzle& puzzle) {
     board.OpenNeighbours.Fill({});
     board.BridgeState.Clear();
     board.history.Clear();
+    board.guide = {};
     DropSelection(board);
     board.FocusRow = board.FocusCol = 0;
     board.Shape1.visible = false;

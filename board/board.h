@@ -3,6 +3,7 @@
 #pragma once
 
 #include "board/bridge_table.h"
+#include "board/guide.h"
 #include "board/history.h"
 #include "board/layout.h"
 #include "model/cell_words.h"
@@ -46,6 +47,13 @@ struct Board {
         bool visible = false;
         CellPlace cell;
     } Shape1;
+
+    Guide guide;
+
+    /// The guide, or null when a move has made it out of date.
+    const Guide* ShownGuide() const { return guide.revision == history.Revision() ? &guide : nullptr; }
+    /// The bridges that the board shows: the player's, or those of an explained step.
+    const BridgeTable& ShownBridges() const;
 
     /// Where the island of a cell lies, in twips.
     Point At(CellNumber id) const { return layout.At(puzzle.PlaceOf(id)); }

@@ -57,7 +57,7 @@ Colour BoardDrawing::DrawIslandShape(CellNumber id) {
     const double half = board_.layout.HalfCell;
     DrawShape(id, half, options_.NodeColour);
     if (options_.ShowFinished == 0 || showsSolution_) return options_.NodeColour;
-    if (board_.BridgeState.CountAt(id) != board_.puzzle.IslandAt(id)) return options_.NodeColour;
+    if (board_.ShownBridges().CountAt(id) != board_.puzzle.IslandAt(id)) return options_.NodeColour;
     constexpr double kRim = 0.12;
     constexpr double kPaleness = 0.8;
     const Colour pale = Mixed(options_.NodeColour, options_.BoardBackground(), kPaleness);
@@ -114,7 +114,7 @@ void BoardDrawing::DrawLinkLine(CellNumber a, CellNumber b) {
 
 void BoardDrawing::DrawPlacedBridges() {
     picture_.SetDrawWidth(2 * board_.layout.LineWidth);
-    for (const auto& [a, b, bridges] : board_.BridgeState.InBothOrders()) {
+    for (const auto& [a, b, bridges] : board_.ShownBridges().InBothOrders()) {
         if (bridges == 1) {
             // The strip where the second stroke of a double bridge would lie is wiped.
             DrawDouble(a, b, options_.BoardBackground());

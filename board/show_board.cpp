@@ -4,6 +4,7 @@
 #include "board/drawing.h"
 #include "model/numbers.h"
 #include "model/paths.h"
+#include "techniques/assess_board.h"
 
 namespace tidewalk {
 
@@ -24,6 +25,8 @@ void LayoutNewBoard(Game& game, BoardSize size) {
 void PutOnBoard(Game& game, const Puzzle& puzzle) {
     TakePuzzle(game.board, puzzle);
     game.job.PuzzleReplaced();
+    game.guidance = {};
+    AssessBoard(game);
     game.pictures.StopMarkerTime();
     game.pictures.ShowOverlay();
 }

@@ -5,7 +5,9 @@
 #include <string>
 
 #include "board/board.h"
+#include "game/background.h"
 #include "game/choices.h"
+#include "game/guidance.h"
 #include "game/job_state.h"
 #include "game/list_box.h"
 #include "game/main_window.h"
@@ -29,6 +31,7 @@ struct Seams {
     Choices& choices;
     Clipboard& clipboard;
     Printers& printers;
+    Background& background;
 };
 
 /// The collection that is open, and the place in it of the puzzle that was loaded last.
@@ -58,6 +61,7 @@ struct Game : Seams {
     Collection collection;
     Options options;
     JobState job;
+    Guidance guidance;
     RandomSource random;
 
     ListBox List1{ListBox::Order::Sorted};   ///< the island status list, or the lines of the last check

@@ -10,7 +10,7 @@
 namespace tidewalk {
 
 /// The texts of the main window that the game writes or reads.
-enum class WindowText { Status, PuzzleNumber, PuzzleCount, CollectionName, BoardSize };
+enum class WindowText { Status, PuzzleNumber, PuzzleCount, CollectionName, BoardSize, Assessment };
 
 enum class MouseButton { Left, Right, Middle };
 

@@ -13,6 +13,7 @@
 #include "model/puzzle_record.h"
 #include "solver/solve_puzzle.h"
 #include "solver/valid_solution.h"
+#include "techniques/show_guide.h"
 
 namespace tidewalk {
 
@@ -77,15 +78,7 @@ void ShowAndWriteSolution(Game& game) {
 }  // namespace
 
 void mnuautosol_Click(Game& game) {
-    if (RefuseWhileBusy(game)) return;
-    if (game.board.puzzle.CellCount() == 0) {
-        game.prompts.Show("There is no puzzle to solve", "vbinformation+vbok");
-        return;
-    }
-    if (game.board.puzzle.IslandCount() == 0) {
-        game.prompts.Show("Set the puzzle first", "vbinformation+vbok");
-        return;
-    }
+    if (RefuseWhileBusy(game) || RefuseWithoutPuzzle(game)) return;
     const BusyPointer pointer(game);
     const Outcome outcome = Solve(game);
     if (game.job.Ending()) return;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "ui/board_pictures.h"
+#include "ui/guide_painter.h"
 #include "ui/qt_surface.h"
 
 namespace tidewalk {
@@ -33,6 +34,7 @@ void BoardOverlay::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(board_.pos());
+    PaintGuide(painter, *game);
     if (board_.hasFocus() && game->board.focusShows && !game->job.BusyFlag()) PaintFocus(painter, *game);
     if (game->board.Line1.visible) PaintLine1(painter, *game);
     if (game->board.Shape1.visible) PaintShape1(painter, game->board);
@@ -86,6 +88,14 @@ void BoardOverlay::PaintFocus(QPainter& painter, const Game& game) const {
             }
         }
     }
+}
+
+/// Frames, strokes and crosses: shapes that tell what they mean without their colours.
+void BoardOverlay::PaintGuide(QPainter& painter, const Game& game) const {
+    const Board& board = game.board;
+    const Guide* const guide = board.ShownGuide();
+    if (guide == nullptr || game.job.BusyFlag()) return;
+    GuidePainter(painter, board, game.options).Paint(*guide);
 }
 
 /// A frame in two colours shows on any background.

@@ -24,6 +24,7 @@ class BoardOverlay final : public QWidget {
  private:
     void PaintFocus(QPainter& painter, const Game& game) const;
     void PaintLine1(QPainter& painter, const Game& game) const;
+    void PaintGuide(QPainter& painter, const Game& game) const;
     void PaintShape1(QPainter& painter, const Board& board) const;
 
     Handlers& handlers_;

@@ -15,6 +15,8 @@
 #include "program/escape.h"
 #include "program/exit.h"
 #include "solver/auto_solve.h"
+#include "techniques/explain_board.h"
+#include "techniques/give_hint.h"
 #include "ui/about.h"
 #include "ui/program.h"
 
@@ -90,7 +92,7 @@ std::vector<Command> TideCommands() {
          .name = "cmdzoom",
          .index = 0,
          .text = "Zoom &Out",
-         .bar = 15,
+         .bar = 16,
          .icon = "zoom-out",
          .toolTip = "Zoom out",
          .keys = Keys(QKeySequence::ZoomOut),
@@ -99,7 +101,7 @@ std::vector<Command> TideCommands() {
          .name = "cmdzoom",
          .index = 1,
          .text = "Zoom &In",
-         .bar = 16,
+         .bar = 17,
          .icon = "zoom-in",
          .toolTip = "Zoom in",
          .keys = Keys(QKeySequence::ZoomIn),
@@ -108,7 +110,7 @@ std::vector<Command> TideCommands() {
          .name = "cmdzoom",
          .index = 2,
          .text = "&Reset Zoom",
-         .bar = 17,
+         .bar = 18,
          .icon = "zoom-reset",
          .toolTip = "Reset zoom",
          .keys = Keys("Ctrl+0"),
@@ -273,6 +275,20 @@ std::vector<Command> SolveCommands() {
          .toolTip = "Undo the last move",
          .keys = Keys(QKeySequence::Undo),
          .handler = Do<cmdundo_Click>},
+        {.menu = kMenu,
+         .name = "mnuhint",
+         .text = "&Hint",
+         .bar = 14,
+         .icon = "hint",
+         .toolTip = "Hint|Press again for the reason, and once more for the bridges",
+         .keys = Keys("F3"),
+         .handler = Do<mnuhint_Click>},
+        {.menu = kMenu,
+         .name = "mnuexplain",
+         .text = "&Explain",
+         .icon = "explain",
+         .keys = Keys("Shift+F3"),
+         .handler = Do<mnuexplain_Click>},
         {.menu = kMenu, .name = "dash9", .text = "-"},
         {.menu = kMenu,
          .name = "can2",
@@ -352,23 +368,23 @@ std::vector<Command> ToolBarOnlyCommands() {
          .toolTip = "View solution|Hold the button down",
          .handler = Do<cmdviewcol_Release>,
          .pressed = Do<cmdviewcol_Press>},
-        {.name = "dash14", .text = "-", .bar = 14},
-        {.name = "dash15", .text = "-", .bar = 18},
+        {.name = "dash14", .text = "-", .bar = 15},
+        {.name = "dash15", .text = "-", .bar = 19},
         {.name = "cmdnew1",
          .text = "New Puzzle",
-         .bar = 19,
+         .bar = 20,
          .icon = "new",
          .toolTip = "New puzzle|Its size is set in the box beside",
          .handler = Do<cmdnew1_Click>},
-        {.name = "GridSize", .bar = 20, .toolTip = "Set grid size (7x7 to 25x25)|Rightclick to set random size"},
+        {.name = "GridSize", .bar = 21, .toolTip = "Set grid size (7x7 to 25x25)|Rightclick to set random size"},
         {.name = "cmdcancel",
          .text = "Cancel",
-         .bar = 21,
+         .bar = 22,
          .icon = "cancel",
          .toolTip = "Cancel",
          .handler = Do<cmdcancel_Click>},
-        {.name = "dash16", .text = "-", .bar = 22},
-        {.name = "cmdexit", .text = "Exit", .bar = 23, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
+        {.name = "dash16", .text = "-", .bar = 23},
+        {.name = "cmdexit", .text = "Exit", .bar = 24, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
     };
 }
 

@@ -26,6 +26,7 @@
 #include "generator/new_puzzle.h"
 #include "program/exit.h"
 #include "ui/box_control.h"
+#include "ui/guide_panel.h"
 #include "ui/icons.h"
 #include "ui/lines_view.h"
 #include "ui/mnemonic.h"
@@ -91,7 +92,8 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
       puzNumNow_(new QLineEdit),
       puzNumber_(new QLabel),
       puzfile_(new QLabel),
-      gridSize_(new QLineEdit) {
+      gridSize_(new QLineEdit),
+      assessment_(new QLabel) {
     setObjectName("Form1");
     setWindowTitle(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
     setWindowIcon(ProgramIcon());
@@ -102,6 +104,10 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
     AddMenus();
     AddToolBar();
     AddCentre();
+    auto* const guide = new GuidePanel(handlers_);
+    addDockWidget(Qt::RightDockWidgetArea, guide);
+    guide->hide();
+    connect(guide, &GuidePanel::Opening, this, [this, guide] { MakeRoomFor(guide); });
     AddDock(list1_, tr("Work list &1"));
     AddDock(list2_, tr("Work list &2"));
     AddStatusLine();
@@ -295,6 +301,10 @@ void Form1::AddStatusLine() {
     puzfile_->setMargin(3);
     statusBar()->addWidget(pb_, 1);
     statusBar()->addWidget(progress_);
+    assessment_->setObjectName("Assessment");
+    assessment_->setTextFormat(Qt::PlainText);
+    assessment_->setMargin(3);
+    statusBar()->addPermanentWidget(assessment_);
     statusBar()->addPermanentWidget(puzfile_);
 }
 
@@ -310,6 +320,8 @@ QWidget* Form1::WidgetOf(WindowText which) const {
             return puzfile_;
         case WindowText::BoardSize:
             return gridSize_;
+        case WindowText::Assessment:
+            return assessment_;
     }
     return nullptr;
 }

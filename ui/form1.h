@@ -83,6 +83,7 @@ class Form1 final : public QMainWindow {
     QLabel* puzNumber_;
     QLabel* puzfile_;
     QLineEdit* gridSize_;
+    QLabel* assessment_;
     bool statusIsNew_ = false;  ///< it says something that was not announced yet
 };
 

@@ -53,6 +53,7 @@ Program::Program()
       form2_(handlers_, &form1_),
       form6_(handlers_, &form1_),
       printers_(handlers_),
+      background_(handlers_),
       game_(std::make_unique<Game>(Seams{.prompts = prompts_,
                                          .filePicker = filePicker_,
                                          .questions = questions_,
@@ -62,7 +63,8 @@ Program::Program()
                                          .clock = clock_,
                                          .choices = choices_,
                                          .clipboard = clipboard_,
-                                         .printers = printers_})) {
+                                         .printers = printers_,
+                                         .background = background_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
     clipboard_.SetMainWindow(&form1_);

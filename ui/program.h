@@ -16,6 +16,7 @@
 #include "ui/main_window.h"
 #include "ui/pending_events.h"
 #include "ui/prompts.h"
+#include "ui/qt_background.h"
 #include "ui/qt_choices.h"
 #include "ui/qt_clipboard.h"
 #include "ui/qt_printers.h"
@@ -59,6 +60,7 @@ class Program final {
     Form2 form2_;
     Form6 form6_;
     QtPrinters printers_;
+    QtBackground background_;
     std::unique_ptr<Game> game_;
 };
 

@@ -41,7 +41,8 @@ World::Question World::Answer(const std::string& question) {
 std::string World::Seen() {
     std::string all;
     for (const std::string& entry : std::exchange(log_, {})) {
-        const bool isLabel = entry.starts_with("size: ") || entry.starts_with("count: ") || entry.starts_with("name: ");
+        const bool isLabel = entry.starts_with("size: ") || entry.starts_with("count: ") ||
+                             entry.starts_with("name: ") || entry.starts_with("facts: ");
         if (!isLabel) all += (all.empty() ? "" : ", ") + entry;
     }
     return all;
@@ -63,7 +64,7 @@ std::string World::Pick(const FileRequest& request) {
 }
 
 void World::SetText(WindowText which, const std::string& text) {
-    const char* const names[] = {"status: ", "number: ", "count: ", "name: ", "size: "};
+    const char* const names[] = {"status: ", "number: ", "count: ", "name: ", "size: ", "facts: "};
     texts[which] = text;
     Note(names[static_cast<int>(which)] + text);
 }

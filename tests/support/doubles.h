@@ -43,7 +43,8 @@ class World final : public Prompts,
                     public Clock,
                     public Clipboard,
                     public Printers,
-                    public Choices {
+                    public Choices,
+                    public Background {
  public:
     /// Fails when a question that was expected has not come.
     ~World() override;
@@ -110,6 +111,9 @@ class World final : public Prompts,
     std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
                                          std::string& error) override;
     void Preview(const std::string& printer, const PageFunction& draw) override;
+
+    void Assess(const Puzzle&, std::function<void(const Assessment&)> done) override { assessed = std::move(done); }
+    std::function<void(const Assessment&)> assessed;  ///< waits for what is found out about the puzzle
 
     const Game* game = nullptr;  ///< the game that this is the world of
     void Note(const std::string& entry) { log_.push_back(entry); }
