@@ -23,8 +23,7 @@ BridgeTable PositionBefore(const Archipelago& board, const std::vector<Step>& st
 /// What is told after the last step.
 std::string EndText(const Archipelago& board, const BridgeTable& position) {
     for (const Isle& isle : board.isles) {
-        if (position.CountAt(isle.id) != isle.number)
-            return "From here on there is no step that must be: the puzzle has several solutions.";
+        if (position.CountAt(isle.id) != isle.number) return kSeveralSolutions;
     }
     return "The puzzle is solved.";
 }
@@ -42,6 +41,7 @@ void mnuexplain_Click(Game& game) {
     const SpanBridges* const only = solutions->size() == 1 ? &solutions->front() : nullptr;
     game.guidance.steps = ExplainPath(board, only, WithoutEnd);
     ++game.guidance.revision;
+    if (game.guidance.steps.empty()) return ShowGuide(game, {}, kSeveralSolutions);
     ShowExplainedStep(game, 0);
 }
 

@@ -92,7 +92,7 @@ void Tell(Game& game, const Archipelago& board) {
         case HintKind::NoSolution:
             return ShowGuide(game, {}, "This puzzle has no solution.");
         case HintKind::Several:
-            return ShowGuide(game, {}, "This puzzle has several solutions, so there is no next step that must be.");
+            return ShowGuide(game, {}, kSeveralSolutions);
         case HintKind::Nothing:
             return ShowGuide(game, {}, "No next step was found.");
     }

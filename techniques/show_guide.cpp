@@ -22,12 +22,12 @@ std::string GuidanceText(const Game& game) {
 
 void ShowGuide(Game& game, Guide guide, const std::string& text) {
     Board& board = game.board;
-    const bool otherBridges = guide.position.has_value() || (board.ShownGuide() != nullptr && board.guide.position);
     guide.revision = board.history.Revision();
     board.guide = std::move(guide);
     game.guidance.text = text;
     game.guidance.textRevision = board.history.Revision();
-    if (otherBridges) RedrawBoard(game, false);
+    // The board may show a solution, or the bridges of another step.
+    RedrawBoard(game, false);
     game.pictures.ShowOverlay();
 }
 

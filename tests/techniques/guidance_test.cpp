@@ -66,6 +66,10 @@ TEST(Hint, TellsOfPuzzlesWithoutANextStep) {
         {{"3.3", "...", "3.3"}, "This puzzle has several solutions, so there is no next step that must be."}};
     for (const auto& [rows, text] : cases)
         EXPECT_EQ(Guided(rows).Hint(), text);
+    Guided several({"3.3", "...", "3.3"});
+    several.Run(mnuexplain_Click);
+    several.Run(ShowExplainedStep, static_cast<int>(several.guidance.steps.size()));
+    EXPECT_EQ(GuidanceText(several), cases[1].second);
     Guided game({"2.2"});
     game.Lay(1, 3, 2);
     EXPECT_EQ(game.Hint(), "The puzzle is solved.");
