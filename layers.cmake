@@ -8,6 +8,9 @@ function(tidewalk_layer name)
     cmake_parse_arguments(PARSE_ARGV 1 layer "" "" "ON;FILES")
     set(files "")
     foreach(stem IN LISTS layer_FILES)
+        if(NOT EXISTS ${CMAKE_SOURCE_DIR}/${stem}.h AND NOT EXISTS ${CMAKE_SOURCE_DIR}/${stem}.cpp)
+            message(FATAL_ERROR "The layer ${name} names ${stem}, which is not there")
+        endif()
         foreach(file IN ITEMS ${stem}.h ${stem}.cpp)
             if(EXISTS ${CMAKE_SOURCE_DIR}/${file})
                 list(APPEND files ${file})
@@ -57,8 +60,8 @@ tidewalk_layer(board ON drawing FILES
 # The game: what the window's handlers share, and the seams to the world.
 
 tidewalk_layer(game ON board generator FILES
-    game/background game/choices game/file_work game/game game/guidance game/job game/job_state game/list_box game/main_window game/messages game/output game/pick_file
-    game/questions game/system_clock)
+    game/background game/choices game/clock game/file_work game/game game/guidance game/job game/job_state game/list_box game/main_window game/messages game/output game/pick_file
+    game/questions)
 
 # The handlers of menus, buttons, mouse and keys, each beside its subject.
 

@@ -25,7 +25,7 @@ std::vector<Puzzle> MakePuzzles(int side, bool searched) {
     SolverBoard board;
     while (puzzles.size() < kPuzzles) {
         const CreatedPuzzle created = CreatePuzzle(board, {side, side}, random, WithoutEnd);
-        if (created.solved && (created.grade > 0) == searched) puzzles.push_back(created.puzzle);
+        if (created.solved && (created.trials > 0) == searched) puzzles.push_back(created.puzzle);
     }
     return puzzles;
 }

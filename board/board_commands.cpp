@@ -15,7 +15,7 @@ void cmdzoom_Click(Game& game, int index) {
     if (index == 0) cellSize = RoundHalfEven(cellSize * 0.9);
     if (index == 1) cellSize = RoundHalfEven(cellSize * 1.1);
     if (index == 2) cellSize = game.board.FittedCellSize;
-    LayOutBoard(game, cellSize);
+    ZoomBoard(game, cellSize);
     RedrawBoard(game, false);
     FollowLayout(game.board);
     game.pictures.ShowOverlay();

@@ -6,15 +6,10 @@
 #include <tuple>
 
 #include "board/board_mouse.h"
-#include "game/job.h"
 
 namespace tidewalk {
 
 namespace {
-
-bool IsArrow(BoardKey key) {
-    return key == BoardKey::Left || key == BoardKey::Right || key == BoardKey::Up || key == BoardKey::Down;
-}
 
 /// The first island from the cell `id` on, in steps of 1 or -1; 0 when there is none.
 CellNumber IslandFrom(const Puzzle& puzzle, CellNumber id, int step) {
@@ -29,7 +24,7 @@ void FocusSomeIsland(Game& game) {
     FocusIsland(game, selected != 0 ? selected : IslandFrom(game.board.puzzle, 1, 1));
 }
 
-/// The island that a key without a move leads to; 0 for none.
+/// The island that a key which makes no move leads to; 0 for none.
 CellNumber Destination(const Puzzle& puzzle, BoardKey key, CellNumber from) {
     switch (key) {
         case BoardKey::First:
@@ -41,15 +36,8 @@ CellNumber Destination(const Puzzle& puzzle, BoardKey key, CellNumber from) {
         case BoardKey::Next:
             return IslandFrom(puzzle, from + 1, 1);
         default:
-            return IsArrow(key) ? IslandTowards(puzzle, key, from) : 0;
+            return IslandTowards(puzzle, key, from);
     }
-}
-
-/// Clicks the focused island.
-void ClickFocused(Game& game) {
-    game.board.HoverRow = game.board.FocusRow;
-    game.board.HoverCol = game.board.FocusCol;
-    Picture1_Click(game);
 }
 
 /// Joins the selected island with the focused one, if they are two, as the release of a button over it would.
@@ -57,7 +45,7 @@ void ReleaseOnFocused(Game& game, MouseButton button, bool shift) {
     const CellNumber selected = SelectedIsland(game.board);
     const CellNumber focused = FocusedIsland(game.board);
     if (selected == 0 || selected == focused) return;
-    Picture1_MouseUp(game, button, shift, game.board.At(focused));
+    ReleaseOn(game, button, shift, game.board.puzzle.PlaceOf(focused));
 }
 
 /// How far the board has to move so that the cell around `at`, in the container, lies within `room`. Boards that were
@@ -128,7 +116,7 @@ void Picture1_KeyDown(Game& game, BoardKey key) {
     if (focused == 0) {
         FocusSomeIsland(game);
     } else if (key == BoardKey::Lay) {
-        ClickFocused(game);
+        ClickOn(game, game.board.puzzle.PlaceOf(focused));
     } else if (key == BoardKey::LayDouble) {
         ReleaseOnFocused(game, MouseButton::Left, true);
     } else if (key == BoardKey::Remove) {

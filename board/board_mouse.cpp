@@ -20,10 +20,10 @@ void HoverAt(Board& board, Point point) {
     board.HoverCol = onBoard ? cell.col : 0;
 }
 
-void SelectHovered(Board& board) {
-    board.AnchorRow = board.HoverRow;
-    board.AnchorCol = board.HoverCol;
-    const Point at = board.layout.At({board.HoverRow, board.HoverCol});
+void Select(Board& board, CellPlace cell) {
+    board.AnchorRow = cell.row;
+    board.AnchorCol = cell.col;
+    const Point at = board.layout.At(cell);
     board.Line1 = {true, at, at};
 }
 
@@ -64,8 +64,7 @@ void Picture1_MouseDown(Game& game, MouseButton button, Point cursor) {
 void Picture1_MouseMove(Game& game, bool leftHeld, Point point, Point cursor) {
     Board& board = game.board;
     HoverAt(board, point);
-    const auto [row, col] = CellUnder(board.layout, point);
-    if (board.Line1.visible && board.puzzle.OnBoard(row, col)) {
+    if (board.Line1.visible && board.HoverRow > 0) {
         board.Line1.to = point;
         game.pictures.ShowOverlay();
     }
@@ -78,15 +77,22 @@ void Picture1_MouseMove(Game& game, bool leftHeld, Point point, Point cursor) {
 
 void Picture1_MouseUp(Game& game, MouseButton button, bool shiftOnly, Point point) {
     if (game.job.BusyFlag()) return;
+    HoverAt(game.board, point);
+    ReleaseOn(game, button, shiftOnly, {game.board.HoverRow, game.board.HoverCol});
+}
+
+void Picture1_Click(Game& game) {
+    ClickOn(game, {game.board.HoverRow, game.board.HoverCol});
+}
+
+void ReleaseOn(Game& game, MouseButton button, bool shiftOnly, CellPlace cell) {
     Board& board = game.board;
-    HoverAt(board, point);
-    const auto [row, col] = CellUnder(board.layout, point);
-    if (board.puzzle.IslandGrid(row, col) < 1) return;
-    const CellNumber released = board.puzzle.CellId(row, col);
+    if (game.job.BusyFlag() || board.puzzle.IslandGrid(cell.row, cell.col) < 1) return;
+    const CellNumber released = board.puzzle.CellId(cell);
     const CellNumber selected = SelectedIsland(board);
     // Whoever goes on with the keyboard begins where the mouse was last.
-    board.FocusRow = row;
-    board.FocusCol = col;
+    board.FocusRow = cell.row;
+    board.FocusCol = cell.col;
     if (shiftOnly) {
         ReleaseWithShift(game, selected, released);
     } else if (button == MouseButton::Right && selected != 0) {
@@ -94,18 +100,17 @@ void Picture1_MouseUp(Game& game, MouseButton button, bool shiftOnly, Point poin
     }
 }
 
-void Picture1_Click(Game& game) {
+void ClickOn(Game& game, CellPlace cell) {
     if (game.job.BusyFlag()) return;
     Board& board = game.board;
     const CellNumber selected = SelectedIsland(board);
-    const bool onIsland = board.puzzle.IslandGrid(board.HoverRow, board.HoverCol) > 0;
-    if (!onIsland) {
+    if (board.puzzle.IslandGrid(cell.row, cell.col) < 1) {
         DropSelection(board);
     } else if (selected == 0) {
         // The anchor is 0 when nothing was selected and -1 after a click beside the board.
-        SelectHovered(board);
+        Select(board, cell);
     } else {
-        const CellNumber clicked = board.puzzle.CellId(board.HoverRow, board.HoverCol);
+        const CellNumber clicked = board.puzzle.CellId(cell);
         if (clicked != selected) {
             PushUndo(board, selected, clicked);
             PlaceBridge(board, PlaceMode::Cycle, selected, clicked, 1);

@@ -12,14 +12,14 @@ void RedrawBoard(Game& game, bool showSolution) {
     BoardDrawing(game.pictures.Picture(), game.board, game.options).RedrawBoard(showSolution);
 }
 
-void LayOutBoard(Game& game, int cellSize) {
+void ZoomBoard(Game& game, int cellSize) {
     game.board.layout = LayoutBoard(game.board.puzzle.Size(), cellSize, game.pictures.ContainerExtent());
     game.pictures.PlacePicture();
 }
 
 void LayoutNewBoard(Game& game, BoardSize size) {
     game.board.puzzle = Puzzle(size);
-    LayOutBoard(game, FittingCellSize(size, game.pictures.ContainerExtent().width));
+    ZoomBoard(game, FittingCellSize(size, game.pictures.ContainerExtent().width));
 }
 
 void PutOnBoard(Game& game, const Puzzle& puzzle) {
@@ -34,7 +34,7 @@ void PutOnBoard(Game& game, const Puzzle& puzzle) {
 void FitBoard(Game& game) {
     const int fitting = FittingCellSize(game.board.puzzle.Size(), game.pictures.ContainerExtent().width);
     game.board.FittedCellSize = fitting;
-    LayOutBoard(game, fitting);
+    ZoomBoard(game, fitting);
 }
 
 void ShowPuzzleLabels(Game& game, const std::string& path) {
@@ -52,7 +52,7 @@ void CentreBoard(Game& game) {
 
 void ShowEmptyBoard(Game& game) {
     PutOnBoard(game, Puzzle(game.board.puzzle.Size()));
-    LayOutBoard(game, game.board.layout.CellSize);
+    ZoomBoard(game, game.board.layout.CellSize);
     RedrawBoard(game, false);
 }
 

@@ -10,7 +10,7 @@ namespace tidewalk {
 void RedrawBoard(Game& game, bool showSolution);
 
 /// Lays the board out anew with cells of about `cellSize` twips, in the middle of its container. Nothing is drawn.
-void LayOutBoard(Game& game, int cellSize);
+void ZoomBoard(Game& game, int cellSize);
 
 /// Puts an empty board of this size, fitted to the container, in the place of the puzzle; bridges and moves stay until
 /// a puzzle comes. The size that "Reset zoom" goes back to stays that of the last loaded puzzle.

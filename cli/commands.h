@@ -29,7 +29,7 @@ struct SolveOptions {
     std::string file;
     PuzzleRange range;
     std::optional<std::string> out;  ///< where the solved records go
-    int maxTrials = 0;
+    int maxTrials = 0;               ///< a puzzle that needs more is given up; 0 is the rules alone
     int jobs = 1;
     bool links = false;
     bool json = false;
@@ -39,7 +39,7 @@ int SolvePuzzles(Console& console, const SolveOptions& options);
 
 struct CheckOptions {
     std::string file;
-    double seconds = 0;  ///< the time for counting the solutions of one puzzle
+    double seconds = 0;  ///< the time for counting the solutions of one puzzle; 0 leaves none
     int jobs = 1;
     bool json = false;
 };

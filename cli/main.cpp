@@ -8,7 +8,6 @@
 #include <ctime>
 #include <iostream>
 #include <string>
-#include <vector>
 
 #include "cli/arguments.h"
 #include "cli/descriptor_buffers.h"

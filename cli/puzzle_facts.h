@@ -12,9 +12,10 @@
 
 namespace tidewalk {
 
-/// What the stored bridges are.
+/// What is said of a solution that was written without some of its bridges.
 inline constexpr const char* kCutShort = "the record cannot hold a bridge between touching islands";
 
+/// What the stored bridges are.
 enum class StoredSolution {
     None,
     Valid,
@@ -24,7 +25,7 @@ enum class StoredSolution {
 
 StoredSolution JudgeStored(const Puzzle& puzzle);
 
-/// "none", "valid" or "wrong".
+/// "none", "valid", "cut short" or "wrong".
 std::string Word(StoredSolution stored);
 
 /// Its rows and columns.

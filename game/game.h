@@ -7,6 +7,7 @@
 #include "board/board.h"
 #include "game/background.h"
 #include "game/choices.h"
+#include "game/clock.h"
 #include "game/guidance.h"
 #include "game/job_state.h"
 #include "game/list_box.h"

@@ -43,12 +43,14 @@ class JobState {
     bool PollIsDue(std::int64_t now) const;
     void Polled(std::int64_t now) { lastPoll_ = now; }
 
-    /// For `Job` alone: a job begins, takes what is on the board for its own, ends.
+ private:
+    friend class Job;
+
+    /// A job begins, takes what is on the board for its own, ends.
     void Begin(std::string name);
     void Adopt() { superseded_ = false; }
     void End();
 
- private:
     bool busy_ = false;
     bool cancelled_ = false;
     bool superseded_ = false;

@@ -2,7 +2,6 @@
 // The seams of the main window: its texts, its pointer, its events and the board's picture.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 #include "drawing/surface.h"
@@ -81,25 +80,6 @@ class PendingEvents {
 
     /// Brings what was drawn to the screen and lets clicks and keys wait on.
     virtual void Repaint() = 0;
-};
-
-/// The time.
-class Clock {
- public:
-    virtual ~Clock() = default;
-
-    /// Seconds since midnight, with a fraction, 0 <= t < 86400.
-    virtual double Timer() = 0;
-
-    /// Milliseconds since some fixed moment; never goes back.
-    virtual std::int64_t Milliseconds() = 0;
-};
-
-/// The machine's own clock (the time of day by universal time).
-class SystemClock final : public Clock {
- public:
-    double Timer() override;
-    std::int64_t Milliseconds() override;
 };
 
 }  // namespace tidewalk

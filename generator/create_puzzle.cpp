@@ -46,7 +46,7 @@ CreatedPuzzle CreatePuzzle(SolverBoard& board, BoardSize size, RandomSource& ran
         if (stopped) break;
         board.Reset(created.puzzle);
         const SolveResult result = SolvePuzzle(board, BoundsFor(created.puzzle.CellCount()), mayGoOn);
-        created.grade = result.trials;
+        created.trials = result.trials;
         if (!result.solved) continue;
         created.solved = true;
         created.puzzle = PuzzleOf(board);

@@ -12,7 +12,7 @@ namespace tidewalk {
 /// What came of making a puzzle.
 struct CreatedPuzzle {
     bool solved = false;  ///< the solver has solved it
-    int grade = 0;        ///< the number of trials that the solver needed
+    int trials = 0;       ///< what the solver needed
     Puzzle puzzle;        ///< with its solution; when it was not solved, the numbers of the last layout
 };
 

@@ -91,9 +91,4 @@ std::optional<NeighbourList> ParseNeighbourList(std::string_view text);
 /// Reads the text form of a list of joined islands; nothing when it has another form.
 std::optional<JoinedList> ParseJoinedList(std::string_view text);
 
-/// How many islands the list names.
-inline int NeighbourCount(const NeighbourList& list) {
-    return list.Count();
-}
-
 }  // namespace tidewalk

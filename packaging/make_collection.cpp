@@ -53,7 +53,7 @@ Made MakeOne(SolverBoard& board, BoardSize size, RandomSource& random) {
         const CreatedPuzzle created = CreatePuzzle(board, size, random, WithoutEnd);
         if (!created.solved || !IsValidSolution(created.puzzle)) continue;
         if (CountSolutions(created.puzzle, 2) != 1) continue;
-        return {PuzzleRecord(created.puzzle), created.puzzle.CellCount(), created.grade};
+        return {PuzzleRecord(created.puzzle), created.puzzle.CellCount(), created.trials};
     }
 }
 

@@ -26,8 +26,7 @@ class Counter {
           mayGoOn_(mayGoOn),
           bounds_(board.spans.size()),
           queued_(board.isles.size()),
-          order_(board.isles.size()),
-          lowest_(board.isles.size()) {}
+          connections_(board, MayBeBridged{this}) {}
 
     std::optional<std::vector<SpanBridges>> Run() {
         for (int isle = 0; isle < board_.IsleCount(); ++isle)
@@ -114,32 +113,10 @@ class Counter {
     /// All islands must hang together over spans that may still be bridged, and a span without which they would not has
     /// to be bridged.
     bool TightenConnections() {
-        std::fill(order_.begin(), order_.end(), 0);
-        visited_ = 0;
-        cutSpans_.clear();
-        Explore(0, -1);
-        if (visited_ != board_.IsleCount()) return false;
-        return std::all_of(cutSpans_.begin(), cutSpans_.end(),
-                           [this](int span) { return Bound(span, 1, kMostBridges); });
-    }
-
-    /// Numbers the islands depth first from `isle`, reached over the span `cameBy`, and collects the spans that no
-    /// circle runs over.
-    void Explore(int isle, int cameBy) {
-        const auto at = static_cast<std::size_t>(isle);
-        order_[at] = lowest_[at] = ++visited_;
-        for (const int span : board_.IsleAt(isle).spans) {
-            if (span == cameBy || At(span).high == 0) continue;
-            const int other = board_.SpanAt(span).Other(isle);
-            const auto otherAt = static_cast<std::size_t>(other);
-            if (order_[otherAt] == 0) {
-                Explore(other, span);
-                if (lowest_[otherAt] > order_[at]) cutSpans_.push_back(span);
-                lowest_[at] = std::min(lowest_[at], lowest_[otherAt]);
-            } else {
-                lowest_[at] = std::min(lowest_[at], order_[otherAt]);
-            }
-        }
+        connections_.Run();
+        const std::vector<int>& cuts = connections_.CutSpans();
+        return connections_.ReachesAll() &&
+               std::all_of(cuts.begin(), cuts.end(), [this](int span) { return Bound(span, 1, kMostBridges); });
     }
 
     /// An open span at the island with the fewest bridges left to choose, or -1 when every span is settled.
@@ -217,10 +194,11 @@ class Counter {
     std::vector<int> queue_;  ///< islands whose spans changed
     std::vector<bool> queued_;
 
-    std::vector<int> order_;   ///< when an island was visited, from 1; 0 for not yet
-    std::vector<int> lowest_;  ///< the earliest visited island that can be reached from it without going back
-    std::vector<int> cutSpans_;
-    int visited_ = 0;
+    struct MayBeBridged {
+        const Counter* counter;
+        bool operator()(int span) const { return counter->bounds_[static_cast<std::size_t>(span)].high > 0; }
+    };
+    ConnectionSearch<MayBeBridged> connections_;
 };
 
 }  // namespace

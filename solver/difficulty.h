@@ -6,7 +6,8 @@
 
 namespace tidewalk {
 
-/// "VEasy" below 1, "Easy" up to 5, "Hard" up to 10, "VHard" from 11 on. The score is a count of trials.
+/// "VEasy" below 1, "Easy" up to 5, "Hard" up to 10, "VHard" from 11 on. The score
+/// is that of `techniques/grade.h`.
 std::string_view DifficultyName(int score);
 
 }  // namespace tidewalk

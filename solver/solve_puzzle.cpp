@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "solver/solve_puzzle.h"
 
-#include "solver/connect_islands.h"
 #include "solver/contradictions.h"
 #include "solver/rules.h"
 #include "solver/status_list.h"

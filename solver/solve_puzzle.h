@@ -27,6 +27,7 @@ struct SolveResult {
 /// solver left it. `mayGoOn` is asked before each pass and at each trial.
 SolveResult SolvePuzzle(SolverBoard& board, const SolveBounds& bounds, const MayGoOn& mayGoOn);
 
+/// How the passes of the rules ended.
 enum class Propagation { Settled, Contradiction, Stopped };
 
 /// Repeats passes of the rules until one lays nothing or leads to a contradiction, and asks before each whether to go

@@ -14,8 +14,8 @@ bool CheckLinkTotals(const Puzzle& puzzle);
 /// of one row or column, none runs over an island or across another bridge, and all islands are one group.
 bool IsValidSolution(const Puzzle& puzzle);
 
-/// True when the bridges do not solve the puzzle, but would with further ones between islands that touch each other, which
-/// a record has no room for.
+/// True when the bridges do not solve the puzzle, but would with further ones between islands that touch each other,
+/// which a record has no room for.
 bool LacksOnlyTouchingBridges(const Puzzle& puzzle);
 
 }  // namespace tidewalk

@@ -70,7 +70,7 @@ class WayFinder {
     Way way_{};
 };
 
-/// The islands that some left out way joins, after the island itself.
+/// Adds the neighbours with room.
 void AddIslesOf(const Position& position, int isle, const Ways& ways, Deduction& deduction) {
     for (int k = 0; k < ways.rooms.count; ++k) {
         const auto at = static_cast<std::size_t>(k);

@@ -20,6 +20,8 @@ constexpr std::array<Names, kTechniqueCount> kNames{{{"last", "The last bridges"
                                                      {"suppose", "Suppose"},
                                                      {"trial", "Trial"}}};
 
+static_assert(!kNames.back().id.empty(), "every technique has its names");
+
 const Names& NamesOf(Technique technique) {
     return kNames[static_cast<std::size_t>(technique)];
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/may_go_on.h"
+#include "solver/count_solutions.h"
 #include "techniques/deduction.h"
 
 namespace tidewalk {

@@ -6,6 +6,7 @@
 
 #include "model/may_go_on.h"
 #include "model/puzzle.h"
+#include "solver/count_solutions.h"
 #include "techniques/deduction.h"
 
 namespace tidewalk {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "techniques/groups.h"
 
+#include <algorithm>
+#include <iterator>
 #include <numeric>
 
 namespace tidewalk {
@@ -10,40 +12,6 @@ namespace {
 bool IsPassable(const Position& position, int span) {
     return position.Laid(span) > 0 || position.Room(span) > 0;
 }
-
-/// Numbers the islands depth first. A span is a cut when nothing behind it leads back before it.
-class Explorer {
- public:
-    explicit Explorer(const Position& position)
-        : position_(position), order_(position.Board().isles.size(), 0), lowest_(position.Board().isles.size(), 0) {}
-
-    void Explore(int isle, int cameBy) {
-        const auto at = static_cast<std::size_t>(isle);
-        order_[at] = lowest_[at] = ++visited_;
-        for (const int span : position_.Board().IsleAt(isle).spans) {
-            if (span == cameBy || !IsPassable(position_, span)) continue;
-            const int other = position_.Board().SpanAt(span).Other(isle);
-            const auto otherAt = static_cast<std::size_t>(other);
-            if (order_[otherAt] == 0) {
-                Explore(other, span);
-                if (lowest_[otherAt] > order_[at] && position_.Laid(span) == 0) cutSpans.push_back(span);
-                lowest_[at] = std::min(lowest_[at], lowest_[otherAt]);
-            } else {
-                lowest_[at] = std::min(lowest_[at], order_[otherAt]);
-            }
-        }
-    }
-
-    bool IsVisited(int isle) const { return order_[static_cast<std::size_t>(isle)] != 0; }
-
-    std::vector<int> cutSpans;
-
- private:
-    const Position& position_;
-    std::vector<int> order_;   ///< when an island was visited, from 1; 0 for not yet
-    std::vector<int> lowest_;  ///< the earliest visited island that can be reached from it without going back
-    int visited_ = 0;
-};
 
 }  // namespace
 
@@ -70,12 +38,14 @@ int Groups::Root(int isle) {
 }
 
 Connections::Connections(const Position& position) {
-    Explorer explorer(position);
-    explorer.Explore(0, -1);
+    ConnectionSearch search(position.Board(), [&](int span) { return IsPassable(position, span); });
+    search.Run();
     for (int isle = 0; isle < position.Board().IsleCount() && unreached < 0; ++isle) {
-        if (!explorer.IsVisited(isle)) unreached = isle;
+        if (!search.IsReached(isle)) unreached = isle;
     }
-    if (unreached < 0) cutSpans = std::move(explorer.cutSpans);
+    if (unreached >= 0) return;
+    std::copy_if(search.CutSpans().begin(), search.CutSpans().end(), std::back_inserter(cutSpans),
+                 [&](int span) { return position.Laid(span) == 0; });
 }
 
 std::vector<int> ReachedWithout(const Position& position, int from, int barred) {

@@ -29,6 +29,7 @@ class Groups {
 
 /// The spans that are all that joins two parts of the board, over bridges that lie and spans that have room.
 struct Connections {
+    /// The board has an island at least.
     explicit Connections(const Position& position);
 
     /// An island that the first one cannot reach, or -1 when all hang together.

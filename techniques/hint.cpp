@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "techniques/deducer.h"
+#include "techniques/groups.h"
 #include "techniques/sentences.h"
 
 namespace tidewalk {
@@ -33,10 +34,33 @@ Position PositionOf(const Archipelago& board, const std::vector<PlayedPair>& pla
     return position;
 }
 
+/// Whether every island has exactly its bridges, none of them crosses another one, and all are one group.
+bool IsSolved(const Position& position) {
+    const Archipelago& board = position.Board();
+    for (int isle = 0; isle < board.IsleCount(); ++isle) {
+        if (position.Need(isle) != 0) return false;
+    }
+    for (int span = 0; span < board.SpanCount(); ++span) {
+        if (position.Laid(span) > 0 && position.Blocked(span)) return false;
+    }
+    const Groups groups(position);
+    return groups.Size(groups.Of(0)) == board.IsleCount();
+}
+
 /// Whether a deduction looks at nothing but the spans of the island that it is about.
 bool IsAboutOneIsland(const Deduction& deduction) {
-    return deduction.technique == Technique::Last || deduction.technique == Technique::Least ||
-           deduction.technique == Technique::CutOff;
+    switch (deduction.technique) {
+        case Technique::Last:
+        case Technique::Least:
+        case Technique::CutOff:
+            return true;
+        case Technique::NoMore:
+        case Technique::WayOut:
+        case Technique::Suppose:
+        case Technique::Trial:
+            break;
+    }
+    return false;
 }
 
 /// Drops the steps that the last one does not need.
@@ -78,21 +102,20 @@ Hint FindHint(const Archipelago& board, const std::optional<std::vector<SpanBrid
         if (!mistakes.empty()) return {HintKind::Mistake, {}, std::move(mistakes)};
     }
     Position position = PositionOf(board, played);
-    if (position.Unfinished() == 0) return {HintKind::Finished, {}, {}};
+    if (IsSolved(position)) return {HintKind::Finished, {}, {}};
     Hint hint;
     Deducer deducer(position, Purpose::Hint);
-    while (position.Unfinished() > 0) {
+    for (bool lays = false; !lays;) {
         auto deduction = deducer.Next(mayGoOn);
         if (!deduction) {
-            if (!solutions || !mayGoOn()) return {};
+            if (!solutions || position.Unfinished() == 0 || !mayGoOn()) return {};
             deduction = FindByTrial(position, solutions->front());
         }
+        lays = wanted == HintStep::Any || !deduction->must.empty();
         // Where no more bridges go is seen by every other technique without being told.
-        const bool lays = !deduction->must.empty();
-        if (lays || wanted == HintStep::Any || deduction->technique != Technique::NoMore)
+        if (lays || deduction->technique != Technique::NoMore)
             hint.steps.push_back({*deduction, Sentence(position, *deduction)});
-        if (lays || wanted == HintStep::Any) break;
-        Apply(position, *deduction);
+        if (!lays) Apply(position, *deduction);
     }
     hint.kind = HintKind::Step;
     KeepNeeded(board, hint.steps);

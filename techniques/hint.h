@@ -28,6 +28,7 @@ enum class HintKind {
     Nothing      ///< it could not be told
 };
 
+/// What is told to a player who asks for the next step.
 struct Hint {
     HintKind kind = HintKind::Nothing;
     std::vector<Step> steps;           ///< the last one is the hint; those before it say what cannot be, which it needs

@@ -8,7 +8,6 @@
 
 #include "model/cell_set.h"
 #include "solver/archipelago.h"
-#include "solver/count_solutions.h"
 
 namespace tidewalk {
 
@@ -56,7 +55,7 @@ class Position {
 
     /// Lays `n` more bridges, 1 or 2, whether or not there is room for them.
     void Lay(int span, int n);
-    /// Notes that no more than `most` bridges lie on the span in any solution.
+    /// Notes that no more than `most` bridges, 0..2, lie on the span in any solution.
     void Limit(int span, int most);
 
     /// The islands about which something has changed since the set was emptied last.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <vector>
 
 #include "techniques/cutting_off.h"
 
@@ -293,6 +294,7 @@ std::string Sentence(const Position& position, const Deduction& deduction) {
     constexpr std::array<Writing, kTechniqueCount> kWritings{&Writer::Last,   &Writer::Least,  &Writer::NoMore,
                                                              &Writer::CutOff, &Writer::WayOut, &Writer::Suppose,
                                                              &Writer::Trial};
+    static_assert(kWritings.back() != nullptr, "every technique has its sentence");
     return (Writer(position).*kWritings[static_cast<std::size_t>(deduction.technique)])(deduction);
 }
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "techniques/supposing.h"
 
-#include <algorithm>
+#include <array>
 #include <limits>
+#include <vector>
 
 #include "techniques/cutting_off.h"
 

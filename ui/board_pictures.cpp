@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
-#include <array>
 #include <cmath>
 #include <map>
 #include <optional>

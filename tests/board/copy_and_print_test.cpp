@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "board/copy_and_print.h"
 
+#include <optional>
+
 #include "board/show_board.h"
+#include "game/job.h"
 #include "program/exit.h"
 #include "support/test_game.h"
 
@@ -153,12 +156,13 @@ TEST_F(Printing, ARangeOutsideTheFileIsRefused) {
     game.world.Expect("No puzzles in this file: " + other, kCritical);
     PrintRange({}, "1", "1");
     for (const bool closed : {false, true}) {
+        std::optional<Job> job;
         game.world.print = [&](PrintRequest& request) {
-            closed ? Form_QueryUnload(game) : game.job.Begin("AutoSolve");
+            if (closed) Form_QueryUnload(game);
+            if (!closed) job.emplace(game, "AutoSolve");
             return request.first = request.last = "1", true;
         };
         control27_Click(game);
-        game.job.End();
     }
     EXPECT_TRUE(game.world.pages.empty()) << "what happened meanwhile may forbid it, too";
 }

@@ -33,7 +33,7 @@ TEST(CreatePuzzle, ASeedGivesTheSameBytesAndGradeOnEveryMachine) {
         const CreatedPuzzle created = Create(size, seed);
         const std::string record = PuzzleRecord(created.puzzle);
         EXPECT_TRUE(created.solved);
-        EXPECT_EQ(created.grade, grade) << record;
+        EXPECT_EQ(created.trials, grade) << record;
         EXPECT_EQ(Hash(record), hash) << record;
     }
     EXPECT_EQ(PuzzleRecord(Create({7, 8}, 3).puzzle),

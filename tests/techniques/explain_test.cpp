@@ -12,6 +12,7 @@
 #include "support/random_boards.h"
 #include "techniques/grade.h"
 #include "techniques/hint.h"
+#include "techniques/sentences.h"
 
 namespace tidewalk::test {
 namespace {
@@ -66,16 +67,31 @@ TEST(WalkPath, SaysNothingThatASolutionContradictsAndEndsAtTheOnlyOne) {
     EXPECT_EQ(used.back(), 0) << "trials";
 }
 
+TEST(FindByTrial, TellsASpanOfTheSolution) {
+    const Archipelago board(PuzzleFrom({"1.2.1"}));
+    Position position(board);
+    position.Lay(0, 1);
+    const Deduction deduction = FindByTrial(position, {1, 1});
+    EXPECT_EQ(
+        Sentence(position, deduction),
+        "None of the other techniques helps here. Trying out what is left shows that one bridge joins the 2 at row "
+        "1, column 3 and the 1 on its right.");
+    EXPECT_EQ(deduction.must.front().bridges, 1);
+}
+
 TEST(ScoreOf, TheHardestTechniqueSetsTheName) {
+    // By how often they are needed: cut off, ways out, near and far suppositions, trials.
+    const std::pair<Efforts, int> scores[] = {{{0, 0, 0, 0, 0}, 0},  {{1, 0, 0, 0, 0}, 1},  {{3, 0, 0, 0, 0}, 2},
+                                              {{1, 1, 0, 0, 0}, 2},  {{99, 9, 0, 0, 0}, 5}, {{9, 0, 1, 0, 0}, 6},
+                                              {{0, 0, 5, 0, 0}, 10}, {{0, 0, 0, 1, 0}, 11}, {{0, 0, 1, 2, 0}, 14},
+                                              {{0, 0, 1, 1, 2}, 29}};
+    for (const auto& [efforts, score] : scores)
+        EXPECT_EQ(ScoreOf(efforts), score);
     const std::pair<Efforts, const char*> cases[] = {
         {{0, 0, 0, 0, 0}, "VEasy"}, {{1, 0, 0, 0, 0}, "Easy"},  {{99, 9, 0, 0, 0}, "Easy"}, {{0, 0, 1, 0, 0}, "Hard"},
         {{9, 0, 5, 0, 0}, "Hard"},  {{0, 0, 6, 0, 0}, "VHard"}, {{0, 0, 0, 1, 0}, "VHard"}, {{0, 0, 0, 0, 1}, "VHard"}};
-    int last = 0;
-    for (const auto& [efforts, name] : cases) {
+    for (const auto& [efforts, name] : cases)
         EXPECT_EQ(DifficultyName(ScoreOf(efforts)), name);
-        EXPECT_GE(ScoreOf(efforts) + (efforts.far > 0 ? 1 : 0), last) << "harder is more";
-        last = ScoreOf(efforts);
-    }
 }
 
 TEST(AssessPuzzle, SeveralOneNoneOrNotKnown) {
@@ -151,6 +167,13 @@ TEST(FindHint, NamesWhatIsWrong) {
     EXPECT_EQ(kindFor({{1, 5, 1, false}}), HintKind::Mistake) << "they do not see each other";
     EXPECT_EQ(kindFor({{3, 1, 1, true}}), HintKind::Step);
     EXPECT_EQ(kindFor({{3, 1, 1, false}, {3, 5, 1, false}}), HintKind::Finished);
+    const auto kindUnknown = [](const Rows& rows, const std::vector<PlayedPair>& played) {
+        return FindHint(Archipelago(PuzzleFrom(rows)), std::nullopt, played, HintStep::WithBridges, WithoutEnd).kind;
+    };
+    EXPECT_EQ(kindUnknown({"2.2"}, {{1, 3, 2, false}}), HintKind::Finished);
+    EXPECT_EQ(kindUnknown({"1.1"}, {{1, 3, 2, false}}), HintKind::Nothing) << "too many";
+    EXPECT_EQ(kindUnknown({"1.1", "...", "1.1"}, {{1, 3, 1, false}, {7, 9, 1, false}}), HintKind::Nothing) << "parted";
+    EXPECT_EQ(kindUnknown({".1.", "1.1", ".1."}, {{2, 8, 1, false}, {4, 6, 1, false}}), HintKind::Nothing) << "crossed";
 }
 
 }  // namespace

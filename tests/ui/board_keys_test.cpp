@@ -2,6 +2,7 @@
 // The board under the keyboard, and as a screen reader meets it.
 #include "board/board_keys.h"
 
+#include "game/job.h"
 #include "ui/board_accessible.h"
 #include "window_game.h"
 
@@ -149,10 +150,11 @@ TEST(ScreenReader, FindsEveryIslandAsAChildOfTheBoard) {
     first->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(first->state().selected);
     EXPECT_EQ(board->focusChild(), first);
-    window.game.job.Begin("AutoSolve");
-    EXPECT_EQ(board->childCount(), 0) << "the board is the job's";
-    EXPECT_FALSE(first->isValid());
-    window.game.job.End();
+    {
+        const Job job(window.game, "AutoSolve");
+        EXPECT_EQ(board->childCount(), 0) << "the board is the job's";
+        EXPECT_FALSE(first->isValid());
+    }
     window.Click("arrows2");
     EXPECT_FALSE(first->isValid()) << "that board is gone";
     EXPECT_EQ(board->childCount(), 2);

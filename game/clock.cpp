@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <chrono>
 
-#include "game/main_window.h"
+#include "game/clock.h"
 #include "model/random_source.h"
 
 namespace tidewalk {
