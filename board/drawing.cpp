@@ -65,11 +65,13 @@ Colour BoardDrawing::DrawIslandShape(CellNumber id) {
     return pale;
 }
 
-/// A number in the very colour of its island would be invisible, and the default options make both black. On the pale
+/// A number in nearly the colour of its island would be invisible, and the default options make both black. On the pale
 /// inside of a finished island hardly any of the players' colours can be read.
 Colour BoardDrawing::NumberColour(Colour under) const {
+    constexpr double kTold = 1.2;  // below that even the large digits cannot be told from their island
     if (under != options_.NodeColour) return LegibleOn(under, options_.NodeColour, kShapeContrast);
-    return options_.GivenColour == under ? LegibleOn(under, options_.GivenColour) : options_.GivenColour;
+    return Contrast(options_.GivenColour, under) < kTold ? LegibleOn(under, options_.GivenColour)
+                                                         : options_.GivenColour;
 }
 
 void BoardDrawing::RedrawBoard(bool showSolution) {

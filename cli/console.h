@@ -22,6 +22,7 @@ struct Console {
     std::atomic<int>& stopSignal;  ///< the signal that asks the run to end; 0 for none
     bool outIsTerminal = false;
     bool errIsTerminal = false;
+    bool isDone = false;  ///< what was done cannot be done again: a report that nobody could read is no failure
 
     /// True when the run is to end: it was asked to, or nobody takes its results any more.
     bool Stopped() const { return stopSignal != 0 || !out; }

@@ -77,6 +77,7 @@ int DeletePuzzle(Console& console, const DeleteOptions& options) {
             SayIfMissing(console, options.file, {options.number, options.number}, deleted.left);
             return kFailed;
     }
+    console.isDone = true;
     ReportOnce(console, options.json,
                "puzzle " + std::to_string(options.number) + " deleted from " + options.file + ", " +
                    std::to_string(deleted.left) + " left",

@@ -61,7 +61,7 @@ int main(int argc, char** argv) {
     };
     const int code = tidewalk::RunCommandLine(console, {argv + 1, argv + argc});
     out.flush();
-    if (outBuffer.Failure() == 0 || stopSignal != 0) return code;
+    if (outBuffer.Failure() == 0 || stopSignal != 0 || console.isDone) return code;
     // Who closes a pipe early has seen enough.
     if (outBuffer.Failure() == EPIPE) return tidewalk::kStoppedBySignal + SIGPIPE;
     tidewalk::Say(console, std::string("standard output: ") + std::strerror(outBuffer.Failure()));

@@ -12,6 +12,7 @@
 
 #include "model/file_error.h"
 #include "model/line_reader.h"
+#include "model/paths.h"
 #include "model/replace_file.h"
 
 namespace tidewalk {
@@ -175,7 +176,10 @@ bool ShuffleLines(const SystemFile& input, const std::string& name, std::ostream
 
 std::string ShuffledName(const std::string& path) {
     const std::size_t dot = path.rfind('.');
-    return dot == std::string::npos ? "" : path.substr(0, dot) + "-noduprandom.txt";
+    if (dot == std::string::npos) return "";
+    // A dot in a folder's name ends no file name.
+    const bool inName = path.size() - dot <= FileNameOf(path).size();
+    return path.substr(0, inName ? dot : path.size()) + "-noduprandom.txt";
 }
 
 }  // namespace tidewalk

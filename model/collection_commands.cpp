@@ -88,7 +88,7 @@ void mnuappend_Click(Game& game) {
 }
 
 bool CanDelete(const Game& game) {
-    return game.collection.importedFrom.empty();
+    return game.collection.importedFrom.empty() && !game.collection.loadedLine.empty();
 }
 
 void mnudelete_Click(Game& game) {
@@ -138,6 +138,12 @@ void Command3_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     const std::string to = ConvertedPath(game.collection.CollectionPath);
     if (to.empty()) return;
+    if (!IsOlderLayout(game.collection.CollectionPath)) {
+        game.prompts.Show("This collection is not of the older layout:\r\n" + game.collection.CollectionPath,
+                          "vbinformation+vbok");
+        return;
+    }
+    if (!ConfirmOverwrite(game, to)) return;
     CloseFiles(game);
     try {
         ConvertCollection(game.collection.CollectionPath, to);

@@ -101,6 +101,20 @@ std::optional<Puzzle> ReadPuzzle(const std::string& path, int number) {
     return ParsePuzzleRecord(line);
 }
 
+int LastPuzzleUpTo(const std::string& path, int number) {
+    int found = 0;
+    try {
+        LineReader lines(path);
+        std::string line;
+        for (int at = 1; at <= number && lines.Next(line); ++at) {
+            if (ParsePuzzleRecord(line)) found = at;
+        }
+    } catch (const FileError&) {
+        return 0;
+    }
+    return found;
+}
+
 bool IsTornRecord(std::string_view line) {
     int rows = 0;
     int ignored = 0;
@@ -150,22 +164,24 @@ void CopyWithout(const std::string& path, int number, std::ostream& out) {
     LineReader lines(path);
     std::string line;
     for (int at = 1; out && lines.Next(line); ++at) {
-        if (at != number) out << line << kLineEnd;
+        if (at == number) continue;
+        out << line;
+        // What an append may still take off the end must not become a line of its own.
+        if (lines.LineEnded() || !IsTornRecord(line)) out << kLineEnd;
     }
 }
 
-/// Makes the work file, unless that is the collection itself.
+/// Makes the work file, unless that is the collection itself. Nothing is made from it, so one that cannot be written
+/// whole is taken away again and is no reason not to delete.
 void WriteWorkFile(const std::string& path, int number, const std::string& workFile) {
     std::error_code error;
     if (workFile.empty() || std::filesystem::equivalent(path, workFile, error)) return;
-    DemandWritable(workFile);
-    errno = 0;
+    if (std::filesystem::exists(workFile, error) && !std::filesystem::is_regular_file(workFile, error)) return;
     std::ofstream copy(workFile, std::ios::binary);
-    if (!copy) Fail(workFile, errno);
+    if (!copy) return;
     CopyWithout(path, number, copy);
-    errno = 0;
     copy.close();
-    if (!copy) Fail(workFile, errno);
+    if (!copy) std::remove(workFile.c_str());
 }
 
 }  // namespace

@@ -45,6 +45,8 @@ bool StartAfresh(Game& game, const std::string& record) {
 bool LoadPuzzle(Game& game, const std::string& path, int number) {
     std::string record;
     const bool opened = OpenAt(game.collection, path, number, record);
+    // Whatever comes onto the board now, it is no longer the line that was loaded before.
+    if (opened) game.collection.loadedLine.clear();
     const bool loaded = opened && StartAfresh(game, record);
     if (opened) RedrawBoard(game, false);
     if (!loaded) {

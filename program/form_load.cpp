@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "program/form_load.h"
 
-#include <algorithm>
-
 #include "model/collection_file.h"
 #include "model/configuration.h"
 #include "model/file_error.h"
@@ -61,7 +59,7 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
     TakeFirstColours(game);
     if (auto fatal = ReadSchemeNames(game)) return fatal;
 
-    if (request.folderIsNew) WriteFirstConfiguration(game);
+    if (request.folderIsNew && FileLength(game.AppFolder + "tide.cfg") == 0) WriteFirstConfiguration(game);
     ReadcfgFile(game);
     ReadChoices(game);
     Colour backColour = 0;
@@ -73,9 +71,9 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
         game.collection.CollectionPath = game.AppFolder + "puzzles.txt";
         game.collection.PuzzleNumber = 1;
     }
-    // The collection may have become shorter since.
-    const int count = CountLines(game.collection.CollectionPath);
-    if (count > 0) game.collection.PuzzleNumber = std::min(game.collection.PuzzleNumber, count);
+    // The collection may have become shorter since, or end in a line that is none.
+    const int last = LastPuzzleUpTo(game.collection.CollectionPath, game.collection.PuzzleNumber);
+    if (last > 0) game.collection.PuzzleNumber = last;
     if (!LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber)) MakeFirstCollection(game);
     return std::nullopt;
 }

@@ -14,7 +14,7 @@ struct StartRequest {
     std::string appFolder;                           ///< the program folder
     std::string collection;                          ///< a collection to open in place of the last one, or ""
     std::optional<int> puzzleNumber = std::nullopt;  ///< the puzzle of that collection, 1 if not given
-    bool folderIsNew = false;                        ///< the program folder was made for this start
+    bool folderIsNew = false;                        ///< no start in the program folder has come to its end yet
     int windowNumber = 1;                            ///< which of the windows in the program folder this is, from 1
 };
 

@@ -10,6 +10,7 @@
 #include "model/file_error.h"
 #include "model/load_puzzle.h"
 #include "model/numbers.h"
+#include "model/paths.h"
 #include "model/puzzle_record.h"
 #include "solver/solve_puzzle.h"
 #include "solver/valid_solution.h"
@@ -90,6 +91,8 @@ void mnuautosol_Click(Game& game) {
 std::string SolutionPath(const std::string& collectionPath) {
     const std::size_t dot = collectionPath.rfind('.');
     if (dot == std::string::npos) return "-solution" + collectionPath;
+    // A dot in a folder's name ends no file name.
+    if (collectionPath.size() - dot > FileNameOf(collectionPath).size()) return collectionPath + "-solution";
     return collectionPath.substr(0, dot) + "-solution" + collectionPath.substr(dot);
 }
 

@@ -10,11 +10,15 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#include "model/system_file.h"
+
 namespace tidewalk {
 
 namespace {
 
 constexpr const char* kShippedList = "shipped.txt";
+/// Lies in a folder whose first start has not come to its end.
+constexpr const char* kUnfinished = "/tide.new";
 
 QByteArray BytesOf(const QString& path) {
     QFile file(path);
@@ -45,6 +49,9 @@ void FillAndRenew(const QString& from, const QString& to) {
         const QString name = source.relativeFilePath(file);
         const QString target = to + "/" + name;
         if (name.startsWith("icons/") || name == kShippedList) continue;
+        // Another program may be adding to the player's own copy; then it is no longer as it shipped.
+        auto locked = SystemFile::Open(QFile::encodeName(target).toStdString(), SystemFile::Mode::Change);
+        if (locked && !locked->TryLock()) continue;
         const QByteArray bytes = BytesOf(file);
         const QByteArray old = BytesOf(target);
         const bool unchanged = old != bytes && shipped.contains(ShippedLine(name, old));
@@ -77,12 +84,17 @@ AppFolderChoice ChooseAppFolder(const std::optional<QString>& requested, const F
     const QString& own = places.executableFolder;
     if (QFileInfo::exists(own + "/all.col") && QFileInfo(own).isWritable()) return {own, {}};
     const QString& folder = places.userDataFolder;
-    const bool isNew = !QFileInfo::exists(folder);
+    const bool isNew = !QFileInfo::exists(folder) || QFileInfo::exists(folder + kUnfinished);
     if (!QDir().mkpath(folder)) {
         return {{}, QCoreApplication::translate("AppFolder", "The folder %1 could not be made").arg(folder)};
     }
+    if (isNew) QFile(folder + kUnfinished).open(QIODevice::WriteOnly);
     FillAndRenew(places.shareFolder, folder);
     return {QFileInfo(folder).absoluteFilePath(), {}, isNew};
+}
+
+void EndFirstStart(const AppFolderChoice& choice) {
+    if (choice.isNew) QFile::remove(choice.folder + kUnfinished);
 }
 
 }  // namespace tidewalk

@@ -24,7 +24,7 @@ QString ShareFolder(const QString& executableFolder, const QString& installed);
 struct AppFolderChoice {
     QString folder;      ///< absolute
     QString error;       ///< why there is none; empty on success
-    bool isNew = false;  ///< it was made just now
+    bool isNew = false;  ///< no start in it has come to its end yet
 };
 
 /// Chooses the program folder: `requested` if it is given; else the program's own folder, if it holds "all.col" and can
@@ -34,5 +34,8 @@ struct AppFolderChoice {
 /// that was changed is left alone. "shipped.txt" in the share folder lists what ever shipped, a SHA-256 and a name a
 /// line.
 AppFolderChoice ChooseAppFolder(const std::optional<QString>& requested, const FolderPlaces& places);
+
+/// The program has started in its folder: what a first start puts there is there.
+void EndFirstStart(const AppFolderChoice& choice);
 
 }  // namespace tidewalk

@@ -123,6 +123,11 @@ int RunWindows(const CommandLine& line) {
     QObject::connect(&program.handlers(), &Handlers::Ended, qApp, [] { QCoreApplication::exit(0); });
     const auto fatal = program.Start(RequestOf(line, choice, window));
     if (fatal) return Fail(QString::fromStdString(*fatal), unattended);
+    EndFirstStart(choice);
+    if (unattended && !line.collection.isEmpty() &&
+        program.game().collection.CollectionPath != FileNameBytes(line.collection)) {
+        return Fail("The puzzle could not be opened: " + line.collection, unattended);
+    }
     if (program.game().job.Ending()) return 0;
     return unattended ? TakeScreenshot(program, *line.screenshot) : QCoreApplication::exec();
 }

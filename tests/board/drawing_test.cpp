@@ -49,7 +49,7 @@ struct Drawn : testing::Test {
         options.SchemeColours[kOutlineEntry] = 33;
         options.GridColour = 1;
         options.NodeColour = 2;
-        options.GivenColour = 3;
+        options.GivenColour = 6710886;
         options.ChainColour = 4;
         Take({"1-2"});
     }
@@ -74,7 +74,7 @@ struct Drawn : testing::Test {
     Options options;
     const std::string start = "clear 16777215, pen 1, box -110 30 290 430 33, pen 2, ";
     const std::string ends =
-        "filledbox -60 80 240 380 2, print 50 150 1 3, filledbox 740 80 1040 380 2, print 850 150 2 3";
+        "filledbox -60 80 240 380 2, print 50 150 1 6710886, filledbox 740 80 1040 380 2, print 850 150 2 6710886";
     const std::string line = "line 90 230 890 230 ";
     const std::string second = "line 90 297 890 297 ";  ///< of a double line
 };
@@ -84,9 +84,10 @@ TEST_F(Drawn, BoardHasOutlinesLinesAndIslands) {
     options.ShowLines = 0;
     options.NodeShape = 1;
     options.ShowFinished = 1;
-    EXPECT_EQ(Redraw(false), start +
-                                 "circle 90 230 200 2 2, print 50 150 1 3, circle 890 230 200 2 2, print 850 150 2 3, "
-                                 "pen 4, pen 2");
+    EXPECT_EQ(Redraw(false),
+              start +
+                  "circle 90 230 200 2 2, print 50 150 1 6710886, circle 890 230 200 2 2, print 850 150 2 6710886, "
+                  "pen 4, pen 2");
 }
 
 TEST_F(Drawn, SolutionHasItsBridgesWhateverElseShows) {
@@ -119,7 +120,10 @@ TEST_F(Drawn, PlayersBridgesLieOverTheIslandsAndUnderTheirEnds) {
 
 TEST_F(Drawn, FinishedIslandsArePaleAndAllNumbersCanBeRead) {
     Take({"1.2"});
-    options.NodeColour = options.GivenColour = kBlack;
+    options.NodeColour = kDefaultNodeColour;
+    options.GivenColour = kBlack;
+    EXPECT_NE(Redraw(false).find("print 50 150 1 16777215, "), std::string::npos) << "nearly the same";
+    options.NodeColour = kBlack;
     EXPECT_NE(Redraw(false).find("print 50 150 1 16777215, "), std::string::npos);
     options.ShowFinished = 1;
     board.BridgeState.Set(1, 3, 1);

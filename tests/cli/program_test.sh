@@ -86,6 +86,8 @@ full_disk() {
     [ $? -eq 1 ] || fail "a full disk did not give 1"
     grep -q "standard output: " messages || fail "nothing was said about it"
     "$program" create 7 --out /dev/full >/dev/null 2>&1 && fail "a puzzle was written to a full disk"
+    cp "$collection" own
+    "$program" delete own 1 >/dev/full || fail "who reads of a failure deletes another puzzle"
     return 0
 }
 

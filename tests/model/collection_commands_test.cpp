@@ -6,6 +6,7 @@
 #include "game/file_work.h"
 #include "generator/shuffle.h"
 #include "model/load_puzzle.h"
+#include "model/navigation.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
@@ -76,11 +77,14 @@ TEST(DeletePuzzle, AsksFirstAndCountsAgain) {
     EditGame game(1, {Numbered(1), Numbered(2)});
     game.ExpectDelete(kNo);
     game.Run(mnudelete_Click);
-    std::filesystem::create_directory("tidetemp.tmp");
-    game.ExpectDelete();
-    game.world.Expect("The puzzle could not be deleted.\r\ntidetemp.tmp: Is a directory", "system ok");
-    game.Run(mnudelete_Click);
     EXPECT_EQ(game.folder.Read("collection.tdw"), Joined({Numbered(1), Numbered(2)}));
+    const std::string path = game.PathOfCollection();
+    std::filesystem::remove(path);
+    std::filesystem::create_directory(path);
+    game.ExpectDelete();
+    game.world.Expect("The puzzle could not be deleted.\r\n" + path + ": Is a directory", "system ok");
+    game.Run(mnudelete_Click);
+    std::filesystem::remove(path);
     game.folder.Write("collection.tdw", Numbered(1));
     game.ExpectDelete();
     game.world.Expect("There is only one puzzle in this file", "vbok+vbcritical");
@@ -117,6 +121,10 @@ TEST(DeletePuzzle, DeletesNothingThatIsNotThePuzzleOnTheBoard) {
     game.Run(TakeImported, game.board.puzzle, "grid.txt");
     game.Run(mnudelete_Click);
     EXPECT_FALSE(CanDelete(game)) << "an imported puzzle is in no file";
+    game.Load(1);
+    game.world.Expect("puzzle 1 not found", kInformation);
+    game.Run(OpenChosen, game.folder.Write("bad.txt", "garbage\n"));
+    EXPECT_FALSE(CanDelete(game)) << "nor is an empty board";
 }
 
 TEST(AppendPuzzle, TellsOfATornRecordAtTheEnd) {
@@ -169,16 +177,18 @@ TEST(Maintenance, ConvertsAndShufflesIntoFilesBesideTheCollection) {
     game.Run(Command3_Click);
     EXPECT_EQ(game.folder.Read("old-newformat.txt"), " 1, 3, 0;D;1.1,\r\n");
     EXPECT_FALSE(game.collection.leftOpen);
+    game.world.Expect("OverWrite file: " + game.folder.Path("old-newformat.txt") + " ?", "system yesno", kNo);
+    game.Run(Command3_Click);
 
     const std::string gone = game.collection.CollectionPath = game.folder.Path("gone.dat");
-    game.world.Expect("The collection could not be converted.\r\n" + gone + ": No such file or directory", "system ok");
+    game.world.Expect("This collection is not of the older layout:\r\n" + gone, kInformation);
     game.Run(Command3_Click);
     game.world.Expect("The collection could not be shuffled:\r\n" + gone + ": No such file or directory", "system ok");
     game.Run(Command5_Click);
     game.collection.CollectionPath = "nodot";
     game.Run(Command3_Click);
     game.Run(Command5_Click);
-    EXPECT_EQ(game.world.Seen(), "box, box, busy, progress: 0 of 0, not busy, status: , box");
+    EXPECT_EQ(game.world.Seen(), "box, box, box, busy, progress: 0 of 0, not busy, status: , box");
 }
 
 }  // namespace

@@ -80,6 +80,7 @@ TEST(Start, InANewFolderWritesTheDefaultsAndAShorterCollectionShowsItsLastPuzzle
     game.Start();
     EXPECT_EQ(game.Place(), "puzzles.txt 2");
     EXPECT_EQ(game.options.ShowFinished, 1);
+    std::filesystem::remove("tide.cfg");
     game.Run(Form_Load, StartRequest{game.AppFolder, "", std::nullopt, true, 2});
     EXPECT_EQ(game.folder.Read("tide.cfg").substr(0, 12), "xp.col\r\n 1  ");
     EXPECT_EQ(game.windowNumber, 2);
@@ -115,6 +116,7 @@ TEST(Start, WithoutAnyPuzzleMakesOne) {
     EXPECT_EQ(game.Place(), path + " 1");
     const Lines lines = LinesOf(game.folder.Read("TempPuzzles.tdw"));
     EXPECT_EQ(lines.size(), 1U);
+    EXPECT_EQ(game.folder.Read("TempPuzzles-1.tdw"), "an older file\r\n");
     EXPECT_EQ(FaultOfRecord(lines[0], {8, 8}), "");
     EXPECT_EQ(game.world.Seen(), "colours, box, box, busy, progress: 0 of 0, not busy, number: 1");
 }

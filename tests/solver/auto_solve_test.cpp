@@ -90,6 +90,7 @@ TEST(AutoSolve, WantsAPuzzleWithIslands) {
     game.world.Expect("Set the puzzle first", kInformation);
     game.Run(mnuautosol_Click);
     EXPECT_EQ(SolutionPath("/a.b/c.tdw"), "/a.b/c-solution.tdw");
+    EXPECT_EQ(SolutionPath("/a.b/c"), "/a.b/c-solution");
     EXPECT_EQ(SolutionPath("abc"), "-solutionabc");
 }
 

@@ -73,7 +73,8 @@ TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
         "arrows2=puzzle 4|arrows0right=puzzle 1|arrows2right=puzzle 5|arrows1=puzzle 2|"
         "mnunewpuzx=works: Creating 7x7 puzzle ...|mnucreatemany=Form3|mnustopbatch=|mnupuzreset=Reset?|"
         "mnuexport=file: Export Puzzle|mnuimport=file: Select a grid file|mnupastepuzzle=status Error importing puzzle|"
-        "Command3=system: |Command4=works:|Command5=system: |can1=|mnuautosol=works:Auto solving ...|"
+        "Command3=This collection is not of the older layout:\r\n|Command4=works:|Command5=system: "
+        "|can1=|mnuautosol=works:Auto solving ...|"
         "cmdverify=status Not done yet|cmdundo=moves 0|can2=selected 0|"
         "mnuprintcurrent=Print Current Puzzle and its Solution?|mnuprintpreview=PrintPreview|control27=Form5|"
         "mnucopyclippuz=status Puzzle copied to clipboard|mnucopyclipsol=status Solution copied to clipboard|"
@@ -245,14 +246,15 @@ TEST(Window, ListsFollowTheGameWhileTheyShow) {
 }
 
 TEST(Window, ClosingStopsAJobAndLeavesWhateverIsOpen) {
-    const std::vector<std::pair<const char*, const char*>> cases{{"mnuloadpuz", "file: Tidewalk"},
-                                                                 {"Command3", "system: collection-newformat.txt done"},
-                                                                 {"mnuoptset", "Form2"},
-                                                                 {"mnucreatemany", "Form3"},
-                                                                 {"control27", "Form5"},
-                                                                 {"mnueditor", "Form6"},
-                                                                 {"mnuabout", "About"},
-                                                                 {"mnuprintpreview", "PrintPreview"}};
+    const std::vector<std::pair<const char*, const char*>> cases{
+        {"mnuloadpuz", "file: Tidewalk"},
+        {"Command5", "system: collection-noduprandom.txt randomized"},
+        {"mnuoptset", "Form2"},
+        {"mnucreatemany", "Form3"},
+        {"control27", "Form5"},
+        {"mnueditor", "Form6"},
+        {"mnuabout", "About"},
+        {"mnuprintpreview", "PrintPreview"}};
     for (const auto& [command, dialog] : cases) {
         WindowGame window;
         window.game.collection.CollectionPath = "collection.tdw";
