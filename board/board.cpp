@@ -25,9 +25,17 @@ void DropSelection(Board& board) {
     board.Line1.visible = false;
 }
 
-void FollowLayout(Board& board) {
+void FollowLayout(Board& board, const BoardLayout& before) {
     const CellNumber selected = SelectedIsland(board);
-    if (selected != 0) board.Line1.from = board.Line1.to = board.At(selected);
+    if (selected == 0) return;
+    const auto moved = [](double at, int oldOrigin, int origin, double scale) {
+        return origin + (at - oldOrigin) * scale;
+    };
+    const BoardLayout& layout = board.layout;
+    const double scale = static_cast<double>(layout.CellSize) / before.CellSize;
+    board.Line1.from = board.At(selected);
+    board.Line1.to = {moved(board.Line1.to.x, before.OriginX, layout.OriginX, scale),
+                      moved(board.Line1.to.y, before.OriginY, layout.OriginY, scale)};
 }
 
 void TakePuzzle(Board& board, const Puzzle& puzzle) {

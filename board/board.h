@@ -68,9 +68,8 @@ CellNumber FocusedIsland(const Board& board);
 /// Forgets the cell under the pointer and the selected island.
 void DropSelection(Board& board);
 
-/// The rubber band of a selected island lies where that island is after a new layout; the pointer's end waits there for
-/// the next move.
-void FollowLayout(Board& board);
+/// The rubber band of a selected island lies over the same cells after a new layout as it did in the one `before`.
+void FollowLayout(Board& board, const BoardLayout& before);
 
 /// Puts a puzzle on the board. Bridges, moves and selection were made on another one and are gone. The layout stays.
 void TakePuzzle(Board& board, const Puzzle& puzzle);

@@ -11,13 +11,14 @@ namespace tidewalk {
 
 void cmdzoom_Click(Game& game, int index) {
     if (!game.pictures.IsVisible() || game.job.BusyFlag()) return;
-    int cellSize = game.board.layout.CellSize;
+    const BoardLayout before = game.board.layout;
+    int cellSize = before.CellSize;
     if (index == 0) cellSize = RoundHalfEven(cellSize * 0.9);
     if (index == 1) cellSize = RoundHalfEven(cellSize * 1.1);
     if (index == 2) cellSize = game.board.FittedCellSize;
     ZoomBoard(game, cellSize);
     RedrawBoard(game, false);
-    FollowLayout(game.board);
+    FollowLayout(game.board, before);
     game.pictures.ShowOverlay();
 }
 

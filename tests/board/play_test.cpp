@@ -264,9 +264,11 @@ TEST(Zoom, StaysWithinItsLimitsAndKeepsTheBridges) {
     game.board.HoverRow = 1;
     game.board.HoverCol = 4;
     game.Run(Picture1_Click);
+    game.Run(Picture1_MouseMove, false, game.board.At(7), Point{});
+    EXPECT_EQ(zoomed(game.board.layout.CellSize, 0), 270);
+    EXPECT_NEAR(game.board.Line1.to.x, game.board.At(7).x, 0.1) << "the band stays over its cells";
     EXPECT_EQ(zoomed(300, 1), 330);
     EXPECT_EQ(game.board.Line1.from, game.board.At(4)) << "the ring follows";
-    EXPECT_EQ(game.board.Line1.to, game.board.At(4));
     game.world.visible = false;
     game.Run(cmdzoom_Click, 1);
     EXPECT_EQ(game.board.layout.CellSize, 330);
