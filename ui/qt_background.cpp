@@ -9,8 +9,8 @@ namespace tidewalk {
 namespace {
 
 constexpr int kDelay = 30;  ///< in milliseconds
-/// So many choices are minutes of work; who could not tell by then will hardly ever.
-constexpr int kMostChoices = 20'000'000;
+/// So many choices are many seconds of work; who could not tell by then will hardly ever.
+constexpr int kMostChoices = 2'000'000;
 
 Assessment AssessUntil(const Puzzle& puzzle, const std::atomic<bool>& stop) {
     try {
