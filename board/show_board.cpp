@@ -37,6 +37,17 @@ void FitBoard(Game& game) {
     ZoomBoard(game, fitting);
 }
 
+void FitBoardIfCutOff(Game& game) {
+    const BoardLayout before = game.board.layout;
+    const double room = game.pictures.ContainerExtent().width;
+    if (game.job.BusyFlag() || game.board.puzzle.Rows == 0 || before.Picture1.width <= room) return;
+    game.board.FittedCellSize = FittingCellSize(game.board.puzzle.Size(), room);
+    ZoomBoard(game, game.board.FittedCellSize);
+    RedrawBoard(game, false);
+    FollowLayout(game.board, before);
+    game.pictures.ShowOverlay();
+}
+
 void ShowPuzzleLabels(Game& game, const std::string& path) {
     const Puzzle& puzzle = game.board.puzzle;
     game.window.SetText(WindowText::BoardSize, NumText(puzzle.Rows) + "x" + NumText(puzzle.Cols));

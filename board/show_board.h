@@ -23,6 +23,10 @@ void PutOnBoard(Game& game, const Puzzle& puzzle);
 /// Lays the new puzzle on the board out so that it fits the container.
 void FitBoard(Game& game);
 
+/// Makes the board smaller if its container has become narrower than it, and leaves it as it is otherwise. While a job
+/// runs nothing happens.
+void FitBoardIfCutOff(Game& game);
+
 /// Shows the board's size, the count of the collection and the name of the file behind `path`.
 void ShowPuzzleLabels(Game& game, const std::string& path);
 

@@ -80,6 +80,7 @@ void ShowAndWriteSolution(Game& game) {
 
 void mnuautosol_Click(Game& game) {
     if (RefuseWhileBusy(game) || RefuseWithoutPuzzle(game)) return;
+    EndGuidance(game);
     const BusyPointer pointer(game);
     const Outcome outcome = Solve(game);
     if (game.job.Ending()) return;

@@ -23,6 +23,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "board/show_board.h"
 #include "generator/new_puzzle.h"
 #include "program/exit.h"
 #include "ui/box_control.h"
@@ -107,7 +108,11 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
     auto* const guide = new GuidePanel(handlers_);
     addDockWidget(Qt::RightDockWidgetArea, guide);
     guide->hide();
-    connect(guide, &GuidePanel::Opening, this, [this, guide] { MakeRoomFor(guide); });
+    connect(guide, &GuidePanel::Opening, this, [this, guide] {
+        MakeRoomFor(guide);
+        // On a small screen it takes room from the board, which is known when all is laid out.
+        QTimer::singleShot(0, this, &Form1::GiveBoardRoom);
+    });
     AddDock(list1_, tr("Work list &1"));
     AddDock(list2_, tr("Work list &2"));
     AddStatusLine();
@@ -205,7 +210,7 @@ QWidget* Form1::BarButton(const Command& command) {
 void Form1::AddNumberBox() {
     puzNumNow_->setObjectName("PuzNumNow");
     puzNumNow_->setAlignment(Qt::AlignRight);
-    FitWidth(puzNumNow_, "000000");
+    FitWidth(puzNumNow_, "00000");
     connect(puzNumNow_, &QLineEdit::returnPressed, this, [this] {
         handlers_.Run([](Game& game) { PuzNumNow_KeyPress(game, kEnterKey); });
         container_->Board().setFocus();
@@ -221,7 +226,7 @@ void Form1::AddSizeBox() {
     gridSize_->setContextMenuPolicy(Qt::PreventContextMenu);
     gridSize_->installEventFilter(this);
     connect(gridSize_, &QLineEdit::returnPressed, this, [this] { container_->Board().setFocus(); });
-    FitWidth(gridSize_, "25 x 25");
+    FitWidth(gridSize_, "25x25");
 }
 
 /// The right button on the size box is no click into its text.
@@ -275,14 +280,22 @@ void Form1::AddDock(LinesView* list, const QString& caption) {
     });
 }
 
-/// Widens the window for the first dock, so that the board keeps its place.
+/// Widens the window for the first dock as far as the screen goes, so that the board keeps its place.
 void Form1::MakeRoomFor(const QDockWidget* dock) {
     for (const QDockWidget* const other : findChildren<QDockWidget*>()) {
         if (other != dock && other->isVisible()) return;
     }
-    const int more = dock->sizeHint().width();
-    const bool fits = frameGeometry().width() + more <= screen()->availableSize().width();
-    if (!isMaximized() && !isFullScreen() && fits) resize(width() + more, height());
+    const int room = screen()->availableSize().width() - frameGeometry().width();
+    const int more = std::min(dock->sizeHint().width(), room);
+    if (!isMaximized() && !isFullScreen() && more > 0) resize(width() + more, height());
+}
+
+/// Takes from the undo list what the board lacks, and makes the board smaller if it is cut off all the same.
+void Form1::GiveBoardRoom() {
+    auto* const splitter = findChild<QSplitter*>();
+    const int side = splitter->widget(1)->sizeHint().width();
+    if (container_->width() < container_->height()) splitter->setSizes({splitter->width() - side, side});
+    handlers_.Run(FitBoardIfCutOff);
 }
 
 void Form1::AddStatusLine() {

@@ -62,6 +62,7 @@ class Form1 final : public QMainWindow {
     void AddCentre();
     void AddDock(LinesView* list, const QString& caption);
     void MakeRoomFor(const QDockWidget* dock);
+    void GiveBoardRoom();
     void AddStatusLine();
     void RefreshLists();
     void RefreshCommands();

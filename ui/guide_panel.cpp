@@ -16,7 +16,8 @@ namespace tidewalk {
 
 namespace {
 
-constexpr int kWidth = 300;  ///< in pixels; about forty characters a line
+constexpr int kWidth = 300;      ///< in pixels; about forty characters a line
+constexpr int kStepSpacing = 3;  ///< in pixels, around each step of the list
 
 }  // namespace
 
@@ -35,6 +36,7 @@ GuidePanel::GuidePanel(Handlers& handlers)
     text_->setAccessibleName(tr("Hint"));
     steps_->setObjectName("GuideSteps");
     steps_->setWordWrap(true);
+    steps_->setSpacing(kStepSpacing);
     steps_->setAccessibleName(tr("Steps of the explanation"));
     previous_->setObjectName("GuideBack");
     next_->setObjectName("GuideNext");

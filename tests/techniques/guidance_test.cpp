@@ -4,6 +4,7 @@
 
 #include "board/board_commands.h"
 #include "board/show_board.h"
+#include "solver/auto_solve.h"
 #include "support/test_game.h"
 #include "techniques/assess_board.h"
 #include "techniques/explain_board.h"
@@ -104,6 +105,21 @@ TEST(Explain, ShowsEachPositionAndLeavesThePlayersBridges) {
     game.Run(EndExplanation);
     EXPECT_EQ(&game.board.ShownBridges(), &game.board.BridgeState);
     EXPECT_TRUE(game.guidance.steps.empty());
+}
+
+TEST(Hint, EndsWithAutoSolveAndFitsASmallerContainer) {
+    Guided game({"3.3.1", ".....", "2...1"});
+    EXPECT_NE(game.Hint(), "");
+    const int cellSize = game.board.layout.CellSize;
+    game.Run(FitBoardIfCutOff);
+    EXPECT_EQ(game.board.layout.CellSize, cellSize);
+    game.world.container = {2400, 9000};
+    game.Run(FitBoardIfCutOff);
+    EXPECT_LT(game.board.layout.CellSize, cellSize);
+    EXPECT_EQ(game.board.FittedCellSize, FittingCellSize({3, 5}, 2400));
+    game.Run(mnuautosol_Click);
+    EXPECT_EQ(GuidanceText(game), "");
+    EXPECT_TRUE(game.board.guide.islands.empty());
 }
 
 TEST(Assessment, IsShownWhenItIsKnownAndThePuzzleStillThere) {
