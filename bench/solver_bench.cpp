@@ -5,7 +5,7 @@
 #include <random>
 #include <vector>
 
-#include "generator/create_puzzle.h"
+#include "bench/created_puzzles.h"
 #include "solver/connect_islands.h"
 #include "solver/neighbours.h"
 #include "solver/solve_puzzle.h"
@@ -17,21 +17,10 @@ namespace {
 /// About every third cell of these boards holds an island, so that a solver has much to try.
 constexpr int kSpacing = 3;
 
-/// Created puzzles of one size that the rules alone solve, or that need trials.
-std::vector<Puzzle> MakePuzzles(int side, bool searched) {
-    constexpr std::size_t kPuzzles = 40;
-    std::vector<Puzzle> puzzles;
-    RandomSource random(static_cast<std::uint64_t>(side));
-    SolverBoard board;
-    while (puzzles.size() < kPuzzles) {
-        const CreatedPuzzle created = CreatePuzzle(board, {side, side}, random, WithoutEnd);
-        if (created.solved && (created.trials > 0) == searched) puzzles.push_back(created.puzzle);
-    }
-    return puzzles;
-}
-
 void SolveCreated(benchmark::State& state, bool searched) {
-    const auto puzzles = MakePuzzles(static_cast<int>(state.range(0)), searched);
+    const auto puzzles = MakePuzzles(static_cast<int>(state.range(0)), [searched](const CreatedPuzzle& created) {
+        return (created.trials > 0) == searched;
+    });
     SolverBoard board;
     std::size_t next = 0;
     for (auto _ : state) {
