@@ -151,7 +151,11 @@ int GiveHint(Console& console, const HintOptions& options) {
     const Hint hint = FindHint(board, found, options.played, HintStep::Any, WithinBounds(console));
     JsonFields fields = SizeFields(*puzzle);
     fields.insert(fields.begin(), {"number", options.number});
-    fields.emplace_back("solutions", found ? JsonValue(static_cast<int>(found->size())) : JsonValue(nullptr));
+    Assessment assessment;
+    if (found) assessment.solutions = static_cast<int>(found->size());
+    if (found && found->size() == 1) assessment.score = GradeBoard(board, found->front(), WithinBounds(console));
+    for (JsonFields::value_type& field : FieldsOf(assessment))
+        fields.push_back(std::move(field));
     fields.emplace_back("solved", hint.kind == HintKind::Finished);
     fields.emplace_back("steps", FieldsOf(board, hint.steps));
     if (!hint.mistakes.empty()) fields.emplace_back("mistake", PairsOf(hint.mistakes));

@@ -53,16 +53,23 @@ MayGoOn WithinBounds(const Console& console) {
         [mayGoOn = UntilStopSignal(console), choices = 0]() mutable { return ++choices <= kMostChoices && mayGoOn(); };
 }
 
+JsonFields FieldsOf(const Assessment& assessment) {
+    const auto valueOf = [](const std::optional<int>& number) {
+        return number ? JsonValue(*number) : JsonValue(nullptr);
+    };
+    const JsonValue grade =
+        assessment.score ? JsonValue(std::string(DifficultyName(*assessment.score))) : JsonValue(nullptr);
+    return {{"grade", grade}, {"score", valueOf(assessment.score)}, {"solutions", valueOf(assessment.solutions)}};
+}
+
 void AddAssessment(PuzzleReport& report, const Assessment& assessment) {
     constexpr int kGradeWidth = 5;
     constexpr const char* kSolutions[] = {"no solution", "one solution", "several solutions"};
     const std::string grade = assessment.score ? std::string(DifficultyName(*assessment.score)) : "-";
     report.line += "  " + Padded(grade, -kGradeWidth) + "  " +
                    (assessment.solutions ? kSolutions[*assessment.solutions] : "undecided");
-    report.fields.emplace_back("grade", assessment.score ? JsonValue(grade) : JsonValue(nullptr));
-    report.fields.emplace_back("score", assessment.score ? JsonValue(*assessment.score) : JsonValue(nullptr));
-    report.fields.emplace_back("solutions",
-                               assessment.solutions ? JsonValue(*assessment.solutions) : JsonValue(nullptr));
+    for (JsonFields::value_type& field : FieldsOf(assessment))
+        report.fields.push_back(std::move(field));
 }
 
 }  // namespace tidewalk

@@ -41,6 +41,9 @@ inline constexpr int kSeveral = 2;
 /// Lets work on one puzzle go on until a signal asks the run to end, or so many choices that hardly any puzzle needs.
 MayGoOn WithinBounds(const Console& console);
 
+/// Grade, score and number of solutions; null where that is not known.
+JsonFields FieldsOf(const Assessment& assessment);
+
 /// Adds grade, score and number of solutions, in columns; what is not known is "-", in JSON null.
 void AddAssessment(PuzzleReport& report, const Assessment& assessment);
 

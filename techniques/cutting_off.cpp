@@ -84,7 +84,7 @@ Ways::Ways(const Position& position, const Groups& groups, int isle) : rooms(pos
     WayFinder(position, groups, isle, *this).Find();
 }
 
-std::optional<Deduction> FindCutOff(const Position& position, const Groups& groups, int isle) {
+std::optional<Deduction> FindCutOff(const Position& position, const Groups& groups, int isle, bool doublesToo) {
     const int need = position.Need(isle);
     // Islands of its own group that need more than its bridges can bring keep the group open.
     if (need < 1 || groups.Need(groups.Of(isle)) > 2 * need) return std::nullopt;
@@ -97,8 +97,8 @@ std::optional<Deduction> FindCutOff(const Position& position, const Groups& grou
         const int span = ways.rooms.spans[at];
         if (ways.least[at] > std::max(0, ways.rooms.LeastOn(k))) {
             deduction.must.push_back({span, position.Laid(span) + ways.least[at]});
-        } else if (ways.most[at] == 0 && ways.rooms.on[at] > 0) {
-            deduction.cannot.push_back({span, position.Laid(span)});
+        } else if (ways.most[at] < ways.rooms.on[at] && (ways.most[at] == 0 || doublesToo)) {
+            deduction.cannot.push_back({span, position.Laid(span) + ways.most[at]});
         }
     }
     if (deduction.must.empty() && deduction.cannot.empty()) return std::nullopt;

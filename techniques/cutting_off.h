@@ -26,8 +26,8 @@ struct Ways {
 };
 
 /// An island that must not give its bridges in a way that cuts its group off: spans that must therefore be bridged,
-/// or cannot be.
-std::optional<Deduction> FindCutOff(const Position& position, const Groups& groups, int isle);
+/// or cannot be. With `doublesToo` also spans that take one bridge at most.
+std::optional<Deduction> FindCutOff(const Position& position, const Groups& groups, int isle, bool doublesToo);
 
 /// A span without which the board would fall apart: it takes at least one bridge.
 std::optional<Deduction> FindWayOut(const Position& position);

@@ -18,9 +18,13 @@ std::optional<Deduction> Deducer::Next(const MayGoOn& mayGoOn) {
     if (auto deduction = FirstOf(awaitingLast_, FindLast)) return deduction;
     if (auto deduction = FirstOf(awaitingLeast_, FindLeast)) return deduction;
     if (auto deduction = FirstOf(awaitingNoMore_, FindNoMore)) return deduction;
-    if (auto deduction = FirstCutOff()) return deduction;
+    if (auto deduction = FirstCutOff(false)) return deduction;
     if (auto deduction = FindWayOut(position_)) return deduction;
-    return FindSupposition(position_, purpose_ == Purpose::Path, mayGoOn);
+    const bool doublesToo = purpose_ == Purpose::Path;
+    if (doublesToo) {
+        if (auto deduction = FirstCutOff(true)) return deduction;
+    }
+    return FindSupposition(position_, doublesToo, mayGoOn);
 }
 
 std::optional<Deduction> Deducer::FirstOf(IsleSet& awaiting, Finder find) const {
@@ -35,10 +39,10 @@ std::optional<Deduction> Deducer::FirstOf(IsleSet& awaiting, Finder find) const 
     return std::nullopt;
 }
 
-std::optional<Deduction> Deducer::FirstCutOff() const {
+std::optional<Deduction> Deducer::FirstCutOff(bool doublesToo) const {
     const Groups groups(position_);
     for (int isle = 0; isle < position_.Board().IsleCount(); ++isle) {
-        if (auto deduction = FindCutOff(position_, groups, isle)) return deduction;
+        if (auto deduction = FindCutOff(position_, groups, isle, doublesToo)) return deduction;
     }
     return std::nullopt;
 }

@@ -30,7 +30,7 @@ class Deducer {
 
     /// The first deduction about one of the islands, which leave the set when they have nothing to say.
     std::optional<Deduction> FirstOf(IsleSet& awaiting, Finder find) const;
-    std::optional<Deduction> FirstCutOff() const;
+    std::optional<Deduction> FirstCutOff(bool doublesToo) const;
 
     Position& position_;
     Purpose purpose_;

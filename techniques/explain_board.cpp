@@ -9,6 +9,9 @@ namespace tidewalk {
 
 namespace {
 
+constexpr const char* kNoStepForAll =
+    "This puzzle has several solutions. No further step was found that all of them share.";
+
 /// The bridges that lie before a step.
 BridgeTable PositionBefore(const Archipelago& board, const std::vector<Step>& steps, int step) {
     BridgeTable position;
@@ -23,7 +26,7 @@ BridgeTable PositionBefore(const Archipelago& board, const std::vector<Step>& st
 /// What is told after the last step.
 std::string EndText(const Archipelago& board, const BridgeTable& position) {
     for (const Isle& isle : board.isles) {
-        if (position.CountAt(isle.id) != isle.number) return kSeveralSolutions;
+        if (position.CountAt(isle.id) != isle.number) return kNoStepForAll;
     }
     return "The puzzle is solved.";
 }
@@ -41,7 +44,7 @@ void mnuexplain_Click(Game& game) {
     const SpanBridges* const only = solutions->size() == 1 ? &solutions->front() : nullptr;
     game.guidance.steps = ExplainPath(board, only, WithoutEnd);
     ++game.guidance.revision;
-    if (game.guidance.steps.empty()) return ShowGuide(game, {}, kSeveralSolutions);
+    if (game.guidance.steps.empty()) return ShowGuide(game, {}, kNoStepForAll);
     ShowExplainedStep(game, 0);
 }
 

@@ -105,7 +105,7 @@ void Tell(Game& game, const Archipelago& board) {
         case HintKind::NoSolution:
             return ShowGuide(game, {}, "This puzzle has no solution.");
         case HintKind::Several:
-            return ShowGuide(game, {}, kSeveralSolutions);
+            return ShowGuide(game, {}, "This puzzle has several solutions. Explain tells what they have in common.");
         case HintKind::Nothing:
             return ShowGuide(game, {}, "No next step was found.");
     }

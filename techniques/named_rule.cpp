@@ -12,7 +12,6 @@ struct Case {
     int single = 0;  ///< of these, with room for one bridge alone
     int ones = 0;    ///< of these, to a neighbour that needs one bridge alone
     int half = 0;    ///< of these, with one bridge on them already
-    int full = 0;    ///< spans with a double bridge
 };
 
 Case CaseOf(const Position& position, int isle, const Rooms& rooms) {
@@ -21,7 +20,6 @@ Case CaseOf(const Position& position, int isle, const Rooms& rooms) {
     for (int k = 0; k < rooms.count; ++k) {
         const auto at = static_cast<std::size_t>(k);
         const int span = rooms.spans[at];
-        if (position.Laid(span) == kMostBridges) ++c.full;
         if (rooms.on[at] == 0) continue;
         ++c.open;
         if (rooms.on[at] == 1) ++c.single;
@@ -48,7 +46,7 @@ std::optional<Rule> RuleForLeast(const Position& position, int isle, const Rooms
     const Case c = CaseOf(position, isle, rooms);
     // A single room is named only where the neighbour's own need makes it so.
     if (c.single != c.ones) return std::nullopt;
-    if (c.need == 3 && c.open == 2) return c.full == 1 ? Rule::ThreeBesideFullLink : Rule::FirstOfThreeToTwo;
+    if (c.need == 3 && c.open == 2) return Rule::FirstOfThreeToTwo;
     if (c.need == 5 && c.open == 3 && c.ones == 0) return Rule::FirstOfFive;
     if (c.need == 2 && c.open == 2 && c.ones == 1) return Rule::TwoBesideOne;
     if (c.need == 3 && c.open == 3 && c.ones == 2) return Rule::ThreeBesideTwoOnes;

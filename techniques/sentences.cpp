@@ -121,7 +121,10 @@ class Writer {
             results.push_back("at least " + More(must) + Go(n) + " to " + Beside(isle, must.span));
         }
         for (const SpanBound& cannot : deduction.cannot) {
-            results.push_back((cannot.bridges > 0 ? "no further bridge goes to " : "no bridge goes to ") +
+            const bool further = cannot.bridges == position_.Laid(cannot.span);
+            results.push_back((!further             ? "no more than one bridge goes to "
+                               : cannot.bridges > 0 ? "no further bridge goes to "
+                                                    : "no bridge goes to ") +
                               Beside(isle, cannot.span));
         }
         return text + Listed(results) + ".";

@@ -10,10 +10,6 @@
 
 namespace tidewalk {
 
-/// What is told where every way on is as good as another.
-inline constexpr const char* kSeveralSolutions =
-    "This puzzle has several solutions, so there is no next step that must be.";
-
 /// What is told beside the board now; "" when nothing is, or when a move has made it out of date.
 std::string GuidanceText(const Game& game);
 

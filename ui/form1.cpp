@@ -285,9 +285,12 @@ void Form1::MakeRoomFor(const QDockWidget* dock) {
     for (const QDockWidget* const other : findChildren<QDockWidget*>()) {
         if (other != dock && other->isVisible()) return;
     }
+    // A window that was not made smaller since has room for the next one.
+    if (widthWithDock_ > 0 && width() >= widthWithDock_) return;
     const int room = screen()->availableSize().width() - frameGeometry().width();
     const int more = std::min(dock->sizeHint().width(), room);
     if (!isMaximized() && !isFullScreen() && more > 0) resize(width() + more, height());
+    widthWithDock_ = width();
 }
 
 /// Takes from the undo list what the board lacks, and makes the board smaller if it is cut off all the same.

@@ -85,6 +85,7 @@ class Form1 final : public QMainWindow {
     QLabel* puzfile_;
     QLineEdit* gridSize_;
     QLabel* assessment_;
+    int widthWithDock_ = 0;     ///< to which the window was widened last; 0 for never
     bool statusIsNew_ = false;  ///< it says something that was not announced yet
 };
 

@@ -37,6 +37,10 @@ GuidePanel::GuidePanel(Handlers& handlers)
     steps_->setObjectName("GuideSteps");
     steps_->setWordWrap(true);
     steps_->setSpacing(kStepSpacing);
+    // A step is measured before the scroll bar comes, and must not lose its last line to it.
+    steps_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    steps_->setResizeMode(QListView::Adjust);
+    steps_->setTextElideMode(Qt::ElideNone);
     steps_->setAccessibleName(tr("Steps of the explanation"));
     previous_->setObjectName("GuideBack");
     next_->setObjectName("GuideNext");

@@ -69,7 +69,8 @@ TEST(Sentence, TellsEachTechniqueWithTheNumbersOfTheCase) {
          "only one, so at least one bridge goes there."},
         {{"2.5.2", ".....", "3.4.3", ".....", "2.3.2"},
          {{1, 3, 2, false}},
-         "least [3-3-O1 connect]: The 5 at row 1, column 3 needs 3 more bridges. Leaving out the 2 on its right or the "
+         "least [3-2 connect part1]: The 5 at row 1, column 3 needs 3 more bridges. Leaving out the 2 on its right or "
+         "the "
          "4 below it, it could get only two, so at least one bridge goes to each of them."},
         {{"2.3.2", ".....", "3.4.3", ".....", "2.3.2"},
          {{1, 3, 1, false}, {1, 11, 1, false}},
