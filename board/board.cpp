@@ -28,14 +28,12 @@ void DropSelection(Board& board) {
 void FollowLayout(Board& board, const BoardLayout& before) {
     const CellNumber selected = SelectedIsland(board);
     if (selected == 0) return;
-    const auto moved = [](double at, int oldOrigin, int origin, double scale) {
-        return origin + (at - oldOrigin) * scale;
-    };
     const BoardLayout& layout = board.layout;
     const double scale = static_cast<double>(layout.CellSize) / before.CellSize;
+    const Point to = board.Line1.to;
     board.Line1.from = board.At(selected);
-    board.Line1.to = {moved(board.Line1.to.x, before.OriginX, layout.OriginX, scale),
-                      moved(board.Line1.to.y, before.OriginY, layout.OriginY, scale)};
+    board.Line1.to = {layout.OriginX + (to.x - before.OriginX) * scale,
+                      layout.OriginY + (to.y - before.OriginY) * scale};
 }
 
 void TakePuzzle(Board& board, const Puzzle& puzzle) {

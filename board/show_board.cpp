@@ -25,7 +25,7 @@ void LayoutNewBoard(Game& game, BoardSize size) {
 void PutOnBoard(Game& game, const Puzzle& puzzle) {
     TakePuzzle(game.board, puzzle);
     game.job.PuzzleReplaced();
-    game.guidance = {};
+    game.guidance.Clear();
     AssessBoard(game);
     game.pictures.StopMarkerTime();
     game.pictures.ShowOverlay();

@@ -151,10 +151,7 @@ int GiveHint(Console& console, const HintOptions& options) {
     const Hint hint = FindHint(board, found, options.played, HintStep::Any, WithinBounds(console));
     JsonFields fields = SizeFields(*puzzle);
     fields.insert(fields.begin(), {"number", options.number});
-    Assessment assessment;
-    if (found) assessment.solutions = static_cast<int>(found->size());
-    if (found && found->size() == 1) assessment.score = GradeBoard(board, found->front(), WithinBounds(console));
-    for (JsonFields::value_type& field : FieldsOf(assessment))
+    for (JsonFields::value_type& field : FieldsOf(AssessSolutions(board, found, WithinBounds(console))))
         fields.push_back(std::move(field));
     fields.emplace_back("solved", hint.kind == HintKind::Finished);
     fields.emplace_back("steps", FieldsOf(board, hint.steps));

@@ -21,6 +21,13 @@ struct Guidance {
 
     std::string text;                ///< what is told beside the board
     std::uint64_t textRevision = 0;  ///< the history's, when it was told
+
+    /// Nothing is told any more.
+    void Clear() {
+        const std::uint64_t next = revision + 1;
+        *this = {};
+        revision = next;
+    }
 };
 
 }  // namespace tidewalk

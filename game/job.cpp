@@ -13,6 +13,18 @@ bool RefuseWhileBusy(Game& game) {
     return true;
 }
 
+bool RefuseWithoutPuzzle(Game& game) {
+    if (game.board.puzzle.CellCount() == 0) {
+        game.prompts.Show("There is no puzzle to solve", "vbinformation+vbok");
+        return true;
+    }
+    if (game.board.puzzle.IslandCount() == 0) {
+        game.prompts.Show("Set the puzzle first", "vbinformation+vbok");
+        return true;
+    }
+    return false;
+}
+
 void LetEventsThrough(Game& game) {
     game.events.DoEvents();
     game.job.Polled(game.clock.Milliseconds());

@@ -13,6 +13,9 @@ namespace tidewalk {
 /// When a long job runs, says "Cancel Autosolve first" and returns true.
 bool RefuseWhileBusy(Game& game);
 
+/// Says so and returns true when there is no puzzle on the board that could be solved.
+bool RefuseWithoutPuzzle(Game& game);
+
 /// Lets pending events happen.
 void LetEventsThrough(Game& game);
 

@@ -34,27 +34,15 @@ void BeginHint(Game& game, const Archipelago& board) {
                                   [&steps] { return ++steps <= kMostSteps; });
 }
 
-/// How many bridges the hint lays.
-int BridgesToLay(const Game& game, const Archipelago& board, const Deduction& deduction) {
-    int bridges = 0;
-    for (const MarkedPair& pair : GuideTo(board, deduction, true).pairs) {
-        if (pair.mark == PairMark::Lay) bridges += pair.bridges - game.board.BridgeState(pair.a, pair.b);
-    }
-    return bridges;
-}
-
 /// The bridges of the hint, laid as the player would.
 void LayBridges(Game& game, const Archipelago& board, const Deduction& deduction) {
-    const bool isOne = BridgesToLay(game, board, deduction) == 1;
     for (const MarkedPair& pair : GuideTo(board, deduction, true).pairs) {
         if (pair.mark != PairMark::Lay) continue;
         PushUndo(game.board, pair.a, pair.b);
         game.board.BridgeState.Set(pair.a, pair.b, pair.bridges);
     }
     EndGuidance(game);
-    ShowGuide(game, {},
-              isOne ? "The bridge of the hint lies on the board. Undo takes it back."
-                    : "The bridges of the hint lie on the board. Undo takes them back.");
+    ShowGuide(game, {}, "The hint is laid. Undo takes it back, move by move.");
 }
 
 void TellStep(Game& game, const Archipelago& board) {
@@ -66,7 +54,6 @@ void TellStep(Game& game, const Archipelago& board) {
                          name + ": look at the framed islands.\n\nPress Hint again to be told why.");
     }
     if (game.guidance.presses > kReason) return LayBridges(game, board, last);
-    const bool isOne = BridgesToLay(game, board, last) == 1;
     std::string text;
     Guide guide = GuideTo(board, last, true);
     for (const Step& step : steps) {
@@ -75,8 +62,7 @@ void TellStep(Game& game, const Archipelago& board) {
             if (pair.mark == PairMark::None) guide.pairs.push_back(pair);
         }
     }
-    ShowGuide(game, guide,
-              text + (isOne ? "Press Hint once more to lay the bridge." : "Press Hint once more to lay the bridges."));
+    ShowGuide(game, guide, text + "Press Hint once more to have it laid.");
 }
 
 void TellMistake(Game& game, const Archipelago& board) {

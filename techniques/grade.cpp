@@ -61,15 +61,19 @@ std::optional<int> GradeBoard(const Archipelago& board, const SpanBridges& only,
     return ScoreOf(efforts);
 }
 
-Assessment AssessPuzzle(const Puzzle& puzzle, const MayGoOn& mayGoOn) {
-    constexpr int kSeveral = 2;
+Assessment AssessSolutions(const Archipelago& board, const std::optional<std::vector<SpanBridges>>& found,
+                           const MayGoOn& mayGoOn) {
     Assessment assessment;
-    const Archipelago board(puzzle);
-    const auto found = FindSolutions(board, kSeveral, mayGoOn);
     if (!found) return assessment;
     assessment.solutions = static_cast<int>(found->size());
     if (found->size() == 1) assessment.score = GradeBoard(board, found->front(), mayGoOn);
     return assessment;
+}
+
+Assessment AssessPuzzle(const Puzzle& puzzle, const MayGoOn& mayGoOn) {
+    constexpr int kSeveral = 2;
+    const Archipelago board(puzzle);
+    return AssessSolutions(board, FindSolutions(board, kSeveral, mayGoOn), mayGoOn);
 }
 
 }  // namespace tidewalk

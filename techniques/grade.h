@@ -35,6 +35,10 @@ struct Assessment {
     std::optional<int> score;      ///< only with exactly one solution
 };
 
+/// The same of a board whose solutions were looked for: up to two of them, or nothing when that came to no end.
+Assessment AssessSolutions(const Archipelago& board, const std::optional<std::vector<SpanBridges>>& found,
+                           const MayGoOn& mayGoOn);
+
 /// Counts the solutions of the puzzle's numbers and grades it if there is one. `mayGoOn` is asked before every choice
 /// and every step; what is not known when it says no stays open.
 Assessment AssessPuzzle(const Puzzle& puzzle, const MayGoOn& mayGoOn);

@@ -33,9 +33,7 @@ void ShowGuide(Game& game, Guide guide, const std::string& text) {
 
 void EndGuidance(Game& game) {
     ShowGuide(game, {}, "");
-    const std::uint64_t revision = game.guidance.revision + 1;
-    game.guidance = {};
-    game.guidance.revision = revision;
+    game.guidance.Clear();
 }
 
 Guide GuideTo(const Archipelago& board, const Deduction& deduction, bool results) {
@@ -54,18 +52,6 @@ std::optional<std::vector<SpanBridges>> SolutionsAtOnce(const Archipelago& board
     constexpr int kMostChoices = 20000;
     int choices = 0;
     return FindSolutions(board, 2, [&choices] { return ++choices <= kMostChoices; });
-}
-
-bool RefuseWithoutPuzzle(Game& game) {
-    if (game.board.puzzle.CellCount() == 0) {
-        game.prompts.Show("There is no puzzle to solve", "vbinformation+vbok");
-        return true;
-    }
-    if (game.board.puzzle.IslandCount() == 0) {
-        game.prompts.Show("Set the puzzle first", "vbinformation+vbok");
-        return true;
-    }
-    return false;
 }
 
 }  // namespace tidewalk

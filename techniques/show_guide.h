@@ -25,7 +25,4 @@ Guide GuideTo(const Archipelago& board, const Deduction& deduction, bool results
 /// The solutions of the puzzle on the board, two at most. Nothing when looking for them would keep the player waiting.
 std::optional<std::vector<SpanBridges>> SolutionsAtOnce(const Archipelago& board);
 
-/// Says so and returns true when there is no puzzle that could be solved.
-bool RefuseWithoutPuzzle(Game& game);
-
 }  // namespace tidewalk

@@ -36,11 +36,11 @@ TEST(Hint, FramesThenTellsThenLaysAsMoves) {
     EXPECT_TRUE(game.board.ShownGuide()->pairs.empty());
     EXPECT_EQ(game.Hint(),
               "The 3 at row 1, column 3 needs 3 bridges, and its neighbours can take just as many: two to the 3 on its "
-              "left and one to the 1 on its right.\n\nPress Hint once more to lay the bridges.");
+              "left and one to the 1 on its right.\n\nPress Hint once more to have it laid.");
     EXPECT_EQ(game.board.ShownGuide()->pairs,
               (std::vector<MarkedPair>{{1, 3, 2, PairMark::Lay}, {3, 5, 1, PairMark::Lay}}));
     EXPECT_TRUE(game.board.history.UndoList().empty());
-    EXPECT_EQ(game.Hint(), "The bridges of the hint lie on the board. Undo takes them back.");
+    EXPECT_EQ(game.Hint(), "The hint is laid. Undo takes it back, move by move.");
     EXPECT_EQ(game.board.BridgeState(1, 3) * 10 + game.board.BridgeState(5, 3), 21);
     game.Run(cmdundo_Click);
     game.Run(cmdundo_Click);
