@@ -46,7 +46,7 @@ tidewalk_layer(techniques ON solver FILES
     techniques/sentences techniques/supposing)
 
 tidewalk_layer(generator ON techniques FILES
-    generator/create_puzzle generator/grid_size generator/grow generator/shuffle_lines)
+    generator/create_puzzle generator/grid_size generator/grow generator/puzzle_order generator/shuffle_lines)
 
 # The picture of a puzzle on any surface, and the board with what the player has done on it: on values, too.
 

@@ -6,8 +6,15 @@
 
 namespace tidewalk {
 
-/// "VEasy" below 1, "Easy" up to 5, "Hard" up to 10, "VHard" from 11 on. The score
-/// is that of `techniques/grade.h`.
+enum class Grade { VEasy, Easy, Hard, VHard };
+
+/// `VEasy` below 1, `Easy` up to 5, `Hard` up to 10, `VHard` from 11 on. The score is that of `techniques/grade.h`.
+Grade GradeOf(int score);
+
+/// "VEasy", "Easy", "Hard" or "VHard".
+std::string_view NameOf(Grade grade);
+
+/// The name of the score's grade.
 std::string_view DifficultyName(int score);
 
 }  // namespace tidewalk
