@@ -36,8 +36,9 @@ tidewalk_layer(model FILES
     model/plain_grid model/puzzle model/puzzle_range model/puzzle_record model/random_source model/replace_file model/system_file)
 
 tidewalk_layer(solver ON model FILES
-    solver/archipelago solver/connect_islands solver/contradictions solver/count_solutions solver/difficulty solver/laid_bridges
-    solver/link_table solver/neighbours solver/rules solver/solve_puzzle solver/solver_board solver/status_list
+    solver/archipelago solver/balance solver/bound_trail solver/clauses solver/connect_islands solver/contradictions
+    solver/count_solutions solver/difficulty solver/laid_bridges solver/link_table solver/literal solver/neighbours
+    solver/rules solver/solution_search solver/solve_puzzle solver/solver_board solver/span_queue solver/status_list
     solver/trial_search solver/valid_solution)
 
 tidewalk_layer(techniques ON solver FILES

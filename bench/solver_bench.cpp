@@ -7,6 +7,7 @@
 
 #include "bench/created_puzzles.h"
 #include "solver/connect_islands.h"
+#include "solver/count_solutions.h"
 #include "solver/neighbours.h"
 #include "solver/solve_puzzle.h"
 #include "tests/support/random_boards.h"
@@ -25,7 +26,7 @@ void SolveCreated(benchmark::State& state, bool searched) {
     std::size_t next = 0;
     for (auto _ : state) {
         board.Reset(puzzles[next++ % puzzles.size()]);
-        if (!SolvePuzzle(board, {}, WithoutEnd).solved) state.SkipWithError("not solved");
+        if (!SolvePuzzle(board, {}, WithoutEnd).Solved()) state.SkipWithError("not solved");
     }
 }
 BENCHMARK_CAPTURE(SolveCreated, Rules, false)->Arg(7)->Arg(15)->Arg(25)->Unit(benchmark::kMicrosecond);
@@ -49,6 +50,20 @@ void TrialSearchDense(benchmark::State& state) {
     state.counters["trials/s"] = benchmark::Counter(static_cast<double>(total), benchmark::Counter::kIsRate);
 }
 BENCHMARK(TrialSearchDense)->Unit(benchmark::kMillisecond)->Iterations(20);
+
+/// Whether there is exactly one solution, on crowded boards: with every other one a number is wrong.
+void CountCrowded(benchmark::State& state) {
+    constexpr int kBoards = 100;
+    const int side = static_cast<int>(state.range(0));
+    std::mt19937 random(7);
+    std::vector<Archipelago> boards;
+    for (int i = 0; i < kBoards; ++i)
+        boards.emplace_back(test::MakeRandomPuzzle(random, {side, side}, kSpacing, i % 2 == 0));
+    std::size_t next = 0;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(FindSolutions(boards[next++ % boards.size()], 2, WithoutEnd));
+}
+BENCHMARK(CountCrowded)->Arg(12)->Arg(25)->Unit(benchmark::kMicrosecond);
 
 /// One bridge after the other on a crowded 25x25 board, with the refresh after each.
 void ConnectIslandsOnFullBoard(benchmark::State& state) {

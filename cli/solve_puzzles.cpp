@@ -51,7 +51,7 @@ Outcome Solve(SolverBoard& board, const Puzzle& puzzle, int maxTrials, const May
     const SolveResult result = SolvePuzzle(board, {maxTrials, maxTrials + 1}, mayGoOn);
     outcome.trials = std::min(result.trials, maxTrials);
     outcome.solution = PuzzleOf(board);
-    if (result.solved && CheckLinkTotals(outcome.solution)) return outcome;
+    if (result.Solved() && CheckLinkTotals(outcome.solution)) return outcome;
     if (maxTrials == 0) {
         outcome.failure = "the rules alone do not solve it";
     } else if (result.trials <= maxTrials) {

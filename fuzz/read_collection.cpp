@@ -40,9 +40,9 @@ void DemandOneAnswer(const Puzzle& puzzle) {
     SolverBoard board(puzzle);
     const SolveResult result = SolvePuzzle(board, {1, kMostTrials}, WithoutEnd);
     if (puzzle.IslandCount() == 0) return;
-    Demand(!result.solved || IsValidSolution(PuzzleOf(board)), "the solver's solution is none");
+    Demand(!result.Solved() || IsValidSolution(PuzzleOf(board)), "the solver's solution is none");
     const auto count = CountSolutions(puzzle, 1, kMostTrials);
-    if (result.trials < kMostTrials && count) Demand(result.solved == (*count == 1), "solved without a solution");
+    if (result.trials < kMostTrials && count) Demand(result.Solved() == (*count == 1), "solved without a solution");
 }
 
 }  // namespace

@@ -47,7 +47,7 @@ CreatedPuzzle CreatePuzzle(SolverBoard& board, BoardSize size, RandomSource& ran
         board.Reset(created.puzzle);
         const SolveResult result = SolvePuzzle(board, BoundsFor(created.puzzle.CellCount()), mayGoOn);
         created.trials = result.trials;
-        if (!result.solved) continue;
+        if (!result.Solved()) continue;
         created.solved = true;
         created.puzzle = PuzzleOf(board);
         break;

@@ -19,7 +19,7 @@ class BoardReader {
                 const int number = puzzle_.IslandGrid(row, col);
                 if (number <= 0) continue;
                 const int isle = board_.IsleCount();
-                board_.isles.push_back({puzzle_.CellId(row, col), {row, col}, number, {}});
+                board_.isles.push_back({puzzle_.CellId(row, col), {row, col}, number, {}, {}});
                 int& above = above_[static_cast<std::size_t>(col)];
                 if (left >= 0) AddAcross(left, isle);
                 if (above >= 0) upright_.push_back({above, isle});
@@ -35,8 +35,12 @@ class BoardReader {
     int AddSpan(int a, int b) {
         const int span = board_.SpanCount();
         board_.spans.push_back({{a, b}, {}});
-        board_.isles[static_cast<std::size_t>(a)].spans.push_back(span);
-        board_.isles[static_cast<std::size_t>(b)].spans.push_back(span);
+        Isle& first = board_.isles[static_cast<std::size_t>(a)];
+        Isle& second = board_.isles[static_cast<std::size_t>(b)];
+        first.spans.push_back(span);
+        first.seen.push_back(b);
+        second.spans.push_back(span);
+        second.seen.push_back(a);
         return span;
     }
 

@@ -33,7 +33,7 @@ Outcome Solve(Game& game) {
     if (game.job.Superseded()) return Outcome::Superseded;
     ShowWorkLists(game, *solver);
     const Puzzle solved = PuzzleOf(*solver);
-    if (!result.solved || !CheckLinkTotals(solved)) return Outcome::Failed;
+    if (!result.Solved() || !CheckLinkTotals(solved)) return Outcome::Failed;
     game.board.puzzle = solved;
     game.board.OpenNeighbours = solver->OpenNeighbours;
     return Outcome::Solved;

@@ -7,24 +7,41 @@
 
 namespace tidewalk {
 
+/// When the trial search has come to so many trials it is not the way to the solution. Hardly a puzzle that was made
+/// for people needs half as many.
+inline constexpr int kTrialsBeforeExactSearch = 20000;
+
 /// How far a solve may go.
 struct SolveBounds {
     int limit = 1;       ///< the trial search runs only if this is at least 1
-    int mostTrials = 0;  ///< the search gives up when it has come to so many trials; 0 for no bound
+    int mostTrials = 0;  ///< it gives up when it has come to so many trials; 0 for an answer in any case
+};
+
+/// How a solve ended.
+enum class SolveEnd {
+    Solved,
+    Failed,      ///< the rules lead to a contradiction, or every choice does, or there was no choice to try
+    GivenUp,     ///< the search came to its bounds
+    Stopped,     ///< `mayGoOn` said no
+    NoSolution,  ///< `FindSolutions` has proved that there is none
 };
 
 /// What came of a solve.
 struct SolveResult {
-    bool solved = false;
+    SolveEnd end = SolveEnd::Failed;
     int trials = 0;  ///< the moves that the search tried
+
+    bool Solved() const { return end == SolveEnd::Solved; }
 };
 
 /// Solves the puzzle on the board: passes of the rules until they lay nothing more, then a trial search as far as
-/// `bounds` let it. Bridges that lie on the board already are taken away first.
+/// `bounds` let it. Where it has to answer and comes to `kTrialsBeforeExactSearch`, or to more choice points than there
+/// may be, `FindSolutions` has the last word: the bridges of the solution that it finds are laid anew. Bridges that lie
+/// on the board already are taken away first.
 ///
 /// When it is solved the solution stands in `LinkList`, `ConnectedList` and `CrossGrid`, and `laid` tells every step.
-/// Otherwise there is no solution, or the search came to its bounds, or it was stopped; the board is then left as the
-/// solver left it. `mayGoOn` is asked before each pass and at each trial.
+/// Otherwise the board is left as the solver left it. `mayGoOn` is asked before each pass, at each trial and before
+/// each choice.
 SolveResult SolvePuzzle(SolverBoard& board, const SolveBounds& bounds, const MayGoOn& mayGoOn);
 
 /// How the passes of the rules ended.

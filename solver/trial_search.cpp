@@ -18,26 +18,29 @@ class Search {
     SolveResult Run() {
         board_.choicePoints.clear();
         std::optional<StatusLine> line = FirstStatusLine(board_);
-        if (!line) return {false, 0};
+        if (!line) return {SolveEnd::Failed};
         while (line) {
-            if (line->HasMoves() && !StartTrial(*line)) return {false, trials_};
+            if (line->HasMoves()) {
+                if (const auto end = StartTrial(*line)) return {*end, trials_};
+            }
             const Propagation outcome = line->HasMoves() ? LayAndPropagate(*line) : Propagation::Contradiction;
-            if (outcome == Propagation::Stopped) return {false, trials_};
+            if (outcome == Propagation::Stopped) return {SolveEnd::Stopped, trials_};
             const bool deadEnd = outcome == Propagation::Contradiction;
             line = deadEnd ? BackUp() : FirstStatusLine(board_);
-            if (deadEnd && !line) return {false, trials_};
+            if (deadEnd && !line) return {SolveEnd::Failed, trials_};
         }
-        return {true, trials_};
+        return {SolveEnd::Solved, trials_};
     }
 
  private:
-    /// Counts a trial; false when the search may not go on.
-    bool StartTrial(const StatusLine& line) {
+    /// Counts a trial; why it may not be made, if so.
+    std::optional<SolveEnd> StartTrial(const StatusLine& line) {
         ++trials_;
-        const bool mayGoOn = mayGoOn_();
-        if (mostTrials_ > 0 && trials_ >= mostTrials_) return false;
+        if (!mayGoOn_()) return SolveEnd::Stopped;
+        if (trials_ >= mostTrials_) return SolveEnd::GivenUp;
         const bool leavesMoves = line.firstMove + 1 < line.moveCount;
-        return mayGoOn && (!leavesMoves || board_.BranchCount() < kMaxBranches);
+        if (leavesMoves && board_.BranchCount() >= kMaxBranches) return SolveEnd::GivenUp;
+        return std::nullopt;
     }
 
     /// Lays the line's first move and lets the rules run on.

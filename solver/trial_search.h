@@ -13,8 +13,9 @@ inline constexpr int kMaxBranches = 500;
 /// Searches depth first from where the rules stopped: takes the first line of the island status list, lays its first
 /// move, lets the rules run on, and takes everything since then back when that led to a contradiction.
 ///
-/// Solved when every island has its bridges. Not solved when there was nothing left to satisfy, when every choice led
-/// to a contradiction, when the search came to `mostTrials` (0 for no bound), or when it was stopped.
+/// `Solved` when every island has its bridges. `Failed` when there was nothing left to satisfy or every choice led to a
+/// contradiction, `GivenUp` when the search came to `mostTrials`, at least 1, or to more choice points than there may
+/// be.
 SolveResult TrialSearch(SolverBoard& board, int mostTrials, const MayGoOn& mayGoOn);
 
 }  // namespace tidewalk

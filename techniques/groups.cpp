@@ -2,7 +2,6 @@
 #include "techniques/groups.h"
 
 #include <algorithm>
-#include <iterator>
 #include <numeric>
 
 namespace tidewalk {
@@ -44,8 +43,9 @@ Connections::Connections(const Position& position) {
         if (!search.IsReached(isle)) unreached = isle;
     }
     if (unreached >= 0) return;
-    std::copy_if(search.CutSpans().begin(), search.CutSpans().end(), std::back_inserter(cutSpans),
-                 [&](int span) { return position.Laid(span) == 0; });
+    for (const CutSpan& cut : search.CutSpans()) {
+        if (position.Laid(cut.span) == 0) cutSpans.push_back(cut.span);
+    }
 }
 
 std::vector<int> ReachedWithout(const Position& position, int from, int barred) {

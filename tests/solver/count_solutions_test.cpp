@@ -4,15 +4,29 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
+#include <set>
 
 #include "solver/difficulty.h"
 #include "solver/solver_board.h"
 #include "solver/valid_solution.h"
 #include "support/board_text.h"
+#include "support/random_boards.h"
 
 namespace tidewalk::test {
 namespace {
+
+Puzzle WithBridges(Puzzle puzzle, const Archipelago& board, const SpanBridges& bridges) {
+    puzzle.LinkList.clear();
+    for (int span = 0; span < board.SpanCount(); ++span) {
+        const auto [a, b] = board.SpanAt(span).ends;
+        const int count = bridges[static_cast<std::size_t>(span)];
+        if (count > 0)
+            puzzle.LinkList.push_back(MakeLink(board.IsleAt(a).id, board.IsleAt(b).id, kMostBridges - count));
+    }
+    return puzzle;
+}
 
 TEST(CountSolutions, BoardsWithNoneOneAndSeveral) {
     const std::pair<Rows, int> cases[] = {
@@ -82,6 +96,28 @@ TEST(CountSolutions, AgreesWithJudgingEveryChoiceOnSmallBoards) {
     EXPECT_GT(solvable, 100);
     EXPECT_GT(several, 20);
     EXPECT_LT(solvable, 2000);
+}
+
+TEST(FindSolutions, LearnsFromDeadEndsOnCrowdedBoards) {
+    constexpr int kLimit = 60;
+    constexpr int kMostChoices = 20000;
+    std::mt19937 random(5);
+    int several = 0;
+    int none = 0;
+    for (int round = 0; round < 60; ++round) {
+        const Puzzle puzzle = MakeRandomPuzzle(random, {12, 12}, round % 3 + 1, round % 2 == 0);
+        const Archipelago board(puzzle);
+        const auto found = FindSolutions(board, kLimit, [choices = 0]() mutable { return ++choices < kMostChoices; });
+        ASSERT_TRUE(found) << "board " << round;
+        EXPECT_EQ(std::set(found->begin(), found->end()).size(), found->size()) << "one twice";
+        EXPECT_TRUE(std::all_of(found->begin(), found->end(), [&](const SpanBridges& bridges) {
+            return IsValidSolution(WithBridges(puzzle, board, bridges));
+        }));
+        several += found->size() == kLimit;
+        none += found->empty();
+    }
+    EXPECT_GT(several, 10);
+    EXPECT_GT(none, 10);
 }
 
 TEST(ValidSolution, JudgesNumbersAndGroups) {

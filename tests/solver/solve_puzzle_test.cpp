@@ -53,10 +53,10 @@ TEST(SolvePuzzle, GoesTheSameWayOnBoardsOfEverySize) {
         std::mt19937 random(seed);
         board.Reset(MakeRandomPuzzle(random, {rows, cols}, spacing, seed % 5 == 0));
         const SolveResult result = SolvePuzzle(board, {1, kMostTrials}, WithoutEnd);
-        EXPECT_EQ(result.solved, solved) << rows << "x" << cols << " of seed " << seed;
+        EXPECT_EQ(result.Solved(), solved) << rows << "x" << cols << " of seed " << seed;
         EXPECT_EQ(result.trials, trials) << rows << "x" << cols << " of seed " << seed;
         EXPECT_EQ(TraceOf(board), trace) << rows << "x" << cols << " of seed " << seed;
-        EXPECT_EQ(result.solved, IsValidSolution(PuzzleOf(board)));
+        EXPECT_EQ(result.Solved(), IsValidSolution(PuzzleOf(board)));
     }
 }
 
@@ -75,10 +75,10 @@ TEST(SolvePuzzle, SolvesExactlyWhatHasASolution) {
         board.Reset(puzzle);
         const SolveResult result = SolvePuzzle(board, {1, kMostTrials}, WithoutEnd);
         if (result.trials == kMostTrials) continue;
-        ASSERT_EQ(result.solved, *solutions == 1) << "board " << round;
-        ASSERT_EQ(result.solved, IsValidSolution(PuzzleOf(board))) << "board " << round;
-        solvable += result.solved;
-        unsolvable += !result.solved;
+        ASSERT_EQ(result.Solved(), *solutions == 1) << "board " << round;
+        ASSERT_EQ(result.Solved(), IsValidSolution(PuzzleOf(board))) << "board " << round;
+        solvable += result.Solved();
+        unsolvable += !result.Solved();
     }
     EXPECT_GT(solvable, 300);
     EXPECT_GT(unsolvable, 300);
@@ -89,7 +89,7 @@ std::string Solve(const Rows& rows, const SolveBounds& bounds = kNoBounds) {
     SolverBoard board(PuzzleFrom(rows));
     const SolveResult result = SolvePuzzle(board, bounds, WithoutEnd);
     std::string text = NumText(result.trials);
-    if (!result.solved) return text + " failed";
+    if (!result.Solved()) return text + " failed";
     for (const Link& link : board.LinkList.Links())
         text += link.Bridges() > 0 ? " " + Text(link) : "";
     EXPECT_TRUE(IsValidSolution(PuzzleOf(board)));
@@ -115,7 +115,7 @@ TEST(SolvePuzzle, StopsWhenItIsAskedToAndCanBeginAgain) {
     for (bool solved = false; !solved && moments < 100;) {
         ++moments;
         int asked = 0;
-        solved = SolvePuzzle(board, kNoBounds, [&] { return ++asked < moments; }).solved;
+        solved = SolvePuzzle(board, kNoBounds, [&] { return ++asked < moments; }).Solved();
         EXPECT_EQ(asked + solved, moments);
     }
     EXPECT_EQ(moments, 7) << "asked before each of four passes and at each of two trials";
@@ -132,9 +132,32 @@ TEST(TrialSearch, FailsWhenItNeedsMoreChoicePointsThanThereMayBe) {
     }
     SolverBoard board(puzzle);
     const SolveResult result = SolvePuzzle(board, {1, 2000}, WithoutEnd);
-    EXPECT_FALSE(result.solved);
+    EXPECT_EQ(result.end, SolveEnd::GivenUp);
     EXPECT_EQ(result.trials, 501);
     EXPECT_EQ(board.BranchCount(), 500);
+    const SolveResult answer = SolvePuzzle(board, kNoBounds, WithoutEnd);
+    EXPECT_EQ(answer.end, SolveEnd::Solved);
+    EXPECT_EQ(answer.trials, 501);
+    EXPECT_TRUE(IsValidSolution(PuzzleOf(board)));
+}
+
+TEST(SolvePuzzle, AnswersWhereTheTrialSearchDoesNot) {
+    const Rows possible{"243452", "354552", "451342", "365242", "334143", "233122"};
+    const Rows impossible{"11332", "35533", "46222", "45573", "32332"};
+    for (const auto& [rows, end] : {std::pair{possible, SolveEnd::Solved}, {impossible, SolveEnd::NoSolution}}) {
+        SolverBoard board(PuzzleFrom(rows));
+        EXPECT_EQ(SolvePuzzle(board, {1, kTrialsBeforeExactSearch}, WithoutEnd).end, SolveEnd::GivenUp);
+        const SolveResult result = SolvePuzzle(board, kNoBounds, WithoutEnd);
+        EXPECT_EQ(result.end, end);
+        EXPECT_EQ(result.trials, kTrialsBeforeExactSearch);
+        EXPECT_EQ(IsValidSolution(PuzzleOf(board)), end == SolveEnd::Solved);
+    }
+    SolverBoard board(PuzzleFrom(possible));
+    int all = 0;
+    SolvePuzzle(board, kNoBounds, [&] { return ++all > 0; });
+    const auto untilTheLast = [&] { return --all > 0; };
+    EXPECT_EQ(SolvePuzzle(board, kNoBounds, untilTheLast).end, SolveEnd::Stopped) << "the exact search asks, too";
+    EXPECT_EQ(all, 0);
 }
 
 }  // namespace
