@@ -54,13 +54,13 @@ int Clauses::Propagate(Literal literal, BoundTrail& trail) {
 void Clauses::DropWorst() {
     constexpr int kMoreEachTime = 500;
     most_ += kMoreEachTime;
-    std::vector<int> spreads;
-    for (const Clause& clause : clauses_)
-        spreads.push_back(clause.spread);
-    const auto middle = spreads.begin() + static_cast<std::ptrdiff_t>(spreads.size() / 2);
-    std::nth_element(spreads.begin(), middle, spreads.end());
-    const int most = std::max(kForGood, *middle);
-    std::erase_if(clauses_, [most](const Clause& clause) { return clause.spread > most; });
+    // The newest of those that are spread alike are the most likely to be of use again.
+    std::reverse(clauses_.begin(), clauses_.end());
+    std::stable_sort(clauses_.begin(), clauses_.end(),
+                     [](const Clause& a, const Clause& b) { return a.spread < b.spread; });
+    const auto droppable =
+        std::find_if(clauses_.begin(), clauses_.end(), [](const Clause& clause) { return clause.spread > kForGood; });
+    clauses_.erase(droppable + (clauses_.end() - droppable) / 2, clauses_.end());
     for (std::vector<Watch>& watches : watches_)
         watches.clear();
     for (int index = 0; index < static_cast<int>(clauses_.size()); ++index)

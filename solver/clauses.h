@@ -37,8 +37,8 @@ class Clauses {
     /// True when there are so many that the worst should go.
     bool AreTooMany() const { return static_cast<int>(clauses_.size()) > most_; }
 
-    /// Drops the half that is spread widest. The trail has to be at level 0, so that no clause is a reason that is
-    /// asked for again.
+    /// Drops the wider spread half of those that are not kept for good. The trail has to be at level 0, so that no
+    /// clause is a reason that is asked for again.
     void DropWorst();
 
  private:
