@@ -8,6 +8,7 @@
 #include <random>
 #include <set>
 
+#include "generator/create_puzzle.h"
 #include "solver/difficulty.h"
 #include "solver/solver_board.h"
 #include "solver/valid_solution.h"
@@ -118,6 +119,30 @@ TEST(FindSolutions, LearnsFromDeadEndsOnCrowdedBoards) {
     }
     EXPECT_GT(several, 10);
     EXPECT_GT(none, 10);
+}
+
+Puzzle Turned(const Puzzle& puzzle) {
+    Puzzle turned({puzzle.Cols, puzzle.Rows});
+    for (CellNumber id = 1; id <= puzzle.CellCount(); ++id) {
+        if (puzzle.IslandAt(id) > 0)
+            turned.SetIsland(turned.CellId(puzzle.CellCol(id), puzzle.CellRow(id)), puzzle.IslandAt(id));
+    }
+    return turned;
+}
+
+TEST(CountSolutions, OfABoardTurnedIsTheSame) {
+    // What is learned depends on the order of the spans, and a wrong lesson loses solutions.
+    constexpr int kLimit = 3000;
+    RandomSource random(9);
+    SolverBoard solver;
+    int many = 0;
+    for (int round = 0; round < 400; ++round) {
+        const Puzzle puzzle = CreatePuzzle(solver, {13 + round % 12, 14}, random, WithoutEnd).puzzle;
+        const auto count = CountSolutions(puzzle, kLimit);
+        ASSERT_EQ(count, CountSolutions(Turned(puzzle), kLimit)) << "board " << round;
+        many += *count > 4 && *count < kLimit;
+    }
+    EXPECT_GT(many, 20);
 }
 
 TEST(ValidSolution, JudgesNumbersAndGroups) {
