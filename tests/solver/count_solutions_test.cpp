@@ -9,6 +9,7 @@
 #include <set>
 
 #include "generator/create_puzzle.h"
+#include "solver/clauses.h"
 #include "solver/difficulty.h"
 #include "solver/solver_board.h"
 #include "solver/valid_solution.h"
@@ -143,6 +144,20 @@ TEST(CountSolutions, OfABoardTurnedIsTheSame) {
         many += *count > 4 && *count < kLimit;
     }
     EXPECT_GT(many, 20);
+}
+
+TEST(Clauses, DropTheWiderSpreadHalfOfWhatIsNotKeptForGood) {
+    constexpr int kClauses = 20;
+    Clauses clauses(kClauses + 1);
+    // "Span 0 is bridged, or span n is", spread over n levels.
+    for (int span = kClauses; span > 0; --span)
+        clauses.Add({Literal::AtLeast(0, 1), Literal::AtLeast(span, 1)}, span);
+    clauses.DropWorst();
+    BoundTrail trail(kClauses + 1);
+    trail.Assert(Literal::Below(0, 1), {});
+    EXPECT_EQ(clauses.Propagate(Literal::AtLeast(0, 1), trail), -1);
+    for (int span = 1; span <= kClauses; ++span)
+        EXPECT_EQ(trail.Low(span), span <= 11 ? 1 : 0) << span;
 }
 
 TEST(ValidSolution, JudgesNumbersAndGroups) {
