@@ -12,8 +12,12 @@ namespace tidewalk {
 
 namespace {
 
-/// The characters of the board as a record gives them; "." where it gives none.
+/// The characters of the board as a record shows them; "." where it shows none.
 using BoardText = Grid<std::string_view>;
+
+/// The same as it is read: what is no single byte says nothing.
+using BoardBytes = Grid<char>;
+constexpr char kNothing = '.';
 
 constexpr std::string_view kWater = ".";
 
@@ -37,15 +41,20 @@ std::optional<BoardSize> ReadHeader(std::string_view header) {
 }
 
 /// Reads the islands' numbers, and every character for the bridges between them; false when a row is missing.
-bool ReadRows(Puzzle& puzzle, std::string_view boardText, BoardText& cells) {
-    const auto rows = Split(boardText, ',');
-    cells.Fill(kWater);
+bool ReadRows(Puzzle& puzzle, std::string_view rows, BoardBytes& cells) {
+    cells.Fill(kNothing);
+    bool isThere = true;
     for (int row = 1; row <= puzzle.Rows; ++row) {
-        if (static_cast<std::size_t>(row) > rows.size()) return false;
-        std::string_view text = rows[static_cast<std::size_t>(row - 1)];
+        if (!isThere) return false;
+        const std::size_t end = rows.find(',');
+        std::string_view text = rows.substr(0, end);
+        isThere = end != std::string_view::npos;
+        rows.remove_prefix(isThere ? end + 1 : rows.size());
         for (int col = 1; col <= puzzle.Cols && !text.empty(); ++col) {
-            cells(row, col) = TakeCharacter(text);
-            puzzle.SetIsland(puzzle.CellId(row, col), RoundedVal(cells(row, col)));
+            const std::string_view character = TakeCharacter(text);
+            const char byte = character.size() == 1 ? character.front() : kNothing;
+            cells(row, col) = byte;
+            if (byte > '0' && byte <= '9') puzzle.SetIsland(puzzle.CellId(row, col), byte - '0');
         }
     }
     return true;
@@ -59,10 +68,9 @@ struct Step {
 
 /// Records the bridge drawn with `stroke` that leaves the island at (row, col) by `step`. Whatever cell ends the run is
 /// taken for the other island, without a look at it; a run that leaves the board is no bridge.
-void TakeBridge(Puzzle& puzzle, const BoardText& cells, CellPlace from, Step step, std::string_view stroke, int state) {
-    if (puzzle.IslandGrid(from.row, from.col) <= 0) return;
+void TakeBridge(Puzzle& puzzle, const BoardBytes& cells, CellPlace from, Step step, char stroke, int state) {
     CellPlace end{from.row + step.row, from.col + step.col};
-    if (cells(end.row, end.col) != stroke) return;
+    if (cells(end.row, end.col) != stroke || puzzle.IslandGrid(from.row, from.col) <= 0) return;
     while (puzzle.OnBoard(end.row, end.col) && cells(end.row, end.col) == stroke) {
         end.row += step.row;
         end.col += step.col;
@@ -71,16 +79,16 @@ void TakeBridge(Puzzle& puzzle, const BoardText& cells, CellPlace from, Step ste
     puzzle.LinkList.push_back(MakeLink(puzzle.CellId(from), puzzle.CellId(end), state));
 }
 
-void ReadBridges(Puzzle& puzzle, const BoardText& cells) {
+void ReadBridges(Puzzle& puzzle, const BoardBytes& cells) {
     constexpr Step kRight{0, 1};
     constexpr Step kDown{1, 0};
     for (int row = 1; row <= puzzle.Rows; ++row) {
         for (int col = 1; col < puzzle.Cols; ++col)
-            TakeBridge(puzzle, cells, {row, col}, kRight, "-", 1);
+            TakeBridge(puzzle, cells, {row, col}, kRight, '-', 1);
         for (int col = 1; col < puzzle.Cols; ++col)
-            TakeBridge(puzzle, cells, {row, col}, kRight, "=", 0);
+            TakeBridge(puzzle, cells, {row, col}, kRight, '=', 0);
     }
-    for (const auto& [stroke, state] : {std::pair{"|", 1}, std::pair{"I", 0}}) {
+    for (const auto& [stroke, state] : {std::pair{'|', 1}, std::pair{'I', 0}}) {
         for (int col = 1; col <= puzzle.Cols; ++col) {
             for (int row = 1; row < puzzle.Rows; ++row)
                 TakeBridge(puzzle, cells, {row, col}, kDown, stroke, state);
@@ -125,7 +133,7 @@ RecordRead ReadPuzzleRecord(std::string_view record, Puzzle& puzzle) {
     const auto size = parts.size() < 3 ? std::nullopt : ReadHeader(parts[0]);
     puzzle = Puzzle(size.value_or(BoardSize{}));
     if (!size) return RecordRead::Nothing;
-    BoardText cells;
+    BoardBytes cells;
     if (!ReadRows(puzzle, parts[2], cells)) return RecordRead::Rows;
     ReadBridges(puzzle, cells);
     return RecordRead::Whole;
