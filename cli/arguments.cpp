@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <functional>
 #include <limits>
+#include <map>
 #include <optional>
 #include <sstream>
 #include <string_view>
@@ -42,7 +43,6 @@ struct Wishes {
     ExportOptions exported;
     ImportOptions import;
     std::string range = "all";
-    std::string explained = "all";
     std::string laid;
     std::string noMore;
     std::function<int(Console&)> command;  ///< the one that was chosen
@@ -100,6 +100,42 @@ std::vector<PlayedPair> PositionOf(const std::string& laid, const std::string& n
         }
     }
     return position;
+}
+
+/// The grades as they are ordered.
+const std::map<std::string, Grade> kGrades{
+    {"veasy", Grade::VEasy}, {"easy", Grade::Easy}, {"hard", Grade::Hard}, {"vhard", Grade::VHard}};
+
+/// What the figures of a character may be.
+struct FigureRule {
+    int most;   ///< what is above is nonsense
+    int slack;  ///< a single figure means so many more or less, too
+};
+
+// A board of 25 by 25 with an island in every cell has 24 * 24 pairs more than a tree.
+constexpr FigureRule kDensityRule{100, 3};
+constexpr FigureRule kLoopsRule{24 * 24, 0};
+constexpr FigureRule kDoublesRule{100, 5};
+
+/// Takes a figure off the front of the text; false when there is none up to `most`.
+bool TakeFigure(std::string_view& text, int most, int& figure) {
+    const std::size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
+    const auto [end, error] = std::from_chars(text.data(), text.data() + digits, figure);
+    text.remove_prefix(digits);
+    return error == std::errc() && figure <= most;
+}
+
+/// The figures that "N", "A-B" or "A-" mean; nothing for any other text.
+std::optional<Figures> ParseFigures(std::string_view text, FigureRule rule) {
+    Figures figures{0, rule.most};
+    if (!TakeFigure(text, rule.most, figures.least)) return std::nullopt;
+    if (text.empty()) {
+        const int figure = figures.least;
+        return Figures{std::max(figure - rule.slack, 0), std::min(figure + rule.slack, rule.most)};
+    }
+    if (!TakeCharacter(text, '-')) return std::nullopt;
+    if (!text.empty() && !TakeFigure(text, rule.most, figures.most)) return std::nullopt;
+    return text.empty() && figures.least <= figures.most ? std::optional(figures) : std::nullopt;
 }
 
 /// The name that the commands know the standard input or output by, if the path stands for that descriptor.
@@ -176,10 +212,21 @@ class Parser {
             ->check(CLI::Range(1, kMostNumber));
     }
 
-    static void AddRange(CLI::App* command, std::string& range) {
-        command->add_option("RANGE", range, "Which puzzles: N, A-B or all")->check([](const std::string& text) {
+    void AddRange(CLI::App* command) {
+        command->add_option("RANGE", wishes_.range, "Which puzzles: N, A-B or all")->check([](const std::string& text) {
             return RangeOf(text) ? "" : "\"" + text + "\" is no number, no range A-B and not \"all\"";
         });
+    }
+
+    static void AddFigures(CLI::App* command, const char* name, std::optional<Figures>& figures, FigureRule rule,
+                           const char* text) {
+        const auto take = [name, &figures, rule](const std::string& given) {
+            figures = ParseFigures(given, rule);
+            if (figures) return;
+            throw CLI::ValidationError(
+                name, "\"" + given + "\" is no N, A-B or A- of whole numbers from 0 to " + std::to_string(rule.most));
+        };
+        command->add_option_function<std::string>(name, take, text)->type_name("N|A-B|A-");
     }
 
     static std::string WhatIsNoPairs(const std::string& text, bool counted) {
@@ -196,20 +243,21 @@ class Parser {
     void AddReaders() {
         CLI::App* const list = Command("list", "Print a line for every puzzle", wishes_.list, ListPuzzles);
         AddFile(list, wishes_.list.file);
+        AddRange(list);
         list->add_flag("--grades", wishes_.list.grades, "With the grade and the number of solutions");
+        AddJobs(list, wishes_.list.jobs);
 
         CLI::App* const solve = Command("solve", "Solve puzzles", wishes_.solve, SolvePuzzles);
         AddFile(solve, wishes_.solve.file);
-        AddRange(solve, wishes_.range);
+        AddRange(solve);
         solve->add_option("--out", wishes_.solve.out, "Write the solved records to this file")
             ->type_name("FILE")
             ->transform(NameOfOutput);
-        wishes_.solve.maxTrials = kDefaultTrials;
         solve
             ->add_option("--max-trials", wishes_.solve.maxTrials,
-                         "Give a puzzle up after so many trials; 0 is rules alone")
+                         "Give a puzzle up after so many trials; 0 is rules alone. Without it an exact solver goes on "
+                         "where trials lead nowhere")
             ->type_name("N")
-            ->capture_default_str()
             ->check(CLI::Range(0, kMostNumber));
         solve->add_flag("--links", wishes_.solve.links, "Print the bridges as id-id:count");
         AddJobs(solve, wishes_.solve.jobs);
@@ -217,6 +265,7 @@ class Parser {
         CLI::App* const check = Command("check", "Judge the stored bridges and whether there is exactly one solution",
                                         wishes_.check, CheckPuzzles);
         AddFile(check, wishes_.check.file);
+        AddRange(check);
         wishes_.check.seconds = kDefaultSeconds;
         check->add_option("--seconds", wishes_.check.seconds, "The time for each puzzle; past it, it is undecided")
             ->type_name("S")
@@ -233,15 +282,40 @@ class Parser {
             ->type_name("N")
             ->capture_default_str()
             ->check(CLI::Range(1, kMostNumber));
-        create->add_option("--seed", options.seed, "The same seed makes the same puzzles")
+        create->add_option("--seed", options.seed, "The same seed makes the same run of puzzles")
             ->type_name("S")
             ->check(WhatIsNoSeed);
-        create->add_flag("--unique", options.unique, "Keep only puzzles with exactly one solution");
+        create->add_option("--first", options.first, "Begin with puzzle K of the run")
+            ->type_name("K")
+            ->capture_default_str()
+            ->check(CLI::Range(1, kMostNumber));
+        AddOrder(create, options.order);
         create->add_option("--out", options.out, "The file to append to")
             ->type_name("FILE")
             ->required()
             ->transform(NameOfOutput);
         AddJobs(create, options.jobs);
+    }
+
+    static void AddOrder(CLI::App* create, PuzzleOrder& order) {
+        CLI::Option* const any = create->add_flag_callback(
+            "--any", [&order] { order.oneSolution = false; }, "Keep puzzles with several solutions, too");
+        create
+            ->add_flag_callback(
+                "--unique", [] {}, "Keep only puzzles with exactly one solution; so it is without --any")
+            ->excludes(any);
+        create
+            ->add_option_function<std::string>(
+                "--grade", [&order](const std::string& name) { order.grade = kGrades.at(name); },
+                "Keep only puzzles of this grade")
+            ->type_name("veasy|easy|hard|vhard")
+            ->transform(CLI::IsMember(kGrades, CLI::ignore_case).description(""))
+            ->excludes(any);
+        AddFigures(create, "--density", order.character.density, kDensityRule,
+                   "Islands in every 100 cells; N is give or take 3");
+        AddFigures(create, "--loops", order.character.loops, kLoopsRule, "Bridged pairs of islands beyond a tree");
+        AddFigures(create, "--doubles", order.character.doubles, kDoublesRule,
+                   "Double bridges in every 100 bridged pairs; N is give or take 5");
     }
 
     void AddShow() {
@@ -255,7 +329,8 @@ class Parser {
         CLI::App* const explain =
             Command("explain", "Tell the way to the solution, step by step", wishes_.explain, ExplainPuzzles);
         AddFile(explain, wishes_.explain.file);
-        AddRange(explain, wishes_.explained);
+        AddRange(explain);
+        AddJobs(explain, wishes_.explain.jobs);
 
         CLI::App* const hint =
             Command("hint", "Tell the next step from a position, or what is wrong with it", wishes_.hint, GiveHint);
@@ -309,7 +384,6 @@ class Parser {
             ->check(CLI::Range(1, kMostNumber));
     }
 
-    static constexpr int kDefaultTrials = 1000000;
     static constexpr double kDefaultSeconds = 10;
     static constexpr double kMostSeconds = 1e9;
 
@@ -342,6 +416,9 @@ std::string WhatDoesNotGoTogether(const Wishes& wishes) {
     const bool gridToOutput = wishes.exported.grid == kStandard && wishes.exported.json;
     if ((recordsToOutput && json) || gridToOutput)
         return "there is nothing to report with --json, the output is the result";
+    if (wishes.create.first - 1 > kMostNumber - wishes.create.count) {
+        return "a run has " + std::to_string(kMostNumber) + " puzzles, and --first and --count go beyond them";
+    }
     const std::string disk = DiskAmongOutputs(wishes);
     return disk.empty() ? "" : disk + ": that is a disk, no file to write";
 }
@@ -376,8 +453,8 @@ int RunCommandLine(Console& console, std::vector<std::string> arguments) {
             if (error.get_exit_code() != 0) return WrongUsage(console, error.what());
             return parser.App().exit(error, console.out, console.err);
         }
-        wishes.solve.range = RangeOf(wishes.range).value_or(PuzzleRange{});
-        wishes.explain.range = RangeOf(wishes.explained).value_or(PuzzleRange{});
+        const PuzzleRange range = RangeOf(wishes.range).value_or(PuzzleRange{});
+        wishes.list.range = wishes.solve.range = wishes.check.range = wishes.explain.range = range;
         wishes.hint.played = PositionOf(wishes.laid, wishes.noMore);
         if (const std::string wrong = WhatDoesNotGoTogether(wishes); !wrong.empty()) return WrongUsage(console, wrong);
         return wishes.command(console);

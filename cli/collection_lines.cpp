@@ -10,45 +10,54 @@
 namespace tidewalk {
 
 CollectionLines::CollectionLines(Console& console, const std::string& path)
-    : path_(path), stopSignal_(console.stopSignal), input_(console, path), reader_(input_.Buffer(), path) {}
+    : path_(path),
+      stopSignal_(console.stopSignal),
+      input_(console, path),
+      size_(static_cast<double>(input_.Size())),
+      reader_(input_.Buffer(), path) {}
 
-/// Reads a line, as much of it as a record may have and a byte that shows that it has more.
-bool CollectionLines::ReadLine(std::string& text) {
+/// Reads a line, so many bytes of it at most.
+bool CollectionLines::ReadLine(std::string& text, std::size_t most) {
     const std::uint64_t start = reader_.Position();
     try {
-        return reader_.Next(text, kLongestRecord + 1);
+        return reader_.Next(text, most);
     } catch (const FileError&) {
         if (reader_.Position() - start <= kLongestLine) throw;
         throw FileError(path_ + ": line " + std::to_string(number_ + 1) + " has no end");
     }
 }
 
-bool CollectionLines::Next(NumberedLine& line) {
-    line.text.clear();
+/// The same for the next line that counts.
+bool CollectionLines::TakeLine(std::string& text, std::size_t most) {
+    text.clear();
     if (ended_ || stopSignal_ != 0) return false;
-    const bool read = ReadLine(line.text);
+    const bool read = ReadLine(text, most);
     ended_ = !read || !reader_.LineEnded();
     // A signal in the middle of a line looks like the end of the file.
     if (!read || (ended_ && stopSignal_ != 0)) return false;
-    line.number = ++number_;
-    const auto size = static_cast<double>(input_.Size());
-    line.part = size <= 0 ? -1 : static_cast<double>(reader_.Position()) / size;
+    ++number_;
+    return true;
+}
+
+bool CollectionLines::Next(NumberedLine& line) {
+    // A byte more than a record may have shows that it has more.
+    if (!TakeLine(line.text, kLongestRecord + 1)) return false;
+    line.number = number_;
+    line.part = size_ <= 0 ? -1 : static_cast<double>(reader_.Position()) / size_;
     return true;
 }
 
 bool CollectionLines::NextWithin(const PuzzleRange& range, NumberedLine& line) {
-    while (number_ < range.last && Next(line)) {
-        if (range.Holds(line.number)) return true;
+    while (number_ < range.first - 1) {
+        if (!TakeLine(line.text, 0)) return false;
     }
-    return false;
+    return number_ < range.last && Next(line);
 }
 
 std::optional<Puzzle> ReadOnePuzzle(Console& console, const std::string& path, int number) {
     CollectionLines lines(console, path);
     NumberedLine line;
-    while (lines.Number() < number && lines.Next(line)) {
-    }
-    if (lines.Number() < number) {
+    if (!lines.NextWithin({number, number}, line)) {
         if (!console.Stopped()) SayIfMissing(console, path, {number, number}, lines.Number());
         return std::nullopt;
     }

@@ -33,18 +33,21 @@ class CollectionLines {
     /// when a line does not come to an end.
     bool Next(NumberedLine& line);
 
-    /// Takes the next line whose number the range holds; false when there is none.
+    /// Takes the next line whose number the range holds; false when there is none. The lines before it are passed over
+    /// without a look at them, and none behind the range is read.
     bool NextWithin(const PuzzleRange& range, NumberedLine& line);
 
     /// The number of the last line that was taken.
     int Number() const { return number_; }
 
  private:
-    bool ReadLine(std::string& text);
+    bool ReadLine(std::string& text, std::size_t most);
+    bool TakeLine(std::string& text, std::size_t most);
 
     std::string path_;
     const std::atomic<int>& stopSignal_;
     Input input_;
+    double size_;  ///< of the file in bytes; less than 0 where that is not known
     LineReader reader_;
     int number_ = 0;
     bool ended_ = false;  ///< a terminal would have to be told twice

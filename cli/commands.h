@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/console.h"
+#include "generator/puzzle_order.h"
 #include "model/puzzle_range.h"
 #include "techniques/hint.h"
 
@@ -18,18 +19,20 @@ namespace tidewalk {
 
 struct ListOptions {
     std::string file;
+    PuzzleRange range;
     bool grades = false;
+    int jobs = 1;
     bool json = false;
 };
-/// Prints a line for every puzzle: number, size, islands, bridges and the state of its stored solution; on demand its
-/// grade and number of solutions, too.
+/// Prints a line for each of the puzzles: number, size, islands, bridges and the state of its stored solution; on
+/// demand its grade and number of solutions, too.
 int ListPuzzles(Console& console, const ListOptions& options);
 
 struct SolveOptions {
     std::string file;
     PuzzleRange range;
     std::optional<std::string> out;  ///< where the solved records go
-    int maxTrials = 0;               ///< a puzzle that needs more is given up; 0 is the rules alone
+    std::optional<int> maxTrials;    ///< a puzzle that needs more is given up; 0 is the rules alone
     int jobs = 1;
     bool links = false;
     bool json = false;
@@ -39,31 +42,35 @@ int SolvePuzzles(Console& console, const SolveOptions& options);
 
 struct CheckOptions {
     std::string file;
+    PuzzleRange range;
     double seconds = 0;  ///< the time for counting the solutions of one puzzle; 0 leaves none
     int jobs = 1;
     bool json = false;
 };
-/// Judges the stored bridges of every puzzle and tells whether it has exactly one solution.
+/// Judges the stored bridges of puzzles and tells whether each has exactly one solution.
 int CheckPuzzles(Console& console, const CheckOptions& options);
 
 struct CreateOptions {
     std::string size;
+    int first = 1;  ///< the number of the first puzzle of the run that is made
     int count = 1;
     std::optional<std::uint64_t> seed;
-    bool unique = false;
+    PuzzleOrder order;
     std::string out;
     int jobs = 1;
     bool json = false;
 };
-/// Makes puzzles and appends them to a file.
+/// Makes a part of a run of puzzles and appends them to a file. Puzzle k of a run follows from the seed, k, the size
+/// and the order alone.
 int CreatePuzzles(Console& console, const CreateOptions& options);
 
 struct ExplainOptions {
     std::string file;
     PuzzleRange range;
+    int jobs = 1;
     bool json = false;
 };
-/// Tells the way to the solution of puzzles, step by step.
+/// Tells the way to the solution of each of the puzzles, step by step.
 int ExplainPuzzles(Console& console, const ExplainOptions& options);
 
 struct HintOptions {

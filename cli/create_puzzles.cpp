@@ -13,22 +13,18 @@
 #include "cli/ordered_work.h"
 #include "cli/record_output.h"
 #include "cli/report.h"
-#include "generator/create_puzzle.h"
 #include "generator/grid_size.h"
+#include "generator/puzzle_order.h"
 #include "model/file_error.h"
 #include "model/numbers.h"
 #include "model/puzzle_record.h"
-#include "solver/count_solutions.h"
-#include "solver/valid_solution.h"
 
 namespace tidewalk {
 
 namespace {
 
-/// So many puzzles are made in search of one that is good enough.
-constexpr int kMostTries = 10000;
-
-/// A seed of its own for every try at every puzzle, so that it does not matter which thread makes which.
+/// A seed of its own for every try at every puzzle, so that it does not matter who makes which. What is drawn once for
+/// a puzzle is drawn with that of try 0.
 std::uint64_t SeedOfTry(std::uint64_t base, int number, int attempt) {
     constexpr int kWordBits = 32;
     std::seed_seq sequence{static_cast<std::uint32_t>(base >> kWordBits), static_cast<std::uint32_t>(base),
@@ -58,6 +54,7 @@ class PuzzleMaker {
         : console_(console),
           options_(options),
           size_(size),
+          last_(options.first + options.count - 1),
           seed_(options.seed.value_or(SeedFromClock())),
           mayGoOn_(UntilStopSignal(console)),
           output_(console, options.out),
@@ -68,9 +65,10 @@ class PuzzleMaker {
     int Run() {
         std::vector<SolverBoard> boards(static_cast<std::size_t>(options_.jobs));
         WorkSteps<int, Made> steps;
-        steps.next = [this, last = 0](int& number) mutable {
-            number = ++last;
-            return number <= options_.count && mayGoOn_();
+        steps.next = [this, next = options_.first](int& number) mutable {
+            if (next > last_ || !mayGoOn_()) return false;
+            number = next++;
+            return true;
         };
         steps.work = [&](int worker, int& number) {
             return Made{number, MakeRecord(boards[static_cast<std::size_t>(worker)], number)};
@@ -90,9 +88,11 @@ class PuzzleMaker {
     void Report() const {
         const std::string text = std::to_string(written_) + " of " + std::to_string(options_.count) +
                                  " puzzles written to " + options_.out + ", " + std::to_string(tried_) +
-                                 " tried, seed " + std::to_string(seed_);
+                                 " tried, seed " + std::to_string(seed_) +
+                                 (options_.first == 1 ? "" : ", from its puzzle " + std::to_string(options_.first));
         ReportOnce(console_, options_.json, text,
                    {{"file", options_.out},
+                    {"first", options_.first},
                     {"wanted", options_.count},
                     {"written", written_},
                     {"tried", tried_.load()},
@@ -102,24 +102,22 @@ class PuzzleMaker {
  private:
     struct Made {
         int number = 0;
-        std::string record;  ///< "" for none that was good enough
+        std::string record;  ///< "" for none that was as ordered
     };
 
-    /// Makes puzzles until one is good enough. Any thread may ask for one.
+    /// Makes puzzles until one is as ordered. Any thread may ask for one.
     std::string MakeRecord(SolverBoard& board, int number) {
-        for (int attempt = 1; attempt <= kMostTries && mayGoOn_(); ++attempt) {
+        // Drawn once, so that sizes which fit seldom come as often as others.
+        RandomSource sizes(SeedOfTry(seed_, number, 0));
+        const BoardSize size = SizeOf(size_, sizes);
+        for (int attempt = 1; attempt <= kMostCandidates && mayGoOn_(); ++attempt) {
             RandomSource random(SeedOfTry(seed_, number, attempt));
-            const BoardSize size = SizeOf(size_, random);
-            const CreatedPuzzle created = CreatePuzzle(board, size, random, mayGoOn_);
+            const Candidate candidate = CreateCandidate(board, size, options_.order, random, mayGoOn_);
             if (!mayGoOn_()) break;
             ++tried_;
-            if (created.solved && IsGoodEnough(created.puzzle)) return PuzzleRecord(created.puzzle);
+            if (candidate.fits) return PuzzleRecord(candidate.created.puzzle);
         }
         return "";
-    }
-
-    bool IsGoodEnough(const Puzzle& puzzle) const {
-        return IsValidSolution(puzzle) && (!options_.unique || CountSolutions(puzzle, 2) == 1);
     }
 
     /// Writes what was made; false when the run is to end.
@@ -129,7 +127,7 @@ class PuzzleMaker {
             ++failures_;
             progress_.Hide();
             Say(console_, "puzzle " + std::to_string(made.number) + ": none came out right in " +
-                              std::to_string(kMostTries) + " tries");
+                              std::to_string(kMostCandidates) + " tries");
         } else {
             output_.Add(made.record);
             ++written_;
@@ -147,6 +145,7 @@ class PuzzleMaker {
     Console& console_;
     const CreateOptions& options_;
     WantedSize size_;
+    int last_;  ///< the number of the last puzzle of the run that is made
     std::uint64_t seed_;
     MayGoOn mayGoOn_;
     AppendedRecords output_;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/collection_lines.h"
+#include "cli/collection_run.h"
 #include "cli/commands.h"
 #include "cli/puzzle_facts.h"
 #include "cli/report.h"
@@ -55,8 +56,8 @@ std::string LineOf(const Step& step) {
     return line + ": " + step.text;
 }
 
-/// Adds the way to the solution, a line a step; of a puzzle with several solutions as far as it leads.
-void AddPath(PuzzleReport& report, const Puzzle& puzzle, const MayGoOn& mayGoOn) {
+/// Adds the way to the solution, a line a step or in JSON; of a puzzle with several solutions as far as it leads.
+void AddPath(PuzzleReport& report, const Puzzle& puzzle, bool json, const MayGoOn& mayGoOn) {
     constexpr int kStepWidth = 10;
     const Archipelago board(puzzle);
     const auto found = FindSolutions(board, kSeveral, mayGoOn);
@@ -74,8 +75,11 @@ void AddPath(PuzzleReport& report, const Puzzle& puzzle, const MayGoOn& mayGoOn)
     if (found) assessment.solutions = static_cast<int>(found->size());
     if (solved && found->size() == 1) assessment.score = ScoreOf(efforts);
     AddAssessment(report, assessment);
-    report.fields.emplace_back("solved", solved);
-    report.fields.emplace_back("steps", FieldsOf(board, steps));
+    if (json) {
+        report.fields.emplace_back("solved", solved);
+        report.fields.emplace_back("steps", FieldsOf(board, steps));
+        return;
+    }
     for (std::size_t i = 0; i < steps.size(); ++i)
         report.line += "\n" + Padded(std::to_string(i + 1), kStepWidth) + "  " + LineOf(steps[i]);
 }
@@ -124,19 +128,13 @@ std::string PairOutOfSight(const Archipelago& board, const std::vector<PlayedPai
 }  // namespace
 
 int ExplainPuzzles(Console& console, const ExplainOptions& options) {
-    CollectionLines lines(console, options.file);
-    CollectionReport report(console, options.file, options.json);
-    NumberedLine line;
-    while (lines.NextWithin(options.range, line)) {
-        PuzzleReport puzzleReport;
-        const std::optional<Puzzle> puzzle = BeginReport(line, puzzleReport);
-        if (puzzle) AddPath(puzzleReport, *puzzle, WithinBounds(console));
-        if (!report.Add(puzzleReport)) break;
-    }
-    report.End();
-    if (console.Stopped()) return ExitCodeOf(console, report.Failures());
-    const int missing = SayIfMissing(console, options.file, options.range, lines.Number());
-    return ExitCodeOf(console, report.Failures() + missing);
+    return ReportOnCollection(console, {options.file, options.range, options.jobs, options.json},
+                              [&](const NumberedLine& line) {
+                                  PuzzleReport report;
+                                  const std::optional<Puzzle> puzzle = BeginReport(line, report);
+                                  if (puzzle) AddPath(report, *puzzle, options.json, WithinBounds(console));
+                                  return report;
+                              });
 }
 
 int GiveHint(Console& console, const HintOptions& options) {

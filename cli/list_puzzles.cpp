@@ -2,10 +2,9 @@
 // The command "list".
 #include <optional>
 
-#include "cli/collection_lines.h"
+#include "cli/collection_run.h"
 #include "cli/commands.h"
 #include "cli/puzzle_facts.h"
-#include "cli/report.h"
 
 namespace tidewalk {
 
@@ -39,13 +38,9 @@ PuzzleReport Listed(const NumberedLine& line, bool grades, const MayGoOn& mayGoO
 }  // namespace
 
 int ListPuzzles(Console& console, const ListOptions& options) {
-    CollectionLines lines(console, options.file);
-    CollectionReport report(console, options.file, options.json);
-    NumberedLine line;
-    while (lines.Next(line) && report.Add(Listed(line, options.grades, WithinBounds(console))))
-        report.ShowProgress(line.part, std::to_string(line.number) + " puzzles");
-    report.End();
-    return ExitCodeOf(console, report.Failures());
+    return ReportOnCollection(
+        console, {options.file, options.range, options.jobs, options.json},
+        [&](const NumberedLine& line) { return Listed(line, options.grades, WithinBounds(console)); });
 }
 
 }  // namespace tidewalk

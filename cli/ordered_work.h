@@ -15,23 +15,25 @@
 
 namespace tidewalk {
 
-/// What is to be done with many tasks, and by whom.
+/// What is to be done with many tasks. `take` and `idle` never run at the same time, so that they may share what is
+/// not made for threads.
 template <class Task, class Result>
 struct WorkSteps {
     std::function<bool(Task&)> next;         ///< the next task, or false; asked by one thread at a time
     std::function<Result(int, Task&)> work;  ///< done by any thread, which gives its number, 0..jobs-1
-    std::function<bool(Result&)> take;  ///< called by the caller's thread in the order of the tasks; false ends all
-    std::function<void()> idle;         ///< called by the caller's thread now and then while it waits
+    std::function<bool(Result&)> take;       ///< called by any thread in the order of the tasks; false ends all
+    std::function<void()> idle;              ///< called ten times a second
 };
 
-/// Several threads that work, and the caller's that takes what they have done.
+/// Several threads that work. Each hands on what is due when it has done its part, so that nobody waits to be woken for
+/// a single result.
 template <class Task, class Result>
 class OrderedWork {
  public:
     explicit OrderedWork(WorkSteps<Task, Result> steps) : steps_(std::move(steps)) {}
 
-    /// Runs on so many threads until there is no task or no wish for more. What a step throws ends the work and comes
-    /// through.
+    /// Runs on so many threads until there is no task or no wish for more. What a step throws ends the work, with the
+    /// results before it taken, and comes through.
     void Run(int jobs) {
         constexpr std::size_t kTasksAhead = 64;
         mostAhead_ = kTasksAhead * static_cast<std::size_t>(jobs);
@@ -40,11 +42,10 @@ class OrderedWork {
         try {
             for (int job = 0; job < jobs; ++job)
                 threads.emplace_back([this, job] { WorkOn(job); });
-            TakeAll();
+            WaitForAll();
         } catch (...) {
             EndWith(std::current_exception());
         }
-        EndWith(nullptr);
         for (std::thread& thread : threads)
             thread.join();
         if (thrown_ != nullptr) std::rethrow_exception(thrown_);
@@ -57,16 +58,15 @@ class OrderedWork {
             std::size_t index = 0;
             while (TakeTask(task, index)) {
                 Result result = steps_.work(job, task);
-                const std::lock_guard lock(mutex_);
+                std::unique_lock lock(mutex_);
                 done_.emplace(index, std::move(result));
-                changed_.notify_all();
+                TakeDue(lock);
             }
         } catch (...) {
             EndWith(std::current_exception());
         }
         const std::lock_guard lock(mutex_);
-        --running_;
-        changed_.notify_all();
+        if (--running_ == 0) over_.notify_all();
     }
 
     /// Waits while too many results lie untaken.
@@ -74,33 +74,47 @@ class OrderedWork {
         const std::lock_guard reading(taskMutex_);
         {
             std::unique_lock lock(mutex_);
-            changed_.wait(lock, [this] { return ended_ || started_ < taken_ + mostAhead_; });
+            room_.wait(lock, [this] { return ended_ || started_ < taken_ + mostAhead_; });
             if (ended_) return false;
         }
-        if (!steps_.next(task)) return false;
+        if (!steps_.next(task)) {
+            EndWith(nullptr);
+            return false;
+        }
         const std::lock_guard lock(mutex_);
         index = started_++;
         return true;
     }
 
-    void TakeAll() {
-        for (;;) {
-            std::unique_lock lock(mutex_);
-            const auto found = [this] { return done_.count(taken_) != 0; };
-            while (!found()) {
-                if (running_ == 0 || ended_) return;
-                constexpr std::chrono::milliseconds kIdle(100);
-                changed_.wait_for(lock, kIdle, [&] { return found() || running_ == 0 || ended_; });
-                if (found() || !steps_.idle) continue;
-                lock.unlock();
-                steps_.idle();
-                lock.lock();
-            }
-            Result result = std::move(done_.extract(taken_).mapped());
-            ++taken_;
-            changed_.notify_all();
+    /// Takes the results that are due, unless another thread is at it, which then takes these, too.
+    void TakeDue(std::unique_lock<std::mutex>& lock) {
+        if (taking_) return;
+        taking_ = true;
+        for (auto due = done_.find(taken_); due != done_.end(); due = done_.find(taken_)) {
+            Result result = std::move(done_.extract(due).mapped());
             lock.unlock();
-            if (!steps_.take(result)) return;
+            const bool goOn = steps_.take(result);
+            if (!goOn) EndWith(nullptr);
+            lock.lock();
+            // Nobody takes anything after a refusal, as after a failure: it stays this thread's turn.
+            if (!goOn) return;
+            ++taken_;
+            room_.notify_one();
+        }
+        taking_ = false;
+    }
+
+    void WaitForAll() {
+        constexpr std::chrono::milliseconds kIdle(100);
+        std::unique_lock lock(mutex_);
+        while (!over_.wait_for(lock, kIdle, [this] { return running_ == 0; })) {
+            if (taking_ || !steps_.idle) continue;
+            taking_ = true;
+            lock.unlock();
+            steps_.idle();
+            lock.lock();
+            taking_ = false;
+            TakeDue(lock);
         }
     }
 
@@ -109,7 +123,7 @@ class OrderedWork {
         const std::lock_guard lock(mutex_);
         if (thrown_ == nullptr) thrown_ = std::move(thrown);
         ended_ = true;
-        changed_.notify_all();
+        room_.notify_all();
     }
 
     WorkSteps<Task, Result> steps_;
@@ -117,11 +131,13 @@ class OrderedWork {
 
     std::mutex taskMutex_;  ///< held while `next` is asked, which may wait for input
     std::mutex mutex_;      ///< guards what follows
-    std::condition_variable changed_;
+    std::condition_variable room_;
+    std::condition_variable over_;
     std::map<std::size_t, Result> done_;
     std::size_t started_ = 0;
     std::size_t taken_ = 0;
     int running_ = 0;
+    bool taking_ = false;  ///< a thread is taking results or in `idle`
     bool ended_ = false;
     std::exception_ptr thrown_;
 };

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/puzzle_facts.h"
 
+#include <algorithm>
+
 #include "model/puzzle_record.h"
 #include "solver/difficulty.h"
 #include "solver/valid_solution.h"
@@ -47,8 +49,36 @@ std::optional<Puzzle> BeginReport(const NumberedLine& line, PuzzleReport& report
     return puzzle;
 }
 
+BridgedPairs BridgesOf(const Puzzle& puzzle) {
+    BridgedPairs laid;
+    for (const Link& link : puzzle.LinkList) {
+        if (link.Bridges() > 0) laid[std::minmax<int>(link.first, link.second)] += link.Bridges();
+    }
+    return laid;
+}
+
+BridgedPairs BridgesOf(const Archipelago& board, const SpanBridges& solution) {
+    BridgedPairs laid;
+    for (int span = 0; span < board.SpanCount(); ++span) {
+        const auto& ends = board.SpanAt(span).ends;
+        const int count = solution[static_cast<std::size_t>(span)];
+        if (count > 0) laid[{board.IsleAt(ends[0]).id, board.IsleAt(ends[1]).id}] = count;
+    }
+    return laid;
+}
+
+std::vector<std::string> BridgeTexts(const BridgedPairs& bridges) {
+    std::vector<std::string> texts;
+    texts.reserve(bridges.size());
+    for (const auto& [islands, count] : bridges) {
+        texts.push_back(std::to_string(islands.first) + "-" + std::to_string(islands.second) + ":" +
+                        std::to_string(count));
+    }
+    return texts;
+}
+
 MayGoOn WithinBounds(const Console& console) {
-    constexpr int kMostChoices = 300000;
+    constexpr int kMostChoices = 100000;
     return
         [mayGoOn = UntilStopSignal(console), choices = 0]() mutable { return ++choices <= kMostChoices && mayGoOn(); };
 }

@@ -2,12 +2,17 @@
 // What several commands tell of a puzzle.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "cli/collection_lines.h"
 #include "cli/report.h"
 #include "model/puzzle.h"
+#include "solver/archipelago.h"
+#include "solver/count_solutions.h"
 #include "techniques/grade.h"
 
 namespace tidewalk {
@@ -34,6 +39,15 @@ JsonFields SizeFields(const Puzzle& puzzle);
 /// Reads the puzzle of a line and begins the report on it with its number and size, in columns. A line that is no
 /// record is a fault, and nothing is returned.
 std::optional<Puzzle> BeginReport(const NumberedLine& line, PuzzleReport& report);
+
+/// How many bridges lie between two islands, by their cells, the lower one first; of islands with bridges alone.
+using BridgedPairs = std::map<std::pair<int, int>, int>;
+
+BridgedPairs BridgesOf(const Puzzle& puzzle);
+BridgedPairs BridgesOf(const Archipelago& board, const SpanBridges& solution);
+
+/// The bridges as "id-id:count", in order of the ids.
+std::vector<std::string> BridgeTexts(const BridgedPairs& bridges);
 
 /// Two solutions are several.
 inline constexpr int kSeveral = 2;

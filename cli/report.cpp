@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/report.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <nlohmann/json.hpp>
 
@@ -8,49 +9,59 @@ namespace tidewalk {
 
 namespace {
 
-/// Keeps its keys in the order in which they were added.
-using Json = nlohmann::ordered_json;
+/// Appends values to a JSON text, in one line.
+struct JsonWriter {
+    std::string& text;
 
-Json ObjectOf(const JsonFields& fields);
+    void operator()(std::nullptr_t) const { text += "null"; }
+    void operator()(bool value) const { text += value ? "true" : "false"; }
+    void operator()(double value) const { text += nlohmann::json(value).dump(); }
 
-/// What a field becomes: lists of objects have to be gone through.
-struct ToJson {
-    template <class Value>
-    Json operator()(const Value& value) const {
-        return value;
+    template <class Number>
+    void operator()(Number value) const {
+        text += std::to_string(value);
     }
-    Json operator()(const JsonObjects& objects) const {
-        Json list = Json::array();
-        for (const JsonFields& fields : objects)
-            list.push_back(ObjectOf(fields));
-        return list;
+
+    void operator()(const std::string& value) const {
+        const bool isPlain = std::all_of(value.begin(), value.end(),
+                                         [](char c) { return c >= ' ' && c < '\x7F' && c != '"' && c != '\\'; });
+        if (isPlain) {
+            text.append(1, '"').append(value).append(1, '"');
+        } else {
+            // Bytes that are no UTF-8, as file names may hold, are replaced.
+            text += nlohmann::json(value).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+        }
+    }
+
+    template <class Value>
+    void operator()(const std::vector<Value>& values) const {
+        text += '[';
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            if (i > 0) text += ',';
+            (*this)(values[i]);
+        }
+        text += ']';
+    }
+
+    void operator()(const JsonFields& fields) const {
+        char before = '{';
+        for (const auto& [name, value] : fields) {
+            text.append(1, before).append(1, '"').append(name).append("\":");
+            std::visit(*this, static_cast<const JsonValue::variant&>(value));
+            before = ',';
+        }
+        text += fields.empty() ? "{}" : "}";
     }
 };
 
-void AddFields(Json& object, const JsonFields& fields) {
-    for (const auto& [name, field] : fields)
-        object[name] = std::visit(ToJson(), static_cast<const JsonValue::variant&>(field));
-}
-
-Json ObjectOf(const JsonFields& fields) {
-    Json object = Json::object();
-    AddFields(object, fields);
-    return object;
-}
-
-/// The object in one line. Bytes that are no UTF-8, as file names may hold, are replaced.
-std::string JsonText(const Json& object) {
-    return object.dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
-std::string JsonText(const PuzzleReport& puzzle) {
-    Json object{{"number", puzzle.number}};
-    AddFields(object, puzzle.fields);
-    if (!puzzle.fault.empty()) object["error"] = puzzle.fault;
-    return JsonText(object);
-}
-
 }  // namespace
+
+void PutInJson(PuzzleReport& puzzle) {
+    puzzle.fields.insert(puzzle.fields.begin(), {"number", puzzle.number});
+    if (!puzzle.fault.empty()) puzzle.fields.emplace_back("error", puzzle.fault);
+    puzzle.line.clear();
+    JsonWriter{puzzle.line}(puzzle.fields);
+}
 
 CollectionReport::CollectionReport(Console& console, std::string file, bool json, bool silent)
     : console_(console), file_(std::move(file)), json_(json), silent_(silent), progress_(console, true) {
@@ -67,14 +78,16 @@ bool CollectionReport::Add(const PuzzleReport& puzzle) {
     ++(puzzle.fault.empty() ? successes_ : failures_);
     if (!puzzle.fault.empty()) {
         progress_.Hide();
+        Flush();
         SayOfPuzzle(console_, file_, puzzle.number, puzzle.fault);
     }
     if (silent_) return true;
     if (json_) {
-        console_.out << (first ? "\n" : ",\n") << JsonText(puzzle) << std::flush;
+        console_.out << (first ? "\n" : ",\n") << puzzle.line;
     } else if (!puzzle.line.empty()) {
-        PrintLine(console_, puzzle.line);
+        console_.out << puzzle.line << '\n';
     }
+    if (console_.outIsTerminal) Flush();
     return true;
 }
 
@@ -82,14 +95,15 @@ void CollectionReport::End() {
     if (ended_) return;
     ended_ = true;
     progress_.Hide();
-    if (json_ && !silent_) console_.out << (successes_ + failures_ > 0 ? "\n]\n" : "]\n") << std::flush;
+    if (json_ && !silent_) console_.out << (successes_ + failures_ > 0 ? "\n]\n" : "]\n");
+    Flush();
 }
 
 void ReportOnce(Console& console, bool json, const std::string& text, const JsonFields& fields) {
     if (!json) return PrintLine(console, text);
-    Json object;
-    AddFields(object, fields);
-    PrintLine(console, JsonText(object));
+    std::string line;
+    JsonWriter{line}(fields);
+    PrintLine(console, line);
 }
 
 std::string Padded(const std::string& text, int width) {

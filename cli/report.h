@@ -18,12 +18,13 @@ struct JsonValue;
 /// The names and values of a JSON object, in the order in which they are printed.
 using JsonFields = std::vector<std::pair<std::string, JsonValue>>;
 using JsonObjects = std::vector<JsonFields>;
-/// Lists of numbers in a list.
+/// Lists in a list.
 using JsonNumbers = std::vector<std::vector<int>>;
+using JsonTexts = std::vector<std::vector<std::string>>;
 
 /// The values that a JSON object may have here.
 struct JsonValue : std::variant<std::nullptr_t, bool, std::int64_t, std::uint64_t, double, std::string,
-                                std::vector<std::string>, std::vector<int>, JsonNumbers, JsonObjects> {
+                                std::vector<std::string>, std::vector<int>, JsonNumbers, JsonTexts, JsonObjects> {
     using variant::variant;
 };
 
@@ -36,8 +37,15 @@ struct PuzzleReport {
     JsonFields fields;  ///< but for the number and the fault
 };
 
+/// Makes the report's line a JSON object of its number, its fields and its fault. It takes a while, so whoever works on
+/// the puzzle does it, on any thread.
+void PutInJson(PuzzleReport& puzzle);
+
 /// The report on the puzzles of a collection: a line each, or one JSON array. Whatever ends it, what was printed is
 /// whole. What is wrong with a puzzle becomes a message, too.
+///
+/// Lines are handed on in batches: at the latest when `Flush` is called, and at once where they go to a terminal or a
+/// message follows.
 class CollectionReport {
  public:
     /// `silent` prints messages alone, for commands whose results are records on the standard output.
@@ -46,8 +54,12 @@ class CollectionReport {
     CollectionReport(const CollectionReport&) = delete;
     CollectionReport& operator=(const CollectionReport&) = delete;
 
-    /// Reports on the next puzzle; false, with nothing reported, when the run is to end.
+    /// Reports on the next puzzle, with `PutInJson` done where the report is in JSON; false, with nothing reported,
+    /// when the run is to end.
     bool Add(const PuzzleReport& puzzle);
+
+    /// Hands on what was added.
+    void Flush() { console_.out << std::flush; }
 
     /// Shows how far the run is, with a text about what was done, where the report itself does not.
     void ShowProgress(double part, const std::string& text) { progress_.Show(part, text); }

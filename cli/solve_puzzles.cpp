@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <map>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -39,8 +38,15 @@ struct SolvedLine {
     bool cutShort = false;  ///< without its bridges between touching islands
 };
 
+/// Why the puzzle was not solved, within the bound that was given.
+std::string FailureOf(SolveEnd end, const std::optional<int>& maxTrials) {
+    if (maxTrials == 0) return "the rules alone do not solve it";
+    if (end == SolveEnd::GivenUp && maxTrials) return "given up after " + std::to_string(*maxTrials) + " trials";
+    return end == SolveEnd::NoSolution ? "there is no solution" : "no solution was found";
+}
+
 /// Solves the puzzle on `board`, whatever that held before.
-Outcome Solve(SolverBoard& board, const Puzzle& puzzle, int maxTrials, const MayGoOn& mayGoOn) {
+Outcome Solve(SolverBoard& board, const Puzzle& puzzle, const std::optional<int>& maxTrials, const MayGoOn& mayGoOn) {
     Outcome outcome;
     if (puzzle.IslandCount() == 0) {
         outcome.failure = "the puzzle has no islands";
@@ -48,41 +54,22 @@ Outcome Solve(SolverBoard& board, const Puzzle& puzzle, int maxTrials, const May
     }
     board.Reset(puzzle);
     // The search stops at its bound, so one more than may be tried.
-    const SolveResult result = SolvePuzzle(board, {maxTrials, maxTrials + 1}, mayGoOn);
-    outcome.trials = std::min(result.trials, maxTrials);
+    const SolveBounds bounds = maxTrials ? SolveBounds{*maxTrials, *maxTrials + 1} : SolveBounds{};
+    const SolveResult result = SolvePuzzle(board, bounds, mayGoOn);
+    outcome.trials = std::min(result.trials, maxTrials.value_or(result.trials));
     outcome.solution = PuzzleOf(board);
-    if (result.Solved() && CheckLinkTotals(outcome.solution)) return outcome;
-    if (maxTrials == 0) {
-        outcome.failure = "the rules alone do not solve it";
-    } else if (result.trials <= maxTrials) {
-        outcome.failure = "no solution was found";
-    } else {
-        outcome.failure = "given up after " + std::to_string(maxTrials) + " trials";
-    }
+    const bool solved = result.Solved() && CheckLinkTotals(outcome.solution);
+    if (!solved) outcome.failure = FailureOf(result.end, maxTrials);
     return outcome;
 }
 
-Outcome TimedSolve(SolverBoard& board, const Puzzle& puzzle, int maxTrials, const MayGoOn& mayGoOn) {
+Outcome TimedSolve(SolverBoard& board, const Puzzle& puzzle, const std::optional<int>& maxTrials,
+                   const MayGoOn& mayGoOn) {
     using Clock = std::chrono::steady_clock;
     const auto start = Clock::now();
     Outcome outcome = Solve(board, puzzle, maxTrials, mayGoOn);
     outcome.milliseconds = std::chrono::duration<double, std::milli>(Clock::now() - start).count();
     return outcome;
-}
-
-/// The laid bridges as "id-id:count", in order of the ids.
-std::vector<std::string> BridgeTexts(const Puzzle& puzzle) {
-    std::map<std::pair<int, int>, int> laid;
-    for (const Link& link : puzzle.LinkList) {
-        if (link.Bridges() > 0) laid[std::minmax<int>(link.first, link.second)] += link.Bridges();
-    }
-    std::vector<std::string> texts;
-    texts.reserve(laid.size());
-    for (const auto& [islands, count] : laid) {
-        texts.push_back(std::to_string(islands.first) + "-" + std::to_string(islands.second) + ":" +
-                        std::to_string(count));
-    }
-    return texts;
 }
 
 /// The grade's name, or "-".
@@ -110,7 +97,7 @@ std::string OutcomeText(const Outcome& outcome, const std::vector<std::string>& 
 /// Adds what came of the puzzle; with `links`, the bridges too.
 void AddOutcome(PuzzleReport& report, const Outcome& outcome, bool links) {
     const bool solved = outcome.failure.empty();
-    const auto bridges = solved && links ? BridgeTexts(outcome.solution) : std::vector<std::string>();
+    const auto bridges = solved && links ? BridgeTexts(BridgesOf(outcome.solution)) : std::vector<std::string>();
     report.fault = outcome.failure;
     report.line += "  " + OutcomeText(outcome, bridges);
     report.fields.emplace_back("solved", solved);
@@ -120,19 +107,16 @@ void AddOutcome(PuzzleReport& report, const Outcome& outcome, bool links) {
     if (solved && links) report.fields.emplace_back("links", bridges);
 }
 
-SolvedLine SolveLine(const Console& console, SolverBoard& board, const NumberedLine& line,
-                     const SolveOptions& options) {
-    SolvedLine solved;
-    const std::optional<Puzzle> puzzle = BeginReport(line, solved.report);
-    if (!puzzle) return solved;
-    Outcome outcome = TimedSolve(board, *puzzle, options.maxTrials, UntilStopSignal(console));
-    if (outcome.failure.empty()) outcome.score = AssessPuzzle(*puzzle, WithinBounds(console)).score;
+/// Solves the puzzle of a line, which the report has begun with.
+void SolveLine(const Console& console, SolverBoard& board, const Puzzle& puzzle, const SolveOptions& options,
+               SolvedLine& solved) {
+    Outcome outcome = TimedSolve(board, puzzle, options.maxTrials, UntilStopSignal(console));
+    if (outcome.failure.empty()) outcome.score = AssessPuzzle(puzzle, WithinBounds(console)).score;
     AddOutcome(solved.report, outcome, options.links);
     if (options.out && outcome.failure.empty()) {
         solved.record = PuzzleRecord(outcome.solution);
         solved.cutShort = !RecordHoldsBridges(outcome.solution);
     }
-    return solved;
 }
 
 /// Solves the lines on so many threads; solved records go to `output`.
@@ -142,16 +126,24 @@ void SolveAll(Console& console, const SolveOptions& options, CollectionLines& li
     WorkSteps<NumberedLine, SolvedLine> steps;
     steps.next = [&](NumberedLine& line) { return lines.NextWithin(options.range, line); };
     steps.work = [&](int worker, NumberedLine& line) {
-        return SolveLine(console, boards[static_cast<std::size_t>(worker)], line, options);
+        SolvedLine solved;
+        const std::optional<Puzzle> puzzle = BeginReport(line, solved.report);
+        if (puzzle) SolveLine(console, boards[static_cast<std::size_t>(worker)], *puzzle, options, solved);
+        if (options.json) PutInJson(solved.report);
+        return solved;
     };
     steps.take = [&](SolvedLine& solved) {
         if (!report.Add(solved.report)) return false;
         if (solved.report.fault.empty()) output.Add(solved.record);
-        if (solved.cutShort) SayOfPuzzle(console, options.file, solved.report.number, kCutShort);
+        if (solved.cutShort) {
+            report.Flush();
+            SayOfPuzzle(console, options.file, solved.report.number, kCutShort);
+        }
         report.ShowProgress(solved.report.part, std::to_string(report.Successes()) + " solved, " +
                                                     std::to_string(report.Failures()) + " not");
         return true;
     };
+    steps.idle = [&] { report.Flush(); };
     OrderedWork<NumberedLine, SolvedLine>(std::move(steps)).Run(options.jobs);
 }
 

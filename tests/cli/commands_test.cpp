@@ -2,12 +2,14 @@
 // The commands, driven by their arguments.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <random>
 #include <sstream>
 
 #include "cli/arguments.h"
 #include "model/puzzle_range.h"
+#include "model/puzzle_record.h"
 #include "support/board_text.h"
 #include "support/temp_folder.h"
 
@@ -68,6 +70,10 @@ TEST_F(Cli, ListTellsTheStateOfTheStoredBridges) {
               "     3    3x3    4 islands    0 bridges  solution none\n"
               "     4    3x3    4 islands    4 bridges  solution wrong\n");
     EXPECT_EQ(err_, "tidewalk-cli: " + file + ": puzzle 2: the line is no puzzle record\n");
+    EXPECT_EQ(Run({"list", file, "3-3", "--jobs", "2"}), 0) << "nobody looks at the lines before";
+    EXPECT_EQ(out_, "     3    3x3    4 islands    0 bridges  solution none\n");
+    EXPECT_EQ(Run({"list", file, "4-5"}), 1);
+    EXPECT_EQ(err_, "tidewalk-cli: " + file + ": puzzle 5: there is no such puzzle, the last one is 4\n");
     const json listed = RunJson({"list", file});
     ASSERT_EQ(listed.size(), 4U);
     EXPECT_EQ(listed[1]["error"], "the line is no puzzle record");
@@ -131,21 +137,58 @@ TEST_F(Cli, CheckCountsExactlyAndNeverGuesses) {
               "     4    3x3  stored none   solutions none\n"
               "     5    3x5  stored none   solutions several\n");
     EXPECT_EQ(Run({"check", File("good.txt", {kRing, kRingWithout})}), 0);
-    const json checked = RunJson({"check", File("s.txt", {kSeveral}), "--seconds", "0"});
+    json checked = RunJson({"check", file, "4-5"});
+    EXPECT_FALSE(checked[0].contains("different"));
+    EXPECT_EQ(checked[1]["different"], json({{"1-3:1", "1-11:2", "3-5:1", "3-13:1", "5-15:1", "11-13:1", "13-15:1"},
+                                             {"1-3:2", "1-11:1", "3-5:1", "5-15:1", "11-13:2", "13-15:1"}}));
+    checked = RunJson({"check", File("s.txt", {kSeveral}), "--seconds", "0"});
     EXPECT_EQ(checked[0]["solutions"], "undecided");
     EXPECT_EQ(checked[0]["unique"], nullptr);
+    EXPECT_FALSE(checked[0].contains("different"));
 }
 
-TEST_F(Cli, JobsDoNotChangeWhatIsMade) {
-    for (const char* const size : {"9", "random"}) {
-        for (const char* const jobs : {"1", "3"}) {
-            ASSERT_EQ(Run({"create", size, "--count", "20", "--seed", "5", "--unique", "--jobs", jobs, "--out",
-                           folder_.Path(std::string(size) + jobs)}),
-                      0);
-        }
-        EXPECT_EQ(folder_.Read(size + std::string("1")), folder_.Read(size + std::string("3")));
-        EXPECT_EQ(Run({"check", folder_.Path(size + std::string("1")), "--jobs", "2"}), 0) << "all are unique";
+TEST_F(Cli, PartsOfARunAreTheRun) {
+    const std::vector<Words> orders{
+        {"random", "--unique"}, {"9", "--any", "--doubles", "50-"}, {"8", "--grade", "Hard", "--loops", "1-9"}};
+    for (const Words& order : orders) {
+        const std::string name = ::testing::PrintToString(order);
+        const auto made = [&](const std::string& first, const std::string& count, const std::string& jobs) {
+            Words words{"create", "--seed", "5", "--first", first, "--count", count, "--jobs", jobs, "--out", "-"};
+            words.insert(words.end(), order.begin(), order.end());
+            EXPECT_EQ(Run(words), 0) << name << err_;
+            return out_;
+        };
+        const std::string whole = made("1", "12", "1");
+        EXPECT_EQ(made("1", "5", "3") + made("6", "7", "2"), whole) << name;
+        EXPECT_EQ(Run({"check", "-"}, whole), order[1] == "--any" ? 1 : 0) << name << " are unique";
+        made("2147483646", "1", "1");
     }
+}
+
+TEST_F(Cli, CreateKeepsWhatIsOrdered) {
+    const Words order{"create",  "12", "--count",   "4",     "--seed", "2",         "--out", "-",
+                      "--loops", "3",  "--density", "15-19", "--any",  "--doubles", "40"};
+    ASSERT_EQ(Run(order), 0) << err_;
+    std::istringstream records(out_);
+    for (std::string record; std::getline(records, record);) {
+        record.pop_back();
+        const Puzzle puzzle = ParsePuzzleRecord(record).value();
+        EXPECT_EQ(puzzle.LinkCount() - puzzle.IslandCount() + 1, 3);
+        EXPECT_NEAR(puzzle.IslandCount() / 1.44, 17, 2);
+        const auto isDouble = [](const Link& link) { return link.Bridges() == 2; };
+        const auto doubles = std::count_if(puzzle.LinkList.begin(), puzzle.LinkList.end(), isDouble);
+        EXPECT_NEAR(100.0 * static_cast<double>(doubles) / puzzle.LinkCount(), 40, 5);
+    }
+    ASSERT_EQ(Run({"create", "8", "--grade", "veasy", "--seed", "1", "--out", folder_.Path("v")}), 0);
+    EXPECT_EQ(RunJson({"list", folder_.Path("v"), "--grades"})[0]["grade"], "VEasy");
+    const json report =
+        RunJson({"create", "7", "--first", "9", "--seed", "1", "--loops", "99", "--out", folder_.Path("no")});
+    EXPECT_EQ(err_, "tidewalk-cli: puzzle 9: none came out right in 10000 tries\n");
+    EXPECT_EQ(report["tried"], 10000);
+}
+
+TEST_F(Cli, CreateAppendsPuzzlesOfAnySize) {
+    ASSERT_EQ(Run({"create", "9", "--out", folder_.Path("91")}), 0);
     const std::string before = folder_.Read("91");
     ASSERT_EQ(Run({"create", "7X10", "--out", folder_.Path("91")}), 0);
     EXPECT_TRUE(folder_.Read("91").starts_with(before + " 7, 10,")) << "it is appended";
@@ -228,6 +271,14 @@ TEST_F(Cli, WrongUsageIsTold) {
                                    {"delete", folder_.Path(""), "1"},
                                    {"create", "9", "--out", file, "--seed", "-1"},
                                    {"create", "9", "--out", file, "--seed", "18446744073709551616"},
+                                   {"create", "9", "--out", file, "--any", "--unique"},
+                                   {"create", "9", "--out", file, "--any", "--grade", "easy"},
+                                   {"create", "9", "--out", file, "--grade", "harder"},
+                                   {"create", "9", "--out", file, "--density", "101"},
+                                   {"create", "9", "--out", file, "--doubles", "30-20"},
+                                   {"create", "9", "--out", file, "--loops", "-3"},
+                                   {"create", "9", "--out", file, "--loops", "3-5-"},
+                                   {"create", "9", "--out", file, "--first", "2147483646", "--count", "2"},
                                    {"check", file, "--seconds", "nan"},
                                    {"check", file, "--seconds", "-1"}};
     for (const Words& arguments : wrong) {

@@ -59,5 +59,17 @@ TEST(OrderedWork, WhatAnyStepThrowsComesThrough) {
     }
 }
 
+TEST(OrderedWork, WhatWasBegunBeforeAFailureIsTaken) {
+    std::vector<int> taken;
+    auto steps = Squares(100, taken);
+    steps.next = [next = steps.next](int& task) {
+        const bool more = next(task);
+        if (task == 49) throw std::runtime_error("unreadable");
+        return more;
+    };
+    EXPECT_THROW((OrderedWork<int, int>(std::move(steps)).Run(3)), std::runtime_error);
+    EXPECT_EQ(taken.size(), 49U);
+}
+
 }  // namespace
 }  // namespace tidewalk::test

@@ -45,6 +45,9 @@ pipes() {
     [ "$(cat code)" -eq 141 ] || fail "a closed pipe gave $(cat code)"
     [ ! -s messages ] || fail "a closed pipe gave messages"
     [ "$(wc -l <lines)" -eq 3 ] || fail "what was read is not whole"
+    # Nothing behind a range is read.
+    yes "$record" | timeout 60 "$program" check - 2-4 --jobs 2 >lines || fail "a part of an endless input gave $?"
+    [ "$(wc -l <lines)" -eq 3 ] || fail "a part of an endless input has $(wc -l <lines) lines"
 }
 
 signals() {
