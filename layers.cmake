@@ -47,7 +47,9 @@ tidewalk_layer(techniques ON solver FILES
     techniques/sentences techniques/supposing)
 
 tidewalk_layer(generator ON techniques FILES
-    generator/create_puzzle generator/grid_size generator/grow generator/puzzle_order generator/shuffle_lines)
+    generator/add_islands generator/character generator/character_choices generator/create_puzzle
+    generator/fit_figures generator/grid_size generator/grow generator/ordered_layout generator/puzzle_order
+    generator/refine generator/shuffle_lines generator/solved_layout)
 
 # The picture of a puzzle on any surface, and the board with what the player has done on it: on values, too.
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-// How long it takes to create a puzzle, to grow a layout alone, and to count a puzzle's solutions.
+// How long it takes to create a puzzle, plain or to order, to grow a layout alone, and to count a puzzle's solutions.
 #include <benchmark/benchmark.h>
+
+#include <cstdint>
 
 #include "generator/create_puzzle.h"
 #include "generator/grow.h"
+#include "generator/puzzle_order.h"
 #include "solver/count_solutions.h"
 
 namespace tidewalk::bench {
@@ -23,6 +26,41 @@ void Create(benchmark::State& state) {
     state.counters["failed"] = failures;
 }
 BENCHMARK(Create)->Arg(7)->Arg(15)->Arg(25)->Unit(benchmark::kMicrosecond);
+
+/// Makes candidates until one is what was ordered.
+void CreateToOrder(benchmark::State& state, const PuzzleOrder& order) {
+    RandomSource random(1);
+    SolverBoard board;
+    std::int64_t candidates = 0;
+    for (auto _ : state) {
+        bool fits = false;
+        while (!fits) {
+            fits = CreateCandidate(board, Square(state), order, random, WithoutEnd).fits;
+            ++candidates;
+        }
+    }
+    state.counters["candidates"] =
+        benchmark::Counter(static_cast<double>(candidates), benchmark::Counter::kAvgIterations);
+}
+
+void CreateOne(benchmark::State& state) {
+    CreateToOrder(state, {});
+}
+BENCHMARK(CreateOne)->Arg(25)->Unit(benchmark::kMillisecond);
+
+void CreateGrade(benchmark::State& state, Grade grade) {
+    CreateToOrder(state, {true, grade, {}});
+}
+BENCHMARK_CAPTURE(CreateGrade, VEasy, Grade::VEasy)->Arg(7)->Arg(25)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CreateGrade, Easy, Grade::Easy)->Arg(7)->Arg(25)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CreateGrade, Hard, Grade::Hard)->Arg(7)->Arg(25)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(CreateGrade, VHard, Grade::VHard)->Arg(7)->Arg(25)->Unit(benchmark::kMillisecond);
+
+/// Puzzles as they are published: an island on every third cell, loops, three bridges in ten double.
+void CreateCharacter(benchmark::State& state) {
+    CreateToOrder(state, {true, {}, {Figures{30, 36}, Figures{.least = 1}, Figures{24, 34}}});
+}
+BENCHMARK(CreateCharacter)->Arg(10)->Arg(17)->Arg(25)->Unit(benchmark::kMillisecond);
 
 void Grow(benchmark::State& state) {
     RandomSource random(1);

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "generator/puzzle_order.h"
 
-#include <cstdint>
-
+#include "generator/ordered_layout.h"
 #include "solver/count_solutions.h"
 #include "solver/valid_solution.h"
 #include "techniques/grade.h"
@@ -10,13 +9,6 @@
 namespace tidewalk {
 
 namespace {
-
-/// Whether `part` is as many hundredths of `whole` as the figures allow, without rounding.
-bool HoldsHundredths(const std::optional<Figures>& figures, int part, int whole) {
-    constexpr std::int64_t kHundred = 100;
-    return !figures || (figures->least * std::int64_t{whole} <= part * kHundred &&
-                        part * kHundred <= figures->most * std::int64_t{whole});
-}
 
 /// Whether the puzzle and its bridges are of this character.
 bool IsOfCharacter(const Character& character, const Puzzle& solved) {
@@ -28,15 +20,16 @@ bool IsOfCharacter(const Character& character, const Puzzle& solved) {
     }
     const int islands = solved.IslandCount();
     const int loops = pairs - (islands - 1);
-    return HoldsHundredths(character.density, islands, solved.CellCount()) &&
-           (!character.loops || (character.loops->least <= loops && loops <= character.loops->most)) &&
-           HoldsHundredths(character.doubles, doubles, pairs);
+    return (!character.density || PartsOf(*character.density, solved.CellCount()).Hold(islands)) &&
+           (!character.loops || character.loops->Hold(loops)) &&
+           (!character.doubles || PartsOf(*character.doubles, pairs).Hold(doubles));
 }
 
 }  // namespace
 
 bool IsAsOrdered(const PuzzleOrder& order, const Puzzle& solved, const MayGoOn& mayGoOn) {
-    if (!IsValidSolution(solved) || !IsOfCharacter(order.character, solved)) return false;
+    if (!IsValidSolution(solved) || solved.IslandCount() < FewestIslands(solved.Size())) return false;
+    if (!IsOfCharacter(order.character, solved)) return false;
     if (!order.oneSolution && !order.grade) return true;
     const Archipelago board(solved);
     const auto found = FindSolutions(board, 2, mayGoOn);
@@ -48,7 +41,8 @@ bool IsAsOrdered(const PuzzleOrder& order, const Puzzle& solved, const MayGoOn& 
 
 Candidate CreateCandidate(SolverBoard& board, BoardSize size, const PuzzleOrder& order, RandomSource& random,
                           const MayGoOn& mayGoOn) {
-    Candidate candidate{CreatePuzzle(board, size, random, mayGoOn)};
+    Candidate candidate{NeedsOrderedLayout(order) ? CreateOrdered(board, size, order, random, mayGoOn)
+                                                  : CreatePuzzle(board, size, random, mayGoOn)};
     candidate.fits = candidate.created.solved && mayGoOn() && IsAsOrdered(order, candidate.created.puzzle, mayGoOn);
     return candidate;
 }

@@ -2,30 +2,13 @@
 // What a puzzle that is to be made should be like.
 #pragma once
 
-#include <limits>
 #include <optional>
 
+#include "generator/character.h"
 #include "generator/create_puzzle.h"
 #include "solver/difficulty.h"
 
 namespace tidewalk {
-
-/// Whole numbers from `least` to `most`.
-struct Figures {
-    int least = 0;
-    int most = std::numeric_limits<int>::max();
-
-    bool operator==(const Figures&) const = default;
-};
-
-/// How a puzzle looks; what is not set is as it grows.
-struct Character {
-    std::optional<Figures> density;  ///< islands in every hundred cells
-    std::optional<Figures> loops;    ///< bridged pairs beyond those of a tree of as many islands
-    std::optional<Figures> doubles;  ///< double bridges in every hundred bridged pairs
-
-    bool operator==(const Character&) const = default;
-};
 
 /// What is asked of a new puzzle.
 struct PuzzleOrder {
@@ -36,8 +19,8 @@ struct PuzzleOrder {
     bool operator==(const PuzzleOrder&) const = default;
 };
 
-/// True when the puzzle, which holds its solution, is what was ordered. False too when `mayGoOn` said no before that
-/// was known.
+/// True when the puzzle, which holds its solution, is what was ordered and has no fewer islands than `FewestIslands`
+/// says, which holds for every order. False too when `mayGoOn` said no before that was known.
 bool IsAsOrdered(const PuzzleOrder& order, const Puzzle& solved, const MayGoOn& mayGoOn);
 
 /// A puzzle that was made to see whether it is what was ordered.
@@ -51,6 +34,9 @@ inline constexpr int kMostCandidates = 10000;
 
 /// Makes one candidate of this size, each side 7..25, on `board`, whatever that held before. It depends on the size,
 /// the order and the draws alone. When `mayGoOn` says no, it does not fit.
+///
+/// What simply grows is judged as it is; for a character, or the hardest grade, a layout is changed until it is what
+/// was ordered, with a bound on the changes. Of an order that `CanBeOrdered` says no to none ever fits.
 Candidate CreateCandidate(SolverBoard& board, BoardSize size, const PuzzleOrder& order, RandomSource& random,
                           const MayGoOn& mayGoOn);
 
