@@ -63,7 +63,7 @@ tidewalk_layer(board ON drawing FILES
 # The game: what the window's handlers share, and the seams to the world.
 
 tidewalk_layer(game ON board generator FILES
-    game/background game/choices game/clock game/file_work game/game game/guidance game/job game/job_state game/list_box game/main_window game/messages game/output game/pick_file
+    game/background game/choices game/clock game/file_work game/game game/guidance game/job game/job_state game/list_box game/main_window game/messages game/order_choices game/output game/pick_file
     game/questions)
 
 # The handlers of menus, buttons, mouse and keys, each beside its subject.
@@ -74,7 +74,7 @@ tidewalk_layer(commands ON game FILES
     model/collection_commands model/configuration model/import_grid model/load_puzzle model/navigation
     model/number_grid
     options/colour_scheme options/options_form options/window_colours
-    solver/auto_solve
+    solver/auto_solve solver/show_solutions
     techniques/assess_board techniques/explain_board techniques/give_hint techniques/show_guide)
 
 # The start and the end of a run.

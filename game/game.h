@@ -15,6 +15,7 @@
 #include "game/messages.h"
 #include "game/output.h"
 #include "game/questions.h"
+#include "generator/puzzle_order.h"
 #include "model/random_source.h"
 #include "options/options.h"
 
@@ -68,11 +69,12 @@ struct Game : Seams {
     ListBox List1{ListBox::Order::Sorted};   ///< the island status list, or the lines of the last check
     ListBox List2{ListBox::Order::AsAdded};  ///< the open choice points of the trial search
 
-    std::string AppFolder;         ///< the program's folder, with a separator at its end
-    std::string ColourListPath;    ///< "all.col" in it
-    std::string SolutionTempPath;  ///< "TempPuzzleSolFile.tdw" in it
-    int windowNumber = 1;          ///< which of the windows in the same program folder this is, from 1
-    std::string printerName;       ///< the printer that was chosen last, "" for the system's own choice
+    std::string AppFolder;                 ///< the program's folder, with a separator at its end
+    std::string ColourListPath;            ///< "all.col" in it
+    std::string SolutionTempPath;          ///< "TempPuzzleSolFile.tdw" in it
+    int mostCandidates = kMostCandidates;  ///< so many are made in search of one puzzle at most
+    int windowNumber = 1;                  ///< which of the windows in the same program folder this is, from 1
+    std::string printerName;               ///< the printer that was chosen last, "" for the system's own choice
 };
 
 }  // namespace tidewalk

@@ -43,12 +43,24 @@ Job::~Job() {
     game_.window.SetProgress(0, 0);
 }
 
-MayGoOn Watched(Game& game, const SolverBoard& board) {
-    return [&game, &board] {
+MayGoOn Watched(Game& game, const SolverBoard& board, std::function<void()> show) {
+    return [&game, &board, show = std::move(show)] {
         if (game.job.PollIsDue(game.clock.Milliseconds())) {
             ShowWorkLists(game, board);
+            show();
             LetEventsThrough(game);
         }
+        return !game.job.MustStop();
+    };
+}
+
+MayGoOn Watched(Game& game, const SolverBoard& board) {
+    return Watched(game, board, [] {});
+}
+
+MayGoOn Watched(Game& game) {
+    return [&game] {
+        PollEvents(game);
         return !game.job.MustStop();
     };
 }

@@ -2,6 +2,7 @@
 // Long jobs: staying out of each other's way, letting events through, stopping when asked.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "game/game.h"
@@ -43,8 +44,13 @@ class Job {
 };
 
 /// What the engine is to ask while it works on `board` in the running job: lets events happen when that is due, with
-/// the board's work lists in `List1` and `List2`, and says no once the job has to stop. Both have to live as long.
+/// the board's work lists in `List1` and `List2` and what `show` shows, and says no once the job has to stop. Both have
+/// to live as long.
+MayGoOn Watched(Game& game, const SolverBoard& board, std::function<void()> show);
 MayGoOn Watched(Game& game, const SolverBoard& board);
+
+/// The same for work that has no work lists.
+MayGoOn Watched(Game& game);
 
 /// Fills `List1` with the islands that need bridges and `List2` with the open choice points.
 void ShowWorkLists(Game& game, const SolverBoard& board);

@@ -9,7 +9,15 @@
 namespace tidewalk {
 
 /// The texts of the main window that the game writes or reads.
-enum class WindowText { Status, PuzzleNumber, PuzzleCount, CollectionName, BoardSize, Assessment };
+enum class WindowText {
+    Status,
+    PuzzleNumber,
+    PuzzleCount,
+    CollectionName,
+    BoardSize,
+    Assessment,
+    Tried  ///< how many were made in search of a puzzle that is as ordered
+};
 
 enum class MouseButton { Left, Right, Middle };
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The seams of what is asked in windows of its own: a file, a batch, a range to print.
+// The seams of what is asked or shown in windows of its own: a file, a batch, a range to print, solutions.
 #pragma once
 
 #include <string>
 #include <vector>
+
+#include "game/order_choices.h"
+#include "model/puzzle.h"
 
 namespace tidewalk {
 
@@ -28,12 +31,13 @@ class FilePicker {
     virtual std::string Pick(const FileRequest& request) = 0;
 };
 
-/// A batch of new puzzles: the texts as they were typed.
+/// A batch of new puzzles: the texts as they were typed, and what was chosen.
 struct BatchRequest {
     std::string count;
     std::string rows;
     std::string cols;
     std::string outputFile;
+    OrderChoice order = {};
 };
 
 /// Puzzles of a collection to print, as far as the player has come with saying which.
@@ -46,16 +50,34 @@ struct PrintRequest {
     std::string printer;                ///< the chosen one
 };
 
+/// Two islands between which two solutions have different bridges.
+struct Difference {
+    CellNumber a = 0;
+    CellNumber b = 0;
+    std::string text;  ///< where that is, and which bridges lie there in either
+};
+
+/// Solutions of a puzzle to look at.
+struct FoundSolutions {
+    std::string caption;                  ///< what there is to be said of them
+    std::vector<Puzzle> solutions;        ///< one, or two different ones: the puzzle with the bridges as links
+    std::vector<Difference> differences;  ///< none with one solution
+};
+
 /// The windows that a command waits for.
 class Questions {
  public:
     virtual ~Questions() = default;
 
-    /// Asks for a batch of new puzzles. True when OK was accepted; `request` then holds what was typed.
+    /// Asks for a batch of new puzzles, with the order in `request` to begin with. True when OK was accepted; `request`
+    /// then holds what was typed.
     virtual bool AskBatch(BatchRequest& request) = 0;
 
     /// Asks for puzzles to print, beginning with `request`. True when OK was accepted.
     virtual bool AskPrint(PrintRequest& request) = 0;
+
+    /// Shows solutions until the player has seen enough.
+    virtual void ShowSolutions(const FoundSolutions& found) = 0;
 };
 
 }  // namespace tidewalk

@@ -24,7 +24,8 @@ constexpr const char* kJobName = "The batch";
 /// A batch to make.
 struct Batch {
     int count;
-    std::string path;                                   ///< the file that the puzzles are appended to
+    std::string path;  ///< the file that the puzzles are appended to
+    OrderChoice order;
     std::function<BoardSize()> sizeOfNext;              ///< asked once for every puzzle
     std::function<std::string(int, BoardSize)> status;  ///< the status line for the puzzle of that number
 };
@@ -47,19 +48,20 @@ class FrozenBoard {
     Game& game_;
 };
 
-/// Makes one puzzle of the size, again from the start when another puzzle was loaded in the middle.
-Puzzle CreateInBatch(Game& game, Job& job, BoardSize size) {
+/// Makes one puzzle of the size, again from the start when another puzzle was loaded in the middle. The record of a
+/// failure holds the last one that was tried, which may be a layout without bridges.
+Candidate CreateInBatch(Game& game, Job& job, BoardSize size, const PuzzleOrder& order) {
     for (;;) {
         job.Adopt();
-        CreatedPuzzle created = CreateInJob(game, size);
-        // Whether it was solved is not asked: the record of a failure holds its last layout.
-        if (!game.job.Superseded() || game.job.Ending()) return std::move(created.puzzle);
+        LastCandidate last = CreateInJob(game, size, order);
+        if (!game.job.Superseded() || game.job.Ending()) return std::move(last.candidate);
     }
 }
 
 /// What came of a batch.
 struct BatchResult {
     int written = 0;
+    int lacking = 0;       ///< of those that are written: not what was asked for
     std::string failure;   ///< why it could not go on; "" for no such reason
     bool cutTail = false;  ///< a torn record was taken off the file first
 };
@@ -71,12 +73,14 @@ void MakePuzzles(Game& game, Job& job, const Batch& batch, BatchResult& result) 
         const BoardSize size = batch.sizeOfNext();
         game.window.SetText(WindowText::Status, batch.status(result.written + 1, size));
         game.window.SetProgress(result.written, batch.count);
-        const Puzzle puzzle = CreateInBatch(game, job, size);
+        const PuzzleOrder order = OrderFor(batch.order, size);
+        const Candidate made = CreateInBatch(game, job, size, order);
         if (game.job.Ending() || game.job.StopFlag()) return;
         CloseFiles(game);
-        const std::string record = PuzzleRecord(puzzle);
+        const std::string record = PuzzleRecord(made.created.puzzle);
         result.cutTail |= AppendRecord(batch.path, record, Numbering::Skip, WaitingFor(game, batch.path)).cutTail;
         ++result.written;
+        if (!made.fits && AsksForMore(order)) ++result.lacking;
         PollEvents(game);
         if (game.job.Ending() || game.job.StopFlag()) return;
     }
@@ -107,19 +111,27 @@ BatchResult RunBatch(Game& game, const Batch& batch) {
     return result;
 }
 
-/// Tells how the batch ended; `done` when all puzzles were written.
-void Report(Game& game, const Batch& batch, const BatchResult& result, const std::function<void()>& done) {
+/// The last line of a message: how many lack what was asked for. "" for none.
+std::string LackingText(int lacking) {
+    if (lacking == 0) return "";
+    return "\r\n" + NumText(lacking) + " of them" + (lacking == 1 ? " lacks" : " lack") + " what was asked for.";
+}
+
+/// Tells how the batch ended. `done` is called when all puzzles were written, with the line that ends its message.
+void Report(Game& game, const Batch& batch, const BatchResult& result,
+            const std::function<void(const std::string& lastLine)>& done) {
     if (game.job.Ending()) return;
+    const std::string lacking = LackingText(result.lacking);
     if (!result.failure.empty()) {
         game.prompts.Show("The puzzles could not all be written:\r\n" + result.failure + "\r\n\r\n" +
-                              NumText(result.written) + " of" + Str(batch.count) + " puzzles were written.",
+                              NumText(result.written) + " of" + Str(batch.count) + " puzzles were written." + lacking,
                           "vbcritical+vbok");
     } else if (result.written < batch.count) {
         game.prompts.Show(
-            "Created" + Str(result.written) + " of" + Str(batch.count) + " puzzles in file:\r\n" + batch.path,
+            "Created" + Str(result.written) + " of" + Str(batch.count) + " puzzles in file:\r\n" + batch.path + lacking,
             "vbinformation+vbok");
     } else {
-        done();
+        done(lacking);
     }
     game.window.SetText(WindowText::Status, result.cutTail ? TornRecordText(batch.path) : "");
 }
@@ -161,7 +173,9 @@ void Form3_gf1_Click(Game& game, BatchRequest& request) {
 void mnucreatemany_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     BatchRequest request;
+    request.order = ReadOrder(game.choices, OrderedFor::File);
     if (!game.questions.AskBatch(request)) return;
+    KeepOrder(game.choices, OrderedFor::File, request.order);
     const int count = RoundedVal(request.count);
     const BoardSize size = SizeOf(request);
     const std::string& path = request.outputFile;
@@ -171,9 +185,10 @@ void mnucreatemany_Click(Game& game) {
     if (game.prompts.Show(question, "vbquestion+vbyesno") != kYes) return;
 
     const auto status = [&](int number, BoardSize) { return "Creating puzzle" + Str(number) + " of" + Str(count); };
-    const Batch batch{count, path, [&] { return size; }, status};
-    Report(game, batch, RunBatch(game, batch),
-           [&] { game.prompts.Show("Created" + Str(count) + " puzzles in file:\r\n" + path, "vbinformation+vbok"); });
+    const Batch batch{count, path, request.order, [&] { return size; }, status};
+    Report(game, batch, RunBatch(game, batch), [&](const std::string& lastLine) {
+        game.prompts.Show("Created" + Str(count) + " puzzles in file:\r\n" + path + lastLine, "vbinformation+vbok");
+    });
 }
 
 void Command4_Click(Game& game) {
@@ -183,8 +198,9 @@ void Command4_Click(Game& game) {
     const auto status = [](int number, BoardSize size) {
         return Format(size.rows, "00") + Format(size.cols, "00") + Str(number) + " of" + Str(kCount);
     };
-    const Batch batch{kCount, "rand1.txt", drawSize, status};
-    Report(game, batch, RunBatch(game, batch), [&] { game.prompts.SystemBox("done", SystemButtons::Ok); });
+    const Batch batch{kCount, "rand1.txt", ReadOrder(game.choices, OrderedFor::File), drawSize, status};
+    Report(game, batch, RunBatch(game, batch),
+           [&](const std::string& lastLine) { game.prompts.SystemBox("done" + lastLine, SystemButtons::Ok); });
 }
 
 void mnustopbatch_Click(Game& game) {

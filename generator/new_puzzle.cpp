@@ -39,6 +39,11 @@ Outcome WriteAndLoad(Game& game, const Puzzle& puzzle, std::string& message) {
     return LoadPuzzle(game, file, 1) ? Outcome::Created : Outcome::Failed;
 }
 
+/// What is said when so many were tried and none was as ordered.
+std::string NoneText(int tried) {
+    return "\r\nNone of the " + NumText(tried) + " puzzles tried was as ordered.";
+}
+
 /// Makes the puzzle and makes it the current one, or loads the one that is current again.
 Outcome MakePuzzle(Game& game, BoardSize size, std::string& message) {
     const BusyPointer pointer(game);
@@ -46,9 +51,15 @@ Outcome MakePuzzle(Game& game, BoardSize size, std::string& message) {
     const Job job(game, "New Puzzle");
     game.window.SetText(WindowText::Status, " Creating" + Str(size.rows) + "x" + NumText(size.cols) + " puzzle ...");
     game.pictures.SetEnabled(false);
-    const CreatedPuzzle created = CreateInJob(game, size);
+    const PuzzleOrder order = OrderFor(ReadOrder(game.choices, OrderedFor::Board), size);
+    const LastCandidate last = CreateInJob(game, size, order);
     if (game.job.Ending() || game.job.Superseded()) return Outcome::Abandoned;
-    const Outcome outcome = created.solved ? WriteAndLoad(game, created.puzzle, message) : Outcome::Failed;
+    Outcome outcome = Outcome::Failed;
+    if (last.candidate.fits) {
+        outcome = WriteAndLoad(game, last.candidate.created.puzzle, message);
+    } else if (AsksForMore(order) && !game.job.CancelFlag()) {
+        message += NoneText(last.tried);
+    }
     if (outcome == Outcome::Failed) ShowAgain(game, before);
     return outcome;
 }
@@ -76,14 +87,28 @@ void Report(Game& game, Outcome outcome, const std::string& message) {
 
 }  // namespace
 
-CreatedPuzzle CreateInJob(Game& game, BoardSize size) {
+bool AsksForMore(const PuzzleOrder& order) {
+    return order != PuzzleOrder{false, {}, {}};
+}
+
+LastCandidate CreateInJob(Game& game, BoardSize size, const PuzzleOrder& order) {
     game.job.TakeBackCancel();
     game.pictures.Picture().Clear(game.options.BoardBackground());
     LayoutNewBoard(game, size);
     const auto solver = std::make_unique<SolverBoard>();
-    CreatedPuzzle created = CreatePuzzle(*solver, size, game.random, Watched(game, *solver));
+    LastCandidate last;
+    const auto showTried = [&] {
+        if (last.tried > 0) game.window.SetText(WindowText::Tried, NumText(last.tried) + " tried");
+    };
+    const MayGoOn mayGoOn = Watched(game, *solver, showTried);
+    const int most = AsksForMore(order) ? game.mostCandidates : 1;
+    do {
+        last.candidate = CreateCandidate(*solver, size, order, game.random, mayGoOn);
+        ++last.tried;
+    } while (!last.candidate.fits && last.tried < most && !game.job.MustStop());
+    game.window.SetText(WindowText::Tried, "");
     ShowWorkLists(game, *solver);
-    return created;
+    return last;
 }
 
 void cmdnew1_Click(Game& game) {

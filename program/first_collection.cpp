@@ -20,7 +20,7 @@ Puzzle CreateFirstPuzzle(Game& game) {
     constexpr BoardSize kSize{8, 8};
     const BusyPointer pointer(game);
     const Job job(game, "New Puzzle");
-    return CreateInJob(game, kSize).puzzle;
+    return CreateInJob(game, kSize, {}).candidate.created.puzzle;
 }
 
 /// Gives the file another name beside it, if there is one with anything in it.

@@ -20,7 +20,7 @@ namespace tidewalk {
 
 namespace {
 
-enum class Outcome { Solved, Failed, Superseded };
+enum class Outcome { Solved, Failed, Stopped, Superseded };
 
 /// Solves the puzzle on the board and puts what the solver found there.
 Outcome Solve(Game& game) {
@@ -33,13 +33,15 @@ Outcome Solve(Game& game) {
     if (game.job.Superseded()) return Outcome::Superseded;
     ShowWorkLists(game, *solver);
     const Puzzle solved = PuzzleOf(*solver);
+    if (!result.Solved() && game.job.CancelFlag()) return Outcome::Stopped;
     if (!result.Solved() || !CheckLinkTotals(solved)) return Outcome::Failed;
     game.board.puzzle = solved;
     game.board.OpenNeighbours = solver->OpenNeighbours;
     return Outcome::Solved;
 }
 
-void GiveUp(Game& game) {
+/// Brings the puzzle back as it was and says that it could not be solved, with what the status line has to add.
+void GiveUp(Game& game, const std::string& status) {
     // An earlier load that failed may have left its file open, and this one must not fail for that.
     CloseFiles(game);
     const Puzzle numbers = WithoutLinks(game.board.puzzle);
@@ -50,7 +52,7 @@ void GiveUp(Game& game) {
         game.board.OpenNeighbours.Fill({});
         RedrawBoard(game, false);
     }
-    game.window.SetText(WindowText::Status, "");
+    game.window.SetText(WindowText::Status, status);
     game.window.SetPointer(Pointer::Default);
     game.prompts.Show("Unable to solve\r\nPlease check puzzle layout", "vbcritical+vbok");
 }
@@ -84,7 +86,9 @@ void mnuautosol_Click(Game& game) {
     const BusyPointer pointer(game);
     const Outcome outcome = Solve(game);
     if (game.job.Ending()) return;
-    if (outcome == Outcome::Failed) GiveUp(game);
+    if (outcome == Outcome::Failed) GiveUp(game, "");
+    // Who reads the message then knows that the layout may be right.
+    if (outcome == Outcome::Stopped) GiveUp(game, "AutoSolve was stopped before it was done");
     if (outcome == Outcome::Solved) ShowAndWriteSolution(game);
     if (outcome == Outcome::Superseded) game.window.SetText(WindowText::Status, "");
 }

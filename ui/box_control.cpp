@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "ui/box_control.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyleHints>
+#include <QTimer>
 #include <utility>
 
 #include "ui/icons.h"
@@ -23,6 +26,19 @@ BoxControl::BoxControl(QString iconName, QWidget* parent) : QToolButton(parent),
     // The right button is a click here, and asks for no menu.
     setContextMenuPolicy(Qt::PreventContextMenu);
     connect(this, &QToolButton::clicked, this, [this] { emit Clicked(MouseButton::Left); });
+}
+
+void BoxControl::TakeLongPress() {
+    held_ = new QTimer(this);
+    held_->setSingleShot(true);
+    held_->setInterval(QGuiApplication::styleHints()->mousePressAndHoldInterval());
+    connect(this, &QToolButton::pressed, held_, qOverload<>(&QTimer::start));
+    connect(this, &QToolButton::released, held_, &QTimer::stop);
+    connect(held_, &QTimer::timeout, this, [this] {
+        // A button that is up already makes no click of its own when it is let go.
+        setDown(false);
+        emit Clicked(MouseButton::Right);
+    });
 }
 
 void BoxControl::mousePressEvent(QMouseEvent* event) {

@@ -15,6 +15,7 @@
 #include "program/escape.h"
 #include "program/exit.h"
 #include "solver/auto_solve.h"
+#include "solver/show_solutions.h"
 #include "techniques/explain_board.h"
 #include "techniques/give_hint.h"
 #include "ui/about.h"
@@ -39,6 +40,19 @@ void DoIndexed(Program& program, const Click& click) {
 template <void (*kRoutine)(Game&, int, MouseButton)>
 void DoWithButton(Program& program, const Click& click) {
     kRoutine(program.game(), click.index, click.button);
+}
+
+void OpenOrder(Program& program, const Click&) {
+    program.form1().OpenOrder();
+}
+
+/// The right mouse button asks first.
+void MakeOrOrder(Program& program, const Click& click) {
+    if (click.button == MouseButton::Right) {
+        OpenOrder(program, click);
+    } else {
+        cmdnew1_Click(program.game());
+    }
 }
 
 void OpenOptionsWindow(Program& program, const Click&) {
@@ -260,6 +274,12 @@ std::vector<Command> SolveCommands() {
          .keys = Keys("F9"),
          .handler = Do<mnuautosol_Click>},
         {.menu = kMenu,
+         .name = "mnusolutions",
+         .text = "&Solutions ...",
+         .icon = "solutions",
+         .keys = Keys("Shift+F9"),
+         .handler = Do<mnusolutions_Click>},
+        {.menu = kMenu,
          .name = "cmdverify",
          .text = "&Check",
          .bar = 12,
@@ -375,16 +395,24 @@ std::vector<Command> ToolBarOnlyCommands() {
          .bar = 20,
          .icon = "new",
          .toolTip = "New puzzle|Its size is set in the box beside",
-         .handler = Do<cmdnew1_Click>},
-        {.name = "GridSize", .bar = 21, .toolTip = "Set grid size (7x7 to 25x25)|Rightclick to set random size"},
+         .handler = MakeOrOrder,
+         .holds = true},
+        {.name = "cmdneworder",
+         .text = "Order of New Puzzles",
+         .bar = 21,
+         .icon = "down",
+         .toolTip = "New puzzle to order|Its grade, its size, and whether it has one solution",
+         .handler = OpenOrder,
+         .narrow = true},
+        {.name = "GridSize", .bar = 22, .toolTip = "Set grid size (7x7 to 25x25)|Rightclick to set random size"},
         {.name = "cmdcancel",
          .text = "Cancel",
-         .bar = 22,
+         .bar = 23,
          .icon = "cancel",
          .toolTip = "Cancel",
          .handler = Do<cmdcancel_Click>},
-        {.name = "dash16", .text = "-", .bar = 23},
-        {.name = "cmdexit", .text = "Exit", .bar = 24, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
+        {.name = "dash16", .text = "-", .bar = 24},
+        {.name = "cmdexit", .text = "Exit", .bar = 25, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
     };
 }
 

@@ -31,6 +31,7 @@
 #include "ui/icons.h"
 #include "ui/lines_view.h"
 #include "ui/mnemonic.h"
+#include "ui/order_popup.h"
 #include "ui/tool_tip.h"
 
 namespace tidewalk {
@@ -94,7 +95,9 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
       puzNumber_(new QLabel),
       puzfile_(new QLabel),
       gridSize_(new QLineEdit),
-      assessment_(new QLabel) {
+      assessment_(new QLabel),
+      tried_(new QLabel),
+      order_(new OrderPopup(handlers, this)) {
     setObjectName("Form1");
     setWindowTitle(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
     setWindowIcon(ProgramIcon());
@@ -104,6 +107,7 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
     AddSizeBox();
     AddMenus();
     AddToolBar();
+    AddOrder();
     AddCentre();
     auto* const guide = new GuidePanel(handlers_);
     addDockWidget(Qt::RightDockWidgetArea, guide);
@@ -119,6 +123,7 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
     connect(&handlers_, &Handlers::Changed, this, &Form1::RefreshLists);
     connect(&handlers_, &Handlers::Changed, this, &Form1::RefreshCommands);
     connect(&handlers_, &Handlers::Changed, this, &Form1::AnnounceStatus);
+    connect(&handlers_, &Handlers::Changed, this, &Form1::TellOrder);
     setAcceptDrops(true);
     connect(&handlers_, &Handlers::Ending, this, &QWidget::hide);
     container_->Board().setFocus();
@@ -194,6 +199,9 @@ QWidget* Form1::BarButton(const Command& command) {
     auto* const button = new BoxControl(command.icon);
     button->setObjectName(command.ObjectName());
     button->setEnabled(command.IsEnabled());
+    if (command.holds) button->TakeLongPress();
+    // Its picture keeps to the middle.
+    if (command.narrow) button->setFixedWidth(button->sizeHint().width() * 2 / 3);
     const Command* const row = &command;
     if (command.pressed != nullptr) {
         connect(button, &BoxControl::pressed, this,
@@ -227,6 +235,26 @@ void Form1::AddSizeBox() {
     gridSize_->installEventFilter(this);
     connect(gridSize_, &QLineEdit::returnPressed, this, [this] { container_->Board().setFocus(); });
     FitWidth(gridSize_, "25x25");
+}
+
+void Form1::AddOrder() {
+    auto* const make = findChild<BoxControl*>("cmdnew1");
+    connect(order_, &OrderPopup::SizeTyped, gridSize_, &QLineEdit::setText);
+    connect(order_, &OrderPopup::Create, make, &BoxControl::click);
+}
+
+void Form1::OpenOrder() {
+    order_->OpenAt(*findChild<BoxControl*>("cmdnew1"), gridSize_->text());
+}
+
+/// The tip of the button tells what it would make.
+void Form1::TellOrder() {
+    const Game* const game = handlers_.game();
+    if (game == nullptr) return;
+    const QString order = QString::fromStdString(OrderText(ReadOrder(game->choices, OrderedFor::Board)));
+    auto* const make = findChild<BoxControl*>("cmdnew1");
+    if (make->accessibleDescription().startsWith(order + ".")) return;
+    GiveToolTip(*make, tr("New puzzle|%1.\nIts size is set in the box beside, the rest with the arrow").arg(order));
 }
 
 /// The right button on the size box is no click into its text.
@@ -316,6 +344,9 @@ void Form1::AddStatusLine() {
     puzfile_->setTextFormat(Qt::PlainText);
     puzfile_->setMargin(3);
     statusBar()->addWidget(pb_, 1);
+    tried_->setObjectName("Tried");
+    tried_->hide();
+    statusBar()->addWidget(tried_);
     statusBar()->addWidget(progress_);
     assessment_->setObjectName("Assessment");
     assessment_->setTextFormat(Qt::PlainText);
@@ -338,6 +369,8 @@ QWidget* Form1::WidgetOf(WindowText which) const {
             return gridSize_;
         case WindowText::Assessment:
             return assessment_;
+        case WindowText::Tried:
+            return tried_;
     }
     return nullptr;
 }
@@ -349,6 +382,7 @@ QString Form1::TextOf(WindowText which) const {
 void Form1::SetTextOf(WindowText which, const QString& text) {
     WidgetOf(which)->setProperty("text", text);
     if (which == WindowText::Status) statusIsNew_ = !text.isEmpty();
+    if (which == WindowText::Tried) tried_->setVisible(!text.isEmpty());
 }
 
 void Form1::SetToolTipOf(WindowText which, const QString& toolTip) {
@@ -394,12 +428,13 @@ void Form1::RefreshCommands() {
 }
 
 void Form1::TakeDefaultSize() {
-    constexpr int kWindowFrame = 48;  // a title bar and its shadows, in pixels
+    constexpr int kTitleBar = 48;    // with the frame and its shadows, in pixels
+    constexpr int kSideFrames = 16;  // in pixels
     // A splitter forgets its handle when it is asked for its size.
     const QSize wanted = sizeHint() + QSize(findChild<QSplitter*>()->handleWidth(), 0);
     // Without a display there is no screen to fit on either.
     if (QGuiApplication::platformName() == "offscreen") return resize(wanted);
-    const QSize room = screen()->availableSize() - QSize(kWindowFrame, kWindowFrame);
+    const QSize room = screen()->availableSize() - QSize(kSideFrames, kTitleBar);
     const int less = std::max({0, wanted.width() - room.width(), wanted.height() - room.height()});
     // On a small screen the board gives way, but not the tool bar's last buttons.
     const int bar = std::min(findChild<QToolBar*>()->sizeHint().width(), room.width());

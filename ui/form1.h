@@ -17,7 +17,9 @@ class QProgressBar;
 
 namespace tidewalk {
 
+class BoxControl;
 class LinesView;
+class OrderPopup;
 
 /// The window's controls bear their given names. It decides nothing: what a control asks for goes to `onCommand` or
 /// straight to the routine of that control.
@@ -34,6 +36,9 @@ class Form1 final : public QMainWindow {
     QString TextOf(WindowText which) const;
     void SetTextOf(WindowText which, const QString& text);
     void SetToolTipOf(WindowText which, const QString& toolTip);
+
+    /// Opens the popup in which a new puzzle is ordered, at its button.
+    void OpenOrder();
 
     /// Shows how far a job is; a total of 0 takes the bar away.
     void SetProgress(int done, int total);
@@ -59,6 +64,8 @@ class Form1 final : public QMainWindow {
     QWidget* BarButton(const Command& command);
     void AddNumberBox();
     void AddSizeBox();
+    void AddOrder();
+    void TellOrder();
     void AddCentre();
     void AddDock(LinesView* list, const QString& caption);
     void MakeRoomFor(const QDockWidget* dock);
@@ -85,6 +92,8 @@ class Form1 final : public QMainWindow {
     QLabel* puzfile_;
     QLineEdit* gridSize_;
     QLabel* assessment_;
+    QLabel* tried_;
+    OrderPopup* order_;
     int widthWithDock_ = 0;     ///< to which the window was widened last; 0 for never
     bool statusIsNew_ = false;  ///< it says something that was not announced yet
 };

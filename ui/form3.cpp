@@ -10,7 +10,9 @@
 #include <QPushButton>
 
 #include "generator/batch.h"
+#include "generator/character_choices.h"
 #include "ui/file_name.h"
+#include "ui/one_solution_box.h"
 #include "ui/tool_tip.h"
 
 namespace tidewalk {
@@ -18,6 +20,10 @@ namespace tidewalk {
 namespace {
 
 constexpr int kFileWidth = 320;  ///< in pixels
+
+QString Text(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 /// Offers all sides; what stands in the box stays.
 void FillSides(QComboBox* box) {
@@ -45,6 +51,9 @@ Form3::Form3(Handlers& handlers, QWidget* parent)
       text1_(new QLineEdit("10")),
       combo1_(MakeSideBox("Combo1")),
       combo2_(MakeSideBox("Combo2")),
+      grade_(new QComboBox),
+      oneSolution_(new OneSolutionBox(tr("One &solution"))),
+      character_(new QComboBox),
       fileNow_(new QLineEdit) {
     setObjectName("Form3");
     setWindowTitle(tr("Create New Puzzles"));
@@ -53,12 +62,42 @@ Form3::Form3(Handlers& handlers, QWidget* parent)
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->setContentsMargins(16, 16, 16, 16);
     AddFields(form);
+    AddOrder(form);
+    AddFile(form);
     AddButtons(form);
     connect(&handlers_, &Handlers::Ending, this, &QDialog::reject);
 }
 
 void Form3::AddFields(QFormLayout* form) {
     text1_->setObjectName("Text1");
+    form->addRow(tr("# of &Puzzles"), text1_);
+    form->addRow(tr("&Rows"), combo1_);
+    form->addRow(tr("&Columns"), combo2_);
+    combo1_->lineEdit()->setAccessibleName(tr("Rows"));
+    combo2_->lineEdit()->setAccessibleName(tr("Columns"));
+}
+
+void Form3::AddOrder(QFormLayout* form) {
+    grade_->setObjectName("Grade");
+    for (const std::optional<Grade> grade : kGradeChoices)
+        grade_->addItem(Text(NameOf(grade)));
+    oneSolution_->setObjectName("OneSolution");
+    character_->setObjectName("Character");
+    for (const CharacterChoice& choice : CharacterChoices()) {
+        character_->addItem(Text(choice.name));
+        character_->setItemData(character_->count() - 1, Text(choice.hint), Qt::ToolTipRole);
+    }
+    connect(grade_, &QComboBox::currentIndexChanged, oneSolution_,
+            [this](int index) { oneSolution_->FollowGrade(index == 0); });
+    connect(character_, &QComboBox::currentIndexChanged, this, [this](int index) {
+        GiveToolTip(*character_, Text(CharacterChoices()[static_cast<std::size_t>(index)].hint));
+    });
+    form->addRow(tr("&Grade"), grade_);
+    form->addRow(QString(), oneSolution_);
+    form->addRow(tr("C&haracter"), character_);
+}
+
+void Form3::AddFile(QFormLayout* form) {
     fileNow_->setObjectName("FileNow");
     fileNow_->setMinimumWidth(kFileWidth);
     auto* const pick = new QPushButton(tr("&Browse ..."));
@@ -69,11 +108,6 @@ void Form3::AddFields(QFormLayout* form) {
     auto* const file = new QHBoxLayout;
     file->addWidget(fileNow_, 1);
     file->addWidget(pick);
-    form->addRow(tr("# of &Puzzles"), text1_);
-    form->addRow(tr("&Rows"), combo1_);
-    form->addRow(tr("&Columns"), combo2_);
-    combo1_->lineEdit()->setAccessibleName(tr("Rows"));
-    combo2_->lineEdit()->setAccessibleName(tr("Columns"));
     auto* const label = new QLabel(tr("Output &file"));
     label->setBuddy(fileNow_);
     form->addRow(label, file);
@@ -106,6 +140,7 @@ bool Form3::Ask(BatchRequest& request) {
     setProperty("Tag", "X");
     FillSides(combo1_);
     FillSides(combo2_);
+    ShowOrder(request.order);
     text1_->setFocus();
     exec();
     request = Typed();
@@ -113,8 +148,18 @@ bool Form3::Ask(BatchRequest& request) {
 }
 
 BatchRequest Form3::Typed() const {
-    return {text1_->text().toStdString(), combo1_->currentText().toStdString(), combo2_->currentText().toStdString(),
-            FileNameBytes(fileNow_->text())};
+    return {text1_->text().toStdString(),
+            combo1_->currentText().toStdString(),
+            combo2_->currentText().toStdString(),
+            FileNameBytes(fileNow_->text()),
+            {oneSolution_->Wanted(), kGradeChoices.at(static_cast<std::size_t>(grade_->currentIndex())),
+             static_cast<std::size_t>(character_->currentIndex())}};
+}
+
+void Form3::ShowOrder(const OrderChoice& order) {
+    oneSolution_->SetWanted(order.oneSolution);
+    grade_->setCurrentText(Text(NameOf(order.grade)));
+    character_->setCurrentIndex(static_cast<int>(order.character));
 }
 
 void Form3::Show(const BatchRequest& request) {

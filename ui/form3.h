@@ -12,15 +12,18 @@ class QLineEdit;
 
 namespace tidewalk {
 
-/// Number, rows, columns and output file of a batch. What was typed stays for the next time. The property "Tag" is "Y"
-/// when OK was accepted, "X" otherwise.
+class OneSolutionBox;
+
+/// Number, rows, columns, order and output file of a batch. What was typed stays for the next time. The property "Tag"
+/// is "Y" when OK was accepted, "X" otherwise.
 class Form3 final : public QDialog {
     Q_OBJECT
 
  public:
     Form3(Handlers& handlers, QWidget* parent);
 
-    /// Shows the window until the player ends it. True when OK was accepted; `request` then holds what was typed.
+    /// Shows the window, with the order of `request` chosen, until the player ends it. True when OK was accepted;
+    /// `request` then holds what was typed and chosen.
     bool Ask(BatchRequest& request);
 
  protected:
@@ -28,6 +31,9 @@ class Form3 final : public QDialog {
 
  private:
     void AddFields(QFormLayout* form);
+    void AddOrder(QFormLayout* form);
+    void AddFile(QFormLayout* form);
+    void ShowOrder(const OrderChoice& order);
     void AddButtons(QFormLayout* form);
     BatchRequest Typed() const;
     void Show(const BatchRequest& request);
@@ -38,6 +44,9 @@ class Form3 final : public QDialog {
     QLineEdit* text1_;
     QComboBox* combo1_;
     QComboBox* combo2_;
+    QComboBox* grade_;
+    OneSolutionBox* oneSolution_;
+    QComboBox* character_;
     QLineEdit* fileNow_;
 };
 

@@ -4,10 +4,11 @@
 
 #include "ui/form3.h"
 #include "ui/form5.h"
+#include "ui/solutions_window.h"
 
 namespace tidewalk {
 
-/// Asks in `Form3`, which keeps what was typed, and in a new `Form5` each time.
+/// Asks in `Form3`, which keeps what was typed, and in a new window of the others each time.
 class QtQuestions final : public Questions {
  public:
     QtQuestions(Handlers& handlers, QWidget& mainWindow)
@@ -16,6 +17,9 @@ class QtQuestions final : public Questions {
     bool AskBatch(BatchRequest& request) override { return form3_.Ask(request); }
     bool AskPrint(PrintRequest& request) override {
         return Form5(handlers_, request, &mainWindow_).exec() == QDialog::Accepted;
+    }
+    void ShowSolutions(const FoundSolutions& found) override {
+        SolutionsWindow(found, handlers_.game()->options, &mainWindow_).exec();
     }
 
  private:

@@ -17,6 +17,7 @@
 #include "program/escape.h"
 #include "program/exit.h"
 #include "solver/auto_solve.h"
+#include "solver/show_solutions.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
@@ -74,6 +75,7 @@ const Command kRefuse[] = {Do<arrows_Click, 0, kLeft>,
                            Do<cmdnew1_Click>,
                            Do<mnunewpuzx_Click>,
                            Do<mnuautosol_Click>,
+                           Do<mnusolutions_Click>,
                            Do<mnupuzreset_Click>,
                            Do<mnuprintcurrent_Click>,
                            Do<mnuprintpreview_Click>,

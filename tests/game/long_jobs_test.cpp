@@ -44,8 +44,8 @@ const LongJob kJobs[] = {
      mnuautosol_Click,
      "collection-solution.tdw",
      {"busy, status: Auto solving ..., " + kEnd + "status: Solved, not busy", "", "", 1},
-     {kCancel + kEnd + "number: 2, status: , not busy, box, not busy", "Unable to solve\r\nPlease check puzzle layout",
-      kCritical},
+     {kCancel + kEnd + "number: 2, status: AutoSolve was stopped before it was done, not busy, box, not busy",
+      "Unable to solve\r\nPlease check puzzle layout", kCritical},
      {kLoad + kEnd + "status: , not busy", "", ""}},
     {"new",
      cmdnew1_Click,
@@ -120,7 +120,9 @@ struct LongJobGame : TestGame {
             if (moments == at && meanwhile) std::exchange(meanwhile, nullptr)();
         };
         if (longJob.run == mnucreatemany_Click) {
-            world.batch = [](BatchRequest& request) { return request = {"3", "12", "9", "out.txt"}, true; };
+            world.batch = [](BatchRequest& request) {
+                return request = {"3", "12", "9", "out.txt", {false, {}, 0}}, true;
+            };
             world.Expect("Create 3 12x9 puzzles\r\nOutput file: out.txt\r\n\r\nProceed?", "vbquestion+vbyesno", kYes);
         }
         if (longJob.run == control27_Click) {

@@ -5,6 +5,8 @@
 #include <filesystem>
 
 #include "generator/batch.h"
+#include "model/load_puzzle.h"
+#include "solver/count_solutions.h"
 #include "support/layout_checker.h"
 #include "support/test_game.h"
 
@@ -21,10 +23,13 @@ struct NewGame : TestGame {
     /// Asks for these puzzles in a batch, in a file that lies beside the collection.
     void RunBatch(const std::string& count, const std::string& rows, const std::string& cols, bool done = false,
                   int answer = kYes) {
-        world.batch = [=](BatchRequest& request) { return request = {count, rows, cols, "out.txt"}, true; };
+        world.batch = [=, this](BatchRequest& request) {
+            EXPECT_EQ(request.order, ReadOrder(world, OrderedFor::File));
+            return request = {count, rows, cols, "out.txt", order}, true;
+        };
         world.Expect("Create " + count + " " + rows + "x" + cols + " puzzles\r\nOutput file: out.txt\r\n\r\nProceed?",
                      "vbquestion+vbyesno", answer);
-        if (done) world.Expect("Created " + count + " puzzles in file:\r\nout.txt", kInformation);
+        if (done) world.Expect("Created " + count + " puzzles in file:\r\nout.txt" + lastLine, kInformation);
         Run(mnucreatemany_Click);
     }
 
@@ -35,7 +40,18 @@ struct NewGame : TestGame {
             if (world.Status() == status && what) std::exchange(what, nullptr)();
         };
     }
+
+    OrderChoice order;     ///< of the batch
+    std::string lastLine;  ///< of the message that ends it
 };
+
+/// Size, number of solutions and grade of a record: "8x11 1 Easy".
+std::string FactsOf(const std::string& record) {
+    const Puzzle puzzle = ParsePuzzleRecord(record).value();
+    const Assessment facts = AssessPuzzle(puzzle, WithoutEnd);
+    return NumText(puzzle.Rows) + "x" + NumText(puzzle.Cols) + " " + NumText(facts.solutions.value()) + " " +
+           std::string(facts.score ? DifficultyName(*facts.score) : "");
+}
 
 TEST(NewPuzzle, BecomesTheCurrentPuzzleAndTheOnlyOneOfItsFile) {
     NewGame game("9x12");
@@ -93,6 +109,55 @@ TEST(NewPuzzle, AFileThatRefusesBringsTheOldPuzzleBackIfItIsThere) {
     }
 }
 
+TEST(NewPuzzle, IsMadeToOrderAndTellsHowManyWereTried) {
+    NewGame game("9x8");
+    EXPECT_EQ(ReadOrder(game.choices, OrderedFor::Board), OrderChoice());
+    KeepOrder(game.choices, OrderedFor::File, {false, Grade::VEasy, 3});
+    for (const auto& [grade, facts] : {std::pair{Grade::Hard, "9x8 1 Hard"}, {Grade::VEasy, "9x8 1 VEasy"}}) {
+        // A grade asks for one solution even where that is switched off.
+        KeepOrder(game.choices, OrderedFor::Board, {false, grade, 0});
+        int tried = 0;
+        game.world.step = 100;
+        game.world.happen = [&] { tried = std::max(tried, RoundedVal(game.world.Text(WindowText::Tried))); };
+        game.Run(cmdnew1_Click);
+        EXPECT_EQ(FactsOf(LinesOf(game.folder.Read("temp.txt")).at(0)), facts);
+        EXPECT_EQ(tried > 1, grade == Grade::Hard) << tried;
+        EXPECT_EQ(game.world.Text(WindowText::Tried), "");
+        EXPECT_EQ(ReadOrder(game.choices, OrderedFor::Board), (OrderChoice{false, grade, 0}));
+    }
+}
+
+/// Draws with which two puzzles of 7x7 are tried and neither is very hard.
+unsigned SeedOfNone() {
+    for (unsigned seed = 1;; ++seed) {
+        NewGame game;
+        game.mostCandidates = 2;
+        game.random.UseSeed(seed);
+        game.world.AnswerAll(kOk);
+        KeepOrder(game.choices, OrderedFor::Board, {true, Grade::VHard, 0});
+        game.Run(cmdnew1_Click);
+        if (game.world.Status() != "Puzzle created") return seed;
+    }
+}
+
+TEST(NewPuzzle, SaysWhenNoneOfThoseTriedWasAsOrderedAndACancelCountsForAllOfThem) {
+    const unsigned seed = SeedOfNone();
+    NewGame game;
+    game.mostCandidates = 2;
+    game.random.UseSeed(seed);
+    KeepOrder(game.choices, OrderedFor::Board, {true, Grade::VHard, 0});
+    TakeImported(game, PuzzleFrom({"1-1"}), "grid.txt");
+    for (const bool cancels : {false, true}) {
+        game.world.texts[WindowText::BoardSize] = "7";
+        const std::string none = cancels ? "" : "\r\nNone of the 2 puzzles tried was as ordered.";
+        game.world.Expect("Could not create new puzzle" + none, kInformation);
+        if (cancels) game.When(" Creating 7x7 puzzle ...", [&] { game.Run(cmdcancel_Click); });
+        game.Run(cmdnew1_Click);
+        EXPECT_EQ(game.Numbers(), (Lines{"1.1"})) << "an imported puzzle comes back";
+        EXPECT_EQ(game.world.Status(), "Could not create new puzzle");
+    }
+}
+
 TEST(BatchWindow, AsksForACountASizeAndAFile) {
     TestGame game;
     for (const BatchRequest& bad : {BatchRequest{"0", "9", "9", "a"},
@@ -128,12 +193,31 @@ TEST(Batch, AppendsValidPuzzlesAndACancelCutsOneShort) {
         EXPECT_EQ(game.world.picture.calls.size(), 1U);
         game.Run(cmdcancel_Click);
     });
+    game.lastLine = "\r\n1 of them lacks what was asked for.";
     game.RunBatch("3", "8", "11", true);
     const Lines lines = LinesOf(game.folder.Read("out.txt"));
     ASSERT_EQ(lines.size(), 4U);
     EXPECT_EQ(lines[0], "first");
     EXPECT_EQ(FaultOfRecord(lines[1], {8, 11}) + FaultOfRecord(lines[3], {8, 11}), "");
     EXPECT_EQ(lines[2].substr(0, 12), " 8, 11, 0;D;") << "a layout without bridges";
+}
+
+TEST(Batch, WritesAsManyAsAskedForAndTellsHowManyAreNotAsOrdered) {
+    NewGame game;
+    game.mostCandidates = 2;
+    game.random.UseSeed(SeedOfNone());
+    game.order = {false, Grade::VHard, 0};
+    game.lastLine = "\r\n1 of them lacks what was asked for.";
+    game.RunBatch("1", "7", "7", true);
+    EXPECT_EQ(ReadOrder(game.choices, OrderedFor::File), game.order);
+    game.mostCandidates = kMostCandidates;
+    game.order = {true, {}, 0};
+    game.lastLine = "";
+    game.RunBatch("8", "13", "15", true);
+    const Lines lines = LinesOf(game.folder.Read("out.txt"));
+    ASSERT_EQ(lines.size(), 9U);
+    for (std::size_t i = 0; i < lines.size(); ++i)
+        EXPECT_EQ(FactsOf(lines[i]).starts_with(i < 1 ? "7x7 " : "13x15 1 "), true) << lines[i];
 }
 
 TEST(Batch, StopsAsAWhole) {
@@ -179,7 +263,7 @@ TEST(Batch, AFileThatRefusesEndsIt) {
     EXPECT_EQ(game.world.Status(), "");
 }
 
-TEST(RandomBatch, Makes1200PuzzlesOfRandomSizes) {
+TEST(RandomBatch, Makes1200PuzzlesOfRandomSizesWithOneSolution) {
     NewGame game;
     game.world.Expect("done", "system ok");
     game.Run(Command4_Click);
@@ -191,6 +275,7 @@ TEST(RandomBatch, Makes1200PuzzlesOfRandomSizes) {
         const std::string number = std::to_string(i + 1);
         const std::string status = Format(puzzle.Rows, "00") + Format(puzzle.Cols, "00") + " " + number + " of 1200";
         ASSERT_NE(seen.find("status: " + status + ","), std::string::npos) << lines[i];
+        ASSERT_EQ(CountSolutions(puzzle, 2), 1) << lines[i];
     }
     EXPECT_TRUE(seen.ends_with("not busy, box, status: "));
 }

@@ -42,7 +42,8 @@ std::string World::Seen() {
     std::string all;
     for (const std::string& entry : std::exchange(log_, {})) {
         const bool isLabel = entry.starts_with("size: ") || entry.starts_with("count: ") ||
-                             entry.starts_with("name: ") || entry.starts_with("facts: ");
+                             entry.starts_with("name: ") || entry.starts_with("facts: ") ||
+                             entry.starts_with("tried: ");
         if (!isLabel) all += (all.empty() ? "" : ", ") + entry;
     }
     return all;
@@ -64,7 +65,7 @@ std::string World::Pick(const FileRequest& request) {
 }
 
 void World::SetText(WindowText which, const std::string& text) {
-    const char* const names[] = {"status: ", "number: ", "count: ", "name: ", "size: ", "facts: "};
+    const char* const names[] = {"status: ", "number: ", "count: ", "name: ", "size: ", "facts: ", "tried: "};
     texts[which] = text;
     Note(names[static_cast<int>(which)] + text);
 }

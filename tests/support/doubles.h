@@ -67,6 +67,7 @@ class World final : public Prompts,
     }
     std::string Pick(const FileRequest& request) override;
     bool AskBatch(BatchRequest& request) override { return Note("batch?"), std::exchange(batch, nullptr)(request); }
+    void ShowSolutions(const FoundSolutions& found) override { Note("solutions"), solutions = found; }
     bool AskPrint(PrintRequest& request) override { return Note("print?"), std::exchange(print, nullptr)(request); }
 
     std::string Text(WindowText which) const override { return texts.count(which) == 0 ? "" : texts.at(which); }
@@ -120,6 +121,8 @@ class World final : public Prompts,
 
     std::function<bool(BatchRequest&)> batch;  ///< answers the next question for a batch
     std::function<bool(PrintRequest&)> print;  ///< answers the next question for puzzles to print
+
+    FoundSolutions solutions;  ///< that were shown last
 
     std::map<WindowText, std::string> texts;
     std::map<WindowText, std::string> toolTips;

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
+#include <QListWidget>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <set>
@@ -199,7 +200,10 @@ TEST(Form3, MakesTheBatchThatWasTypedAndStaysWhileSomethingIsWrong) {
     window.Expect("Form3", [&](QDialog& form3) {
         EXPECT_EQ(form3.windowTitle(), "Create New Puzzles");
         EXPECT_EQ(Of<QComboBox>(form3, "Combo2").itemText(18), "25");
-        Set(form3, "Text1=3 Combo1=7 Combo2=9");
+        EXPECT_EQ(Get(form3, "OneSolution Grade Character"), "true Any grade As they grow");
+        Press(form3, "OneSolution");
+        Set(form3, "Text1=3 Combo1=7 Combo2=9 Grade=Easy");
+        EXPECT_EQ(Get(form3, "OneSolution"), "true") << "a grade asks for one solution";
         window.Expect("Specify an output file");
         Press(form3, "Command1");
         EXPECT_TRUE(form3.isVisible());
@@ -215,12 +219,41 @@ TEST(Form3, MakesTheBatchThatWasTypedAndStaysWhileSomethingIsWrong) {
     window.Trigger("mnucreatemany");
     EXPECT_TRUE(window.view.updatesEnabled());
     window.Expect("Form3", [](QDialog& form3) {
-        EXPECT_EQ(Get(form3, "Text1 Combo2 FileNow"), "3 9 out.txt") << "what was typed stays for the next time";
+        EXPECT_EQ(Get(form3, "Text1 Combo2 FileNow Grade"), "3 9 out.txt Easy") << "it stays for the next time";
+        Of<QComboBox>(form3, "Grade").setCurrentIndex(0);
+        EXPECT_EQ(Get(form3, "OneSolution"), "false") << "so does the player's own wish";
         Press(form3, "command2");
         EXPECT_FALSE(form3.isVisible());
     });
     BatchRequest request;
+    request.order = ReadOrder(window.game.choices, OrderedFor::File);
     EXPECT_FALSE(window.game.questions.AskBatch(request));
+}
+
+TEST(Solutions, LieSideBySideWithTheirDifferencesMarked) {
+    WindowGame window({Record({"3.3", "...", "3.3"})});
+    window.ClickIslands({{1, 1}, {1, 3}});
+    const QImage board = window.Shown();
+    window.Expect("Solutions", [](QDialog& open) {
+        EXPECT_EQ(Get(open, "Caption"), "This puzzle has several solutions. Two of them:");
+        auto& list = Of<QListWidget>(open, "Differences");
+        EXPECT_EQ(list.count(), 4);
+        auto& first = Of(open, "Solution1");
+        EXPECT_EQ(first.accessibleName().toStdString(), "First solution");
+        const auto look = [](QWidget& view) { return view.grab().toImage(); };
+        list.setCurrentRow(0);
+        const QImage before = look(first);
+        EXPECT_NE(before, look(Of(open, "Solution2")));
+        list.setCurrentRow(1);
+        EXPECT_NE(before, look(first)) << "another place stands out";
+        open.resize(open.size() * 2);
+        EXPECT_GT(look(first).width(), before.width() * 3 / 2);
+        Press(open, "SolutionsClose");
+        EXPECT_FALSE(open.isVisible());
+    });
+    window.Trigger("mnusolutions");
+    EXPECT_EQ(window.Shown(), board);
+    EXPECT_EQ(window.board.history.UndoList().size(), 1U);
 }
 
 TEST(Form5, HandsOverWhatWasTypedAndStaysWhileSomethingIsWrong) {

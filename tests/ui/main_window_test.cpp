@@ -31,6 +31,7 @@ std::map<std::string, std::string> StateOf(WindowGame& window) {
             {"moves", std::to_string(window.board.history.UndoList().size())},
             {"selected", std::to_string(SelectedIsland(window.board))},
             {"help", window.program.help().isVisible() ? "open" : "closed"},
+            {"popup", QApplication::activePopupWidget() != nullptr ? "open" : "closed"},
             {"status", Get(window.form, "pb")}};
 }
 
@@ -74,7 +75,9 @@ TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
         "mnunewpuzx=works: Creating 7x7 puzzle ...|mnucreatemany=Form3|mnustopbatch=|mnupuzreset=Reset?|"
         "mnuexport=file: Export Puzzle|mnuimport=file: Select a grid file|mnupastepuzzle=status Error importing puzzle|"
         "Command3=This collection is not of the older layout:\r\n|Command4=works:|Command5=system: "
-        "|can1=|mnuautosol=works:Auto solving ...|"
+        "|can1=|mnuautosol=works:Auto solving ...|mnusolutions=works:Looking for solutions ...|cmdneworder=popup "
+        "open|cmdnew1right=popup "
+        "open|"
         "cmdverify=status Not done yet|cmdundo=moves 0|can2=selected 0|"
         "mnuprintcurrent=Print Current Puzzle and its Solution?|mnuprintpreview=PrintPreview|control27=Form5|"
         "mnucopyclippuz=status Puzzle copied to clipboard|mnucopyclipsol=status Solution copied to clipboard|"
@@ -91,8 +94,8 @@ TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
         if (*command.menu != '\0') expect(name, [&](WindowGame& window) { window.Trigger(control.c_str()); });
         if (command.bar == 0) continue;
         expect(name, [&](WindowGame& window) { window.Click(control.c_str()); });
-        const bool isArrow = name == "arrows0" || name == "arrows2";
-        expect(isArrow ? name + "right" : name,
+        const bool isAnother = name == "arrows0" || name == "arrows2" || name == "cmdnew1";
+        expect(isAnother ? name + "right" : name,
                [&](WindowGame& window) { window.Click(control.c_str(), Qt::RightButton); });
     }
 }
@@ -110,7 +113,8 @@ TEST(Window, KeysAreTheirOwnAndControlsSayWhatTheyAre) {
         if (*command.icon != '\0' && *command.menu != '\0') {
             EXPECT_FALSE(Of<QAction>(window.form, name).icon().isNull()) << shown;
         }
-        if (command.bar != 0 && !command.IsSeparator()) {
+        // The tip of this one tells what is ordered.
+        if (command.bar != 0 && !command.IsSeparator() && shown != "cmdnew1") {
             EXPECT_EQ(Of(window.form, name).toolTip(), ToolTipText(command.toolTip)) << shown;
         }
     }
@@ -150,17 +154,19 @@ void ExpectLetterForEach(const QStringList& texts) {
 }
 
 TEST(Window, EveryMenuAndWindowCanBeUsedWithAltAndALetter) {
-    WindowGame window;
+    WindowGame window({Record({"3.3", "...", "3.3"})});
     ExpectLetterForEach(TextsOf(window.form.menuBar()->actions()) + TextsOf(window.form));
     for (const QMenu* const menu : window.form.findChildren<QMenu*>())
         if (!menu->title().isEmpty()) ExpectLetterForEach(TextsOf(menu->actions()));
     ExpectLetterForEach(TextsOf(window.program.help()));
+    ExpectLetterForEach(TextsOf(Of(window.form, "NewOrder")));
     const Act look = [](QDialog& open) { ExpectLetterForEach(TextsOf(open)); };
     for (const auto& [command, dialog] : {std::pair{"mnuoptset", "Form2"},
                                           {"mnucreatemany", "Form3"},
                                           {"control27", "Form5"},
                                           {"mnueditor", "Form6"},
                                           {"mnuabout", "About"},
+                                          {"mnusolutions", "Solutions"},
                                           {"mnuprintpreview", "PrintPreview"}}) {
         window.Expect(dialog, look);
         window.Trigger(command);
@@ -245,6 +251,36 @@ TEST(Window, ListsFollowTheGameWhileTheyShow) {
     });
 }
 
+TEST(Window, ANewPuzzleIsOrderedAtItsButton) {
+    WindowGame window;
+    auto& popup = Of<QDialog>(window.form, "NewOrder");
+    auto& make = Of<BoxControl>(window.form, "cmdnew1");
+    const auto tip = [&] { return make.accessibleDescription().section('.', 0, 0).toStdString(); };
+    EXPECT_EQ(tip(), "Any grade, one solution");
+    make.findChild<QTimer*>()->setInterval(1);
+    QTest::mousePress(&make, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return popup.isVisible(); })) << "a long press";
+    QTest::mouseRelease(&make, Qt::LeftButton);
+    EXPECT_EQ(window.game.collection.CollectionPath, window.folder.Path("collection.tdw")) << "and no click";
+    EXPECT_EQ(Get(popup, "OrderSize Grade0 OrderOneSolution"), "7x7 true true");
+    Press(popup, "OrderOneSolution");
+    EXPECT_EQ(tip(), "Any grade, any number of solutions");
+    Press(popup, "Grade1");
+    EXPECT_EQ(Get(popup, "Grade1 OrderOneSolution"), "true true") << "a grade asks for one solution";
+    EXPECT_FALSE(Of(popup, "OrderOneSolution").isEnabled());
+    EXPECT_EQ(tip(), "Very easy, one solution");
+    Set(popup, "OrderSize=8x9");
+    QTest::keyClick(&popup, Qt::Key_Return);
+    EXPECT_FALSE(popup.isVisible());
+    EXPECT_EQ(window.board.puzzle.Size(), (BoardSize{8, 9}));
+    QtChoices nextRun;
+    nextRun.UseFolder(QString::fromStdString(window.folder.Path("")));
+    EXPECT_EQ(ReadOrder(nextRun, OrderedFor::Board), (OrderChoice{false, Grade::VEasy, 0}));
+    QTest::keyClick(&Of(window.form, "cmdneworder"), Qt::Key_Space);
+    Press(popup, "Grade0");
+    EXPECT_EQ(Get(popup, "OrderSize OrderOneSolution"), "8x9 false") << "the player's own wish is back";
+}
+
 TEST(Window, ClosingStopsAJobAndLeavesWhateverIsOpen) {
     const std::vector<std::pair<const char*, const char*>> cases{
         {"mnuloadpuz", "file: Tidewalk"},
@@ -254,6 +290,7 @@ TEST(Window, ClosingStopsAJobAndLeavesWhateverIsOpen) {
         {"control27", "Form5"},
         {"mnueditor", "Form6"},
         {"mnuabout", "About"},
+        {"mnusolutions", "Solutions"},
         {"mnuprintpreview", "PrintPreview"}};
     for (const auto& [command, dialog] : cases) {
         WindowGame window;
