@@ -33,7 +33,10 @@ Character Narrowed(const Character& wanted, BoardSize size, RandomSource& random
 /// A layout of as many islands as the character says, grown from one island.
 Puzzle SetLayout(BoardSize size, const Character& character, RandomSource& random) {
     Puzzle start(size);
-    start.SetIsland(start.CellId(random.Draw(size.rows) + 1, random.Draw(size.cols) + 1), 1);
+    // The order is fixed: that of two draws in one call would be the compiler's choice.
+    const int col = random.Draw(size.cols) + 1;
+    const int row = random.Draw(size.rows) + 1;
+    start.SetIsland(start.CellId(row, col), 1);
     const Figures islands = Common(PartsOf(*character.density, start.CellCount()), IslandsToOrder(size));
     return AddIslands(start, DrawWithin(islands, random), character.loops ? character.loops->least : 0, random);
 }

@@ -168,7 +168,7 @@ TEST(Program, DrawsAndPrintsIntoFiles) {
     ExpectFailure({"--picture", "a.png", "missing.txt", "1"}, "No puzzles in this file");
     ExpectFailure({"--picture", "a.png", broken, "2"}, "Puzzle 2");
     ExpectFailure({"--pdf", "/nowhere/a.pdf", kPuzzles, "1-2"}, "No such file");
-    ExpectFailure({"--pdf", "a.pdf", kPuzzles, "1-145"}, "There are only 144 puzzles");
+    ExpectFailure({"--pdf", "a.pdf", kPuzzles, "1-201"}, "There are only 200 puzzles");
     ExpectFailure({"--pdf", "a.pdf", broken, "1-2"}, "empty: 2");
     ASSERT_EQ(::mkfifo("pipe", 0600), 0);
     for (const char* const option : {"--pdf", "--picture"}) {
