@@ -48,6 +48,14 @@ Puzzle WithMoreIslands(const Puzzle& grown, RandomSource& random) {
     return AddIslands(grown, std::max(islands, std::min(islands + islands / 2, kEnough)), 0, random);
 }
 
+/// Many loops need more islands than grow.
+Puzzle WithRoomForLoops(const Puzzle& grown, int loops, RandomSource& random) {
+    constexpr int kIslandsPerLoop = 4;
+    return AddIslands(
+        grown, std::max(grown.IslandCount(), std::min(loops * kIslandsPerLoop, IslandsToOrder(grown.Size()).most)),
+        loops, random);
+}
+
 /// Changes the layout until it is what was ordered, as far as that comes about.
 void Refine(SolvedLayout& layout, const PuzzleOrder& order, RandomSource& random, const MayGoOn& mayGoOn) {
     if (!FitFigures(layout, order.character, random)) return;
@@ -75,6 +83,7 @@ CreatedPuzzle CreateOrdered(SolverBoard& board, BoardSize size, const PuzzleOrde
     } else {
         created = CreatePuzzle(board, size, random, mayGoOn);
         if (!created.solved) return created;
+        if (drawn.loops) created.puzzle = WithRoomForLoops(created.puzzle, drawn.loops->least, random);
         if (order.grade == Grade::VHard) created.puzzle = WithMoreIslands(created.puzzle, random);
     }
     SolvedLayout layout(created.puzzle);
