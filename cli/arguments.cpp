@@ -19,6 +19,7 @@
 
 #include "cli/commands.h"
 #include "cli/descriptor_buffers.h"
+#include "generator/character.h"
 
 namespace tidewalk {
 
@@ -108,14 +109,9 @@ const std::map<std::string, Grade> kGrades{
 
 /// What the figures of a character may be.
 struct FigureRule {
-    int most;   ///< what is above is nonsense
+    int most;   ///< what no size has more of
     int slack;  ///< a single figure means so many more or less, too
 };
-
-// A board of 25 by 25 with an island in every cell has 24 * 24 pairs more than a tree.
-constexpr FigureRule kDensityRule{100, 3};
-constexpr FigureRule kLoopsRule{24 * 24, 0};
-constexpr FigureRule kDoublesRule{100, 5};
 
 /// Takes a figure off the front of the text; false when there is none up to `most`.
 bool TakeFigure(std::string_view& text, int most, int& figure) {
@@ -311,10 +307,11 @@ class Parser {
             ->type_name("veasy|easy|hard|vhard")
             ->transform(CLI::IsMember(kGrades, CLI::ignore_case).description(""))
             ->excludes(any);
-        AddFigures(create, "--density", order.character.density, kDensityRule,
+        AddFigures(create, "--density", order.character.density, {kMostDensity, 3},
                    "Islands in every 100 cells; N is give or take 3");
-        AddFigures(create, "--loops", order.character.loops, kLoopsRule, "Bridged pairs of islands beyond a tree");
-        AddFigures(create, "--doubles", order.character.doubles, kDoublesRule,
+        AddFigures(create, "--loops", order.character.loops, {MostLoops({kMaxSide, kMaxSide}), 0},
+                   "Bridged pairs of islands beyond a tree");
+        AddFigures(create, "--doubles", order.character.doubles, {100, 5},
                    "Double bridges in every 100 bridged pairs; N is give or take 5");
     }
 

@@ -5,7 +5,9 @@
 #include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <iomanip>
 #include <random>
+#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -13,6 +15,7 @@
 #include "cli/ordered_work.h"
 #include "cli/record_output.h"
 #include "cli/report.h"
+#include "generator/character.h"
 #include "generator/grid_size.h"
 #include "generator/puzzle_order.h"
 #include "model/file_error.h"
@@ -45,6 +48,52 @@ WantedSize SizeFromArgument(const std::string& text) {
     const bool isSize = !size.empty() && size.find_first_not_of("0123456789x") == std::string::npos &&
                         std::count(size.begin(), size.end(), 'x') <= 1;
     return isSize ? ParseGridSize(size) : WantedSize{};
+}
+
+/// The largest of the sizes that are drawn.
+constexpr BoardSize kLargestDrawn{kMaxSide - 1, kMaxSide - 1};
+
+/// Whether such puzzles can be ordered of the size, or of some size if it is to be random.
+bool CanBeOrderedOf(const WantedSize& wanted, const Character& character) {
+    if (!wanted.random) return CanBeOrdered(character, wanted.size);
+    for (int rows = kMinSide; rows <= kLargestDrawn.rows; ++rows) {
+        for (int cols = kMinSide; cols <= kLargestDrawn.cols; ++cols) {
+            if (CanBeOrdered(character, {rows, cols})) return true;
+        }
+    }
+    return false;
+}
+
+/// A size that such puzzles can be ordered of, drawn if it is to be random. A size that is not one of them is drawn
+/// again; those that are come equally often, however seldom candidates of them fit.
+BoardSize OrderedSize(const WantedSize& wanted, const Character& character, RandomSource& random) {
+    BoardSize size = SizeOf(wanted, random);
+    while (wanted.random && !CanBeOrdered(character, size))
+        size = SizeOf(wanted, random);
+    return size;
+}
+
+/// The islands as a figure in every hundred cells.
+std::string DensityText(int islands, int cells) {
+    std::ostringstream text;
+    text << std::fixed << std::setprecision(1) << 100.0 * islands / cells;
+    return text.str();
+}
+
+/// Why such puzzles cannot be ordered: what can be instead.
+std::string WhyNotOrdered(const WantedSize& wanted, const Character& character) {
+    const BoardSize size = wanted.random ? kLargestDrawn : wanted.size;
+    const std::string sized = std::to_string(size.rows) + "x" + std::to_string(size.cols);
+    const std::string puzzles = (wanted.random ? "random sizes, up to " + sized + ", have " : sized + " has ");
+    if (!CanBeOrderedOf(wanted, {{}, character.loops, {}})) {
+        return "--loops: " + puzzles + "0 to " + std::to_string(MostLoops(size)) + " loops";
+    }
+    if (CanBeOrderedOf(wanted, {character.density, {}, {}})) return "no size has that --density and that many --loops";
+    const int cells = size.rows * size.cols;
+    const Figures islands = IslandsToOrder(size);
+    return "--density: " + puzzles + std::to_string(islands.least) + " to " + std::to_string(islands.most) +
+           " islands, " + DensityText(islands.least, cells) + " to " + DensityText(islands.most, cells) +
+           " in every 100 cells, and no number of them is within what was asked for";
 }
 
 /// Makes the puzzles of one run.
@@ -107,9 +156,8 @@ class PuzzleMaker {
 
     /// Makes puzzles until one is as ordered. Any thread may ask for one.
     std::string MakeRecord(SolverBoard& board, int number) {
-        // Drawn once, so that sizes which fit seldom come as often as others.
         RandomSource sizes(SeedOfTry(seed_, number, 0));
-        const BoardSize size = SizeOf(size_, sizes);
+        const BoardSize size = OrderedSize(size_, options_.order.character, sizes);
         for (int attempt = 1; attempt <= kMostCandidates && mayGoOn_(); ++attempt) {
             RandomSource random(SeedOfTry(seed_, number, attempt));
             const Candidate candidate = CreateCandidate(board, size, options_.order, random, mayGoOn_);
@@ -161,6 +209,10 @@ int CreatePuzzles(Console& console, const CreateOptions& options) {
     const WantedSize size = SizeFromArgument(options.size);
     if (!size.random && !IsCreatableSize(size.size)) {
         Say(console, "a puzzle has 7 to 25 rows and columns, not \"" + options.size + "\"");
+        return kWrongUsage;
+    }
+    if (!CanBeOrderedOf(size, options.order.character)) {
+        Say(console, WhyNotOrdered(size, options.order.character));
         return kWrongUsage;
     }
     PuzzleMaker maker(console, options, size);

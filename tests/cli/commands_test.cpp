@@ -148,8 +148,10 @@ TEST_F(Cli, CheckCountsExactlyAndNeverGuesses) {
 }
 
 TEST_F(Cli, PartsOfARunAreTheRun) {
-    const std::vector<Words> orders{
-        {"random", "--unique"}, {"9", "--any", "--doubles", "50-"}, {"8", "--grade", "Hard", "--loops", "1-9"}};
+    const std::vector<Words> orders{{"random", "--unique"},
+                                    {"random", "--any", "--density", "20-20"},
+                                    {"9", "--any", "--doubles", "50-"},
+                                    {"8", "--grade", "Hard", "--loops", "1-9"}};
     for (const Words& order : orders) {
         const std::string name = ::testing::PrintToString(order);
         const auto made = [&](const std::string& first, const std::string& count, const std::string& jobs) {
@@ -181,10 +183,25 @@ TEST_F(Cli, CreateKeepsWhatIsOrdered) {
     }
     ASSERT_EQ(Run({"create", "8", "--grade", "veasy", "--seed", "1", "--out", folder_.Path("v")}), 0);
     EXPECT_EQ(RunJson({"list", folder_.Path("v"), "--grades"})[0]["grade"], "VEasy");
-    const json report =
-        RunJson({"create", "7", "--first", "9", "--seed", "1", "--loops", "99", "--out", folder_.Path("no")});
+    const json report = RunJson(
+        {"create", "7", "--first", "9", "--seed", "1", "--density", "13", "--loops", "4", "--out", folder_.Path("no")});
     EXPECT_EQ(err_, "tidewalk-cli: puzzle 9: none came out right in 10000 tries\n");
     EXPECT_EQ(report["tried"], 10000);
+}
+
+TEST_F(Cli, AnOrderThatNoSuchSizeMeetsIsRefusedWithWhatItMeets) {
+    const auto refusal = [&](const Words& order) {
+        Words words{"create", "--out", folder_.Path("no")};
+        words.insert(words.end(), order.begin(), order.end());
+        EXPECT_EQ(Run(words), 2);
+        return err_;
+    };
+    EXPECT_EQ(refusal({"9", "--loops", "9-"}), "tidewalk-cli: --loops: 9x9 has 0 to 8 loops\n");
+    EXPECT_TRUE(refusal({"7", "--density", "3-9"})
+                    .starts_with("tidewalk-cli: --density: 7x7 has 6 to 22 islands, 12.2 to 44.9 in"));
+    EXPECT_NE(refusal({"random", "--loops", "58"}).find("up to 24x24, have 0 to 57 loops"), std::string::npos);
+    EXPECT_NE(refusal({"random", "--loops", "57", "--density", "10-10"}).find("no size has"), std::string::npos);
+    EXPECT_NE(refusal({"25", "--density", "46"}).find("from 0 to 45\n"), std::string::npos);
 }
 
 TEST_F(Cli, CreateAppendsPuzzlesOfAnySize) {
