@@ -220,7 +220,8 @@ class Parser {
             figures = ParseFigures(given, rule);
             if (figures) return;
             throw CLI::ValidationError(
-                name, "\"" + given + "\" is no N, A-B or A- of whole numbers from 0 to " + std::to_string(rule.most));
+                name, "\"" + given + "\" is no N, no A-B with A not above B and no A-, of whole numbers from 0 to " +
+                          std::to_string(rule.most));
         };
         command->add_option_function<std::string>(name, take, text)->type_name("N|A-B|A-");
     }

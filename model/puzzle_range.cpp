@@ -10,7 +10,9 @@ namespace {
 std::optional<int> ParseNumber(std::string_view text) {
     int number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size() || number < 1) return std::nullopt;
+    const bool isNumber = error == std::errc() && end == text.data() + text.size();
+    // The largest one stands for the end of the collection.
+    if (!isNumber || number < 1 || number == PuzzleRange::kEnd) return std::nullopt;
     return number;
 }
 

@@ -340,7 +340,8 @@ TEST_F(Cli, NoFileIsTooStrange) {
 TEST(PuzzleRange, IsANumberOrTwo) {
     EXPECT_EQ(ParsePuzzleRange("7"), (PuzzleRange{7, 7}));
     EXPECT_EQ(ParsePuzzleRange("3-9"), (PuzzleRange{3, 9}));
-    for (const char* const text : {"", "0", "-", "3-", "-3", "9-3", "1-2-3", "1 ", "x", "99999999999"})
+    EXPECT_EQ(ParsePuzzleRange("5-2147483646"), (PuzzleRange{5, 2147483646}));
+    for (const char* const text : {"", "0", "-", "3-", "-3", "9-3", "1-2-3", "1 ", "x", "2147483647", "99999999999"})
         EXPECT_FALSE(ParsePuzzleRange(text)) << text;
 }
 
