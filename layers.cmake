@@ -33,7 +33,7 @@ file(REMOVE_RECURSE ${CMAKE_BINARY_DIR}/layers)
 tidewalk_layer(model FILES
     model/cell_set model/cell_words model/characters model/check model/collection_file model/convert_layout
     model/file_error model/grid model/line_reader model/link model/may_go_on model/numbers model/paths
-    model/plain_grid model/puzzle model/puzzle_range model/puzzle_record model/random_source model/replace_file model/system_file)
+    model/plain_grid model/puzzle model/puzzle_range model/puzzle_record model/put_aside model/random_source model/replace_file model/system_file)
 
 tidewalk_layer(solver ON model FILES
     solver/archipelago solver/balance solver/bound_trail solver/clauses solver/connect_islands solver/contradictions
@@ -57,19 +57,22 @@ tidewalk_layer(drawing ON model FILES
     drawing/contrast drawing/double_line drawing/render_puzzle drawing/surface)
 
 tidewalk_layer(board ON drawing FILES
-    board/board board/bridge_table board/check_bridges board/drawing board/guide board/history board/layout board/place_bridge
+    board/board board/bridge_table board/check_bridges board/draw_marks board/drawing board/guide board/history board/history_lines board/kept_play_text board/layout
+    board/mistakes board/pair_marks board/place_bridge
     options/options)
 
 # The game: what the window's handlers share, and the seams to the world.
 
 tidewalk_layer(game ON board generator FILES
-    game/background game/choices game/clock game/file_work game/game game/guidance game/job game/job_state game/list_box game/main_window game/messages game/order_choices game/output game/pick_file
+    game/background game/choices game/clock game/file_work game/game game/guidance game/job game/job_state game/list_box
+    game/main_window game/messages game/order_choices game/output game/pick_file game/play_store game/play_time
     game/questions)
 
 # The handlers of menus, buttons, mouse and keys, each beside its subject.
 
 tidewalk_layer(commands ON game FILES
-    board/board_commands board/board_keys board/board_mouse board/copy_and_print board/print_pages board/show_board
+    board/after_move board/board_commands board/board_keys board/board_mouse board/copy_and_print board/keep_play
+    board/print_pages board/show_board
     generator/batch generator/new_puzzle generator/shuffle
     model/collection_commands model/configuration model/import_grid model/load_puzzle model/navigation
     model/number_grid

@@ -23,6 +23,8 @@ void DropSelection(Board& board) {
     board.HoverRow = board.HoverCol = 0;
     board.AnchorRow = board.AnchorCol = 0;
     board.Line1.visible = false;
+    board.pressIsOver = board.pressIsOver || board.press.island != 0;
+    board.press = {};
 }
 
 void FollowLayout(Board& board, const BoardLayout& before) {
@@ -41,11 +43,15 @@ void TakePuzzle(Board& board, const Puzzle& puzzle) {
     board.puzzle = puzzle;
     board.OpenNeighbours.Fill({});
     board.BridgeState.Clear();
+    board.Marks.Clear();
     board.history.Clear();
     board.guide = {};
+    board.pointed = {};
     DropSelection(board);
     board.FocusRow = board.FocusCol = 0;
     board.Shape1.visible = false;
+    board.solved = false;
+    board.playBack.clear();
 }
 
 }  // namespace tidewalk

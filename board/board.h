@@ -2,10 +2,13 @@
 // The board: the puzzle on the screen, and what the player has done on it.
 #pragma once
 
+#include <string>
+
 #include "board/bridge_table.h"
 #include "board/guide.h"
 #include "board/history.h"
 #include "board/layout.h"
+#include "board/pair_marks.h"
 #include "model/cell_words.h"
 #include "model/puzzle.h"
 
@@ -21,8 +24,10 @@ struct Board {
     int FittedCellSize = 0;  ///< the cell size with which the last loaded puzzle fitted its container, 0 before that
 
     BridgeTable BridgeState;
+    PairMarks Marks;
     History history;
-    int loadCount = 0;  ///< how often the puzzle was replaced as a whole
+    std::string playBack;  ///< what is to be said of play that came back with the puzzle, "" for none
+    int loadCount = 0;     ///< how often the puzzle was replaced as a whole
 
     int HoverRow = 0;  ///< the cell that a click is for; 0 or -1 for none
     int HoverCol = 0;
@@ -30,10 +35,21 @@ struct Board {
     int AnchorCol = 0;
     int FocusRow = 0;  ///< the island with the keyboard's focus; 0 for none
     int FocusCol = 0;
-    bool focusShows = false;  ///< the last move on the board was made with a key
-    int DragOffsetX = 0;      ///< the pointer less the board's corner when the left button went down, in twips
+    int DragOffsetX = 0;  ///< the pointer less the board's corner when the left button went down, in twips
     int DragOffsetY = 0;
-    bool dragging = false;  ///< the offsets are those of the button that is down now
+
+    bool solved = false;       ///< the player's bridges are a true solution
+    bool focusShows = false;   ///< the last move on the board was made with a key
+    bool dragging = false;     ///< the offsets are those of the button that is down now
+    bool pressIsOver = false;  ///< the left button is still down, but what it began was called off
+    bool otherIsOver = false;  ///< another button is down that called it off, and does nothing else
+
+    /// A press of the left button on an island, which may become a bridge drawn to another one.
+    struct {
+        CellNumber island = 0;  ///< 0 for none
+        Point at;               ///< the pointer in the container, in twips
+        bool drawing = false;   ///< the pointer has gone too far for a click
+    } press;
 
     /// The rubber band from the selected island to the pointer, in twips on the board.
     struct {
@@ -47,6 +63,13 @@ struct Board {
         bool visible = false;
         CellPlace cell;
     } Shape1;
+
+    /// Two islands that the list of moves points at; 0 for none.
+    struct PointedPair {
+        CellNumber a = 0;
+        CellNumber b = 0;
+        bool operator==(const PointedPair&) const = default;
+    } pointed;
 
     Guide guide;
 

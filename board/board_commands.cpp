@@ -1,7 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "board/board_commands.h"
 
+#include <algorithm>
+#include <utility>
+
+#include "board/after_move.h"
 #include "board/check_bridges.h"
+#include "board/keep_play.h"
+#include "board/place_bridge.h"
 #include "board/show_board.h"
 #include "game/job.h"
 #include "model/load_puzzle.h"
@@ -9,40 +15,108 @@
 
 namespace tidewalk {
 
-void cmdzoom_Click(Game& game, int index) {
-    if (!game.pictures.IsVisible() || game.job.BusyFlag()) return;
+namespace {
+
+/// Frames a cell for a second and says what is wrong there.
+void FrameFault(Game& game, CellPlace cell, const std::string& status) {
+    game.board.Shape1 = {true, cell};
+    game.pictures.ShowOverlay();
+    game.pictures.StartMarkerTime();
+    game.window.SetText(WindowText::Status, status);
+}
+
+/// Shows the board, and what is over it, with cells of another size.
+void ZoomTo(Game& game, int cellSize) {
     const BoardLayout before = game.board.layout;
-    int cellSize = before.CellSize;
-    if (index == 0) cellSize = RoundHalfEven(cellSize * 0.9);
-    if (index == 1) cellSize = RoundHalfEven(cellSize * 1.1);
-    if (index == 2) cellSize = game.board.FittedCellSize;
     ZoomBoard(game, cellSize);
     RedrawBoard(game, false);
     FollowLayout(game.board, before);
     game.pictures.ShowOverlay();
 }
 
+}  // namespace
+
+void cmdzoom_Click(Game& game, int index) {
+    if (!game.pictures.IsVisible() || game.job.BusyFlag()) return;
+    int cellSize = game.board.layout.CellSize;
+    if (index == 0) cellSize = RoundHalfEven(cellSize * 0.9);
+    if (index == 1) cellSize = RoundHalfEven(cellSize * 1.1);
+    if (index == 2) cellSize = game.board.FittedCellSize;
+    ZoomTo(game, cellSize);
+}
+
+void PinchBoard(Game& game, double cellSize, Point from, Point to) {
+    if (!game.pictures.IsVisible() || game.job.BusyFlag() || game.board.puzzle.Rows == 0) return;
+    const BoardLayout before = game.board.layout;
+    const int wanted = RoundHalfEven(std::clamp(cellSize, double{kSmallestCell}, double{kLargestCell}));
+    if (wanted != before.CellSize) ZoomTo(game, wanted);
+    BoardLayout& layout = game.board.layout;
+    // What lay between the fingers lies there again.
+    const double scale = static_cast<double>(layout.CellSize) / before.CellSize;
+    const Point on{from.x - before.Picture1.left, from.y - before.Picture1.top};
+    layout.Picture1.left = to.x - layout.OriginX - (on.x - before.OriginX) * scale;
+    layout.Picture1.top = to.y - layout.OriginY - (on.y - before.OriginY) * scale;
+    game.pictures.PlacePicture();
+}
+
 void cmdundo_Click(Game& game) {
+    if (!game.job.BusyFlag()) GoToMoment(game, game.board.history.Done() - 1);
+}
+
+void cmdredo_Click(Game& game) {
+    if (!game.job.BusyFlag()) GoToMoment(game, game.board.history.Done() + 1);
+}
+
+void GoToMoment(Game& game, int moment) {
+    Board& board = game.board;
+    if (game.job.BusyFlag() || moment < 0 || moment > board.history.Count() || moment == board.history.Done()) return;
+    while (board.history.Done() > moment) {
+        const UndoRecord record = board.history.Undo()->record;
+        SetPairState(board, record.a, record.b, record.state);
+    }
+    while (board.history.Done() < moment) {
+        const PlayedMove move = *board.history.Redo();
+        SetPairState(board, move.record.a, move.record.b, move.after);
+    }
+    AfterMove(game);
+}
+
+void PointAtPair(Game& game, CellNumber a, CellNumber b) {
+    const Board::PointedPair before = std::exchange(game.board.pointed, {a, b});
+    if (before != game.board.pointed) game.pictures.ShowOverlay();
+}
+
+void mnucheckpoint_Click(Game& game) {
     if (game.job.BusyFlag()) return;
-    const auto record = game.board.history.Pop();
-    if (!record) return;
-    game.board.BridgeState.Set(record->a, record->b, record->state);
-    RedrawBoard(game, false);
+    game.board.history.SetCheckpoint();
+    game.window.SetText(WindowText::Status, "Checkpoint set");
+    KeepPlay(game);
+}
+
+void mnubacktocheckpoint_Click(Game& game) {
+    if (game.job.BusyFlag()) return;
+    if (const auto moment = game.board.history.BackToCheckpoint()) {
+        GoToMoment(game, *moment);
+    } else {
+        game.window.SetText(WindowText::Status, "There is no checkpoint to go back to");
+        // One at this very moment was given up.
+        KeepPlay(game);
+    }
 }
 
 void cmdverify_Click(Game& game) {
     if (game.job.BusyFlag()) return;
     BridgeCheck check = CheckBridgeCounts(game.board);
     game.List1.SetLines(std::move(check.lines));
-    if (check.wrong) {
-        game.board.Shape1 = {true, *check.wrong};
-        game.pictures.ShowOverlay();
-        game.pictures.StartMarkerTime();
-        game.window.SetText(WindowText::Status, "Not done yet");
-    } else {
-        game.prompts.Show("All Done!", "vbhappy+vbok");
-        game.events.DoEvents();
-    }
+    if (check.wrong) return FrameFault(game, *check.wrong, "Not done yet");
+    const std::optional<BoardFault> fault = FaultBeyondNumbers(game.board);
+    if (fault && game.options.StrictCheck) return FrameFault(game, fault->cell, "Not done yet: " + fault->text);
+    const std::string status = fault ? "All numbers are right, but " + fault->text : "";
+    if (fault) FrameFault(game, fault->cell, status);
+    game.prompts.Show("All Done!", "vbhappy+vbok");
+    game.events.DoEvents();
+    // The frame's time has gone by behind the box.
+    if (fault) FrameFault(game, fault->cell, status);
 }
 
 void Timer1_Timer(Game& game) {
@@ -64,6 +138,7 @@ void mnupuzreset_Click(Game& game) {
     const int answer = game.prompts.Show("Reset?", "vbYesNo");
     game.events.DoEvents();
     if (answer != kYes) return;
+    ForgetPlay(game);
     if (game.collection.importedFrom.empty()) {
         LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber);
     } else {

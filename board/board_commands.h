@@ -9,8 +9,24 @@ namespace tidewalk {
 /// The zoom buttons: index 0 "Zoom out", 1 "Zoom in", 2 "Reset zoom". Nothing happens while the board is hidden.
 void cmdzoom_Click(Game& game, int index);
 
-/// Takes the last move back; nothing happens when there is none.
+/// Two fingers stretch or squeeze the board: its cells get about `cellSize` twips, and what lay at `from` in the
+/// container comes to lie at `to`, in twips.
+void PinchBoard(Game& game, double cellSize, Point from, Point to);
+
+/// Takes the last move back, or makes the one again that was taken back last; nothing happens when there is none.
 void cmdundo_Click(Game& game);
+void cmdredo_Click(Game& game);
+
+/// Takes back moves, or makes them again, until `moment` moves are made. A moment that there is not changes nothing.
+void GoToMoment(Game& game, int moment);
+
+/// Marks two islands on the board, at which the list of moves points; zeros for none.
+void PointAtPair(Game& game, CellNumber a, CellNumber b);
+
+/// Remembers this moment, and goes back to the newest one remembered before this one. Moves taken back on the way can
+/// be made again.
+void mnucheckpoint_Click(Game& game);
+void mnubacktocheckpoint_Click(Game& game);
 
 /// The check button: "All Done!", or the first wrong island framed for a second.
 void cmdverify_Click(Game& game);

@@ -5,7 +5,9 @@
 #include <cstdlib>
 #include <tuple>
 
+#include "board/after_move.h"
 #include "board/board_mouse.h"
+#include "board/place_bridge.h"
 
 namespace tidewalk {
 
@@ -123,6 +125,20 @@ void Picture1_KeyDown(Game& game, BoardKey key) {
         ReleaseOnFocused(game, MouseButton::Right, false);
     } else {
         FocusIsland(game, Destination(game.board.puzzle, key, focused));
+    }
+    game.pictures.ShowOverlay();
+}
+
+void LayTowards(Game& game, BoardKey key) {
+    Board& board = game.board;
+    const CellNumber focused = FocusedIsland(board);
+    if (game.job.BusyFlag() || focused == 0) return;
+    board.focusShows = true;
+    const CellNumber to = IslandTowards(board.puzzle, key, focused);
+    if (to != focused && SeeEachOther(board.puzzle, focused, to)) {
+        LayBridge(board, PlaceMode::Cycle, focused, to);
+        DropSelection(board);
+        AfterMove(game);
     }
     game.pictures.ShowOverlay();
 }

@@ -26,6 +26,10 @@ void Picture1_GotFocus(Game& game);
 /// any key only gives it to one. While a job runs nothing happens.
 void Picture1_KeyDown(Game& game, BoardKey key);
 
+/// Lays a bridge from the focused island to the one that it sees in the direction of an arrow key, as two clicks would,
+/// and drops the selection. Nothing happens where it sees none there.
+void LayTowards(Game& game, BoardKey key);
+
 /// Lets go of the selected island. False when none is selected or a job runs.
 bool LetGo(Game& game);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "board/check_bridges.h"
 
+#include "board/mistakes.h"
 #include "model/numbers.h"
 
 namespace tidewalk {
@@ -13,6 +14,17 @@ std::string CountLine(CellPlace place, int number, int bridges) {
 }
 
 }  // namespace
+
+std::optional<BoardFault> FaultBeyondNumbers(const Board& board) {
+    const Mistakes mistakes = FindMistakes(board.puzzle, board.BridgeState);
+    const auto fault = [&](const std::vector<CellNumber>& cells, const char* text) {
+        return BoardFault{board.puzzle.PlaceOf(cells.front()), text};
+    };
+    if (!mistakes.runOver.empty()) return fault(mistakes.runOver, "a bridge runs over an island");
+    if (!mistakes.crossings.empty()) return fault(mistakes.crossings, "bridges cross");
+    if (!mistakes.closed.empty()) return fault(mistakes.closed, "the islands are not one group");
+    return std::nullopt;
+}
 
 BridgeCheck CheckBridgeCounts(const Board& board) {
     BridgeCheck check;

@@ -17,6 +17,16 @@ struct BridgeCheck {
     std::vector<std::string> lines;  ///< what was counted, a line an island, up to the first wrong one
 };
 
+/// What is wrong with bridges that give every island its number, and a cell where that can be seen.
+struct BoardFault {
+    CellPlace cell;
+    std::string text;  ///< "bridges cross"
+};
+
+/// Crossings, bridges over islands and separate groups on a board whose every island has its number; nothing on one
+/// that is solved.
+std::optional<BoardFault> FaultBeyondNumbers(const Board& board);
+
 /// Compares every island's bridges with its number. Crossings and connections are not looked at.
 BridgeCheck CheckBridgeCounts(const Board& board);
 

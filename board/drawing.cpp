@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "board/drawing.h"
 
+#include "board/draw_marks.h"
+#include "board/place_bridge.h"
 #include "drawing/contrast.h"
 #include "drawing/double_line.h"
 #include "model/numbers.h"
@@ -28,8 +30,17 @@ void BoardDrawing::DrawOpenNeighbours() {
     }
 }
 
+/// In the normal view the stored solution must not show through: every pair that sees each other has its line.
+void BoardDrawing::DrawSights() {
+    if (showsSolution_ || options_.StoredLinesOnly) return;
+    for (const auto& [a, b] : PairsInSight(board_.puzzle))
+        DrawLinkLine(a, b);
+}
+
 void BoardDrawing::DrawLinks() {
     for (const Link& link : board_.puzzle.LinkList) {
+        if (!showsSolution_ && !options_.StoredLinesOnly && SeeEachOther(board_.puzzle, link.first, link.second))
+            continue;
         if (!showsSolution_ || link.Bridges() == 1) {
             DrawLinkLine(link.first, link.second);
         } else if (link.Bridges() == 2) {
@@ -55,11 +66,16 @@ void BoardDrawing::DrawShape(CellNumber id, double half, Colour colour) {
 /// player is.
 Colour BoardDrawing::DrawIslandShape(CellNumber id) {
     const double half = board_.layout.HalfCell;
-    DrawShape(id, half, options_.NodeColour);
-    if (options_.ShowFinished == 0 || showsSolution_) return options_.NodeColour;
-    if (board_.ShownBridges().CountAt(id) != board_.puzzle.IslandAt(id)) return options_.NodeColour;
+    const bool pales =
+        options_.ShowFinished && !showsSolution_ && board_.ShownBridges().CountAt(id) == board_.puzzle.IslandAt(id);
+    if (!pales) {
+        DrawShape(id, half, options_.NodeColour);
+        return options_.NodeColour;
+    }
     constexpr double kRim = 0.12;
     constexpr double kPaleness = 0.8;
+    // Between two dark colours only a rim that stands out tells the island from the others.
+    DrawShape(id, half, LegibleOn(options_.BoardBackground(), options_.NodeColour, kShapeContrast));
     const Colour pale = Mixed(options_.NodeColour, options_.BoardBackground(), kPaleness);
     DrawShape(id, half * (1 - kRim), pale);
     return pale;
@@ -80,10 +96,15 @@ void BoardDrawing::RedrawBoard(bool showSolution) {
     picture_.Clear(options_.BoardBackground());
     DrawCellOutlines();
     DrawOpenNeighbours();
+    DrawSights();
     DrawLinks();
     for (CellNumber id = 1; id <= board_.puzzle.CellCount(); ++id)
         DrawIsland(id);
-    if (!showSolution) DrawPlacedBridges();
+    if (showSolution) return;
+    DrawPlacedBridges();
+    MarkDrawing marks(picture_, board_, options_);
+    marks.DrawMarkedPairs();
+    marks.DrawMistakes();
 }
 
 void BoardDrawing::DrawCellOutlines() {

@@ -16,7 +16,7 @@ class BoardDrawing {
         : picture_(picture), board_(board), options_(options) {}
 
     /// Clears the picture and draws everything: cell outlines, the lines between islands that can be joined, the
-    /// islands, and the player's bridges or, with `showSolution`, the stored solution in their place.
+    /// islands, and the player's bridges and marks or, with `showSolution`, the stored solution in their place.
     void RedrawBoard(bool showSolution);
 
     /// The outline of every cell, water too.
@@ -35,6 +35,7 @@ class BoardDrawing {
     void DrawLine(CellNumber a, CellNumber b, Colour colour);
     void DrawDouble(CellNumber a, CellNumber b, Colour colour);
     void DrawOpenNeighbours();
+    void DrawSights();
     void DrawLinks();
     void DrawShape(CellNumber id, double half, Colour colour);
     Colour DrawIslandShape(CellNumber id);

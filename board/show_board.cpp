@@ -2,6 +2,7 @@
 #include "board/show_board.h"
 
 #include "board/drawing.h"
+#include "board/keep_play.h"
 #include "model/numbers.h"
 #include "model/paths.h"
 #include "techniques/assess_board.h"
@@ -18,11 +19,13 @@ void ZoomBoard(Game& game, int cellSize) {
 }
 
 void LayoutNewBoard(Game& game, BoardSize size) {
+    KeepTime(game);
     game.board.puzzle = Puzzle(size);
     ZoomBoard(game, FittingCellSize(size, game.pictures.ContainerExtent().width));
 }
 
 void PutOnBoard(Game& game, const Puzzle& puzzle) {
+    KeepTime(game);
     TakePuzzle(game.board, puzzle);
     game.job.PuzzleReplaced();
     game.guidance.Clear();

@@ -18,6 +18,8 @@ void ReadOldLayout(std::string_view bytes);
 void ReadConfiguration(std::string_view bytes);
 /// "all.col": the whole start with it, and every scheme that it offers.
 void ReadColourSchemes(std::string_view bytes);
+/// The moves that were kept of a puzzle, as "play.db" holds them.
+void ReadPlay(std::string_view bytes);
 
 struct Target {
     const char* name;  ///< of its folder of inputs
@@ -26,7 +28,8 @@ struct Target {
 
 inline constexpr Target kEngineTargets[] = {
     {"collection", ReadCollection}, {"grid", ReadGrid}, {"layout_conversion", ReadOldLayout}};
-inline constexpr Target kGameTargets[] = {{"configuration", ReadConfiguration}, {"colour_schemes", ReadColourSchemes}};
+inline constexpr Target kGameTargets[] = {
+    {"configuration", ReadConfiguration}, {"colour_schemes", ReadColourSchemes}, {"play", ReadPlay}};
 
 /// Ends the process with this text when `holds` is false, which a fuzzer takes for a find and a test for a failure.
 inline void Demand(bool holds, const char* text) {

@@ -14,6 +14,8 @@
 #include "game/main_window.h"
 #include "game/messages.h"
 #include "game/output.h"
+#include "game/play_store.h"
+#include "game/play_time.h"
 #include "game/questions.h"
 #include "generator/puzzle_order.h"
 #include "model/random_source.h"
@@ -34,6 +36,7 @@ struct Seams {
     Clipboard& clipboard;
     Printers& printers;
     Background& background;
+    PlayStore& plays;
 };
 
 /// The collection that is open, and the place in it of the puzzle that was loaded last.
@@ -64,6 +67,7 @@ struct Game : Seams {
     Options options;
     JobState job;
     Guidance guidance;
+    PlayTime playTime;
     RandomSource random;
 
     ListBox List1{ListBox::Order::Sorted};   ///< the island status list, or the lines of the last check

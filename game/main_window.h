@@ -60,6 +60,9 @@ class BoardPictures {
     /// What is drawn here stays on the board's picture until it is drawn over.
     virtual Surface& Picture() = 0;
 
+    /// How far the pointer goes before a press becomes a drag, in twips.
+    virtual double DragDistance() const = 0;
+
     /// The board's rectangle in its layout has changed.
     virtual void PlacePicture() = 0;
 

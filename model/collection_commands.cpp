@@ -58,8 +58,8 @@ void ShowAfterDelete(Game& game, int left) {
     Collection& collection = game.collection;
     collection.PuzzleNumber = std::min(std::max(collection.PuzzleNumber - 1, 1), left);
     collection.PuzzleCount = left;
-    LoadPuzzle(game, collection.CollectionPath, collection.PuzzleNumber);
-    game.board.history.Clear();
+    // Where there is no next puzzle to be read, the moves of the deleted one would stay.
+    if (!LoadPuzzle(game, collection.CollectionPath, collection.PuzzleNumber)) game.board.history.Clear();
     game.prompts.Show("Deleted", "vbok+vbtrash");
 }
 

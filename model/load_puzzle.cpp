@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/load_puzzle.h"
 
+#include "board/keep_play.h"
 #include "board/show_board.h"
 #include "model/collection_file.h"
 #include "model/file_error.h"
@@ -61,6 +62,7 @@ bool LoadPuzzle(Game& game, const std::string& path, int number) {
     game.collection.importedFrom.clear();
     game.window.SetText(WindowText::PuzzleNumber, NumText(number));
     ShowPuzzleLabels(game, path);
+    BringBackPlay(game);
     return true;
 }
 
@@ -83,6 +85,7 @@ void TakeImported(Game& game, const Puzzle& puzzle, const std::string& from) {
     FitBoard(game);
     RedrawBoard(game, false);
     ShowPuzzleLabels(game, from);
+    BringBackPlay(game);
 }
 
 void CloseFiles(Game& game) {

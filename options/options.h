@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "drawing/surface.h"
@@ -49,9 +50,33 @@ struct Options {
     Colour GridColour = kDefaultGridColour;    ///< the thin lines between islands, and the solution view
     int NodeShape = 0;                         ///< 1 circle, anything else square
     int ShowLines = 1;                         ///< 1 shows the thin lines between islands
-    int ShowFinished = 0;                      ///< 1 draws islands with all their bridges paler
+    bool StoredLinesOnly = false;              ///< thin lines only where the stored solution has bridges
+    bool ShowFinished = false;                 ///< draws islands with all their bridges paler
+    bool ShowOverfull = false;                 ///< marks islands with too many bridges
+    bool ShowCrossings = false;                ///< marks bridges that cross
+    bool ShowClosedGroups = false;             ///< marks finished groups while other islands remain
+    bool StrictCheck = false;                  ///< Check looks at crossings and groups, too
+    bool KeepPlay = true;                      ///< what is played returns with the puzzle
+    bool ShowTime = false;                     ///< the time spent stands in the status line
     int reservedNumber = 12;                   ///< kept in the configuration file, used by nothing
     int PrintLineWidth = 4;                    ///< the pen of printed bridges, in pixels at 300 dpi
 };
+
+/// An option that is a yes or no and is kept by name among the choices.
+struct KeptOption {
+    std::string_view name;
+    bool Options::*value;
+};
+
+inline constexpr std::array<KeptOption, 8> kKeptOptions{{
+    {"PalerFinished", &Options::ShowFinished},
+    {"StoredLinesOnly", &Options::StoredLinesOnly},
+    {"ShowOverfull", &Options::ShowOverfull},
+    {"ShowCrossings", &Options::ShowCrossings},
+    {"ShowClosedGroups", &Options::ShowClosedGroups},
+    {"StrictCheck", &Options::StrictCheck},
+    {"KeepPlay", &Options::KeepPlay},
+    {"ShowTime", &Options::ShowTime},
+}};
 
 }  // namespace tidewalk

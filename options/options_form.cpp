@@ -13,7 +13,6 @@ namespace tidewalk {
 namespace {
 
 constexpr std::string_view kEnding = ".col";
-constexpr std::string_view kPalerFinished = "PalerFinished";
 
 std::string WithoutEnding(const std::string& name) {
     return name.substr(0, LowerCase(name).find(kEnding));
@@ -78,7 +77,6 @@ OptionsForm OpenOptions(const Game& game) {
     form.Text3 = NumText(options.PrintLineWidth);
     form.Option2 = options.NodeShape == 1;
     form.Check1 = options.ShowLines != 0;
-    form.Check2 = options.ShowFinished != 0;
     return form;
 }
 
@@ -118,16 +116,27 @@ void command1_Click(Game& game, const OptionsForm& form) {
     options.NodeColour = form.Label2;
     options.NodeShape = form.Option2 ? 1 : 0;
     options.ShowLines = form.Check1 ? 1 : 0;
-    options.ShowFinished = form.Check2 ? 1 : 0;
-    game.choices.Set(kPalerFinished, NumText(options.ShowFinished));
+    for (const auto& [name, value] : kKeptOptions) {
+        options.*value = form.draft.*value;
+        game.choices.Set(name, options.*value ? "1" : "0");
+    }
     const int width = RoundedVal(form.Text3);
     if (width >= 1) options.PrintLineWidth = std::min(width, kWidestPrintLine);
     ApplyColourScheme(game);
     if (!game.job.BusyFlag()) RedrawBoard(game, false);
 }
 
+void mnulines_Click(Game& game) {
+    if (game.job.BusyFlag()) return;
+    const bool shows = game.options.ShowLines == 0;
+    game.options.ShowLines = shows ? 1 : 0;
+    RedrawBoard(game, false);
+    game.window.SetText(WindowText::Status, shows ? "Lines shown" : "Lines hidden");
+}
+
 void ReadChoices(Game& game) {
-    game.options.ShowFinished = RoundedVal(game.choices.Get(kPalerFinished, "0")) == 1 ? 1 : 0;
+    for (const auto& [name, value] : kKeptOptions)
+        game.options.*value = RoundedVal(game.choices.Get(name, Options().*value ? "1" : "0")) == 1;
 }
 
 void reset_Click(Game& game, OptionsForm& form) {
@@ -136,7 +145,8 @@ void reset_Click(Game& game, OptionsForm& form) {
     form.Line1 = form.Line2 = form.Label1 = form.Label2 = kBlack;
     form.Option2 = false;
     form.Check1 = true;
-    form.Check2 = false;
+    for (const auto& [name, value] : kKeptOptions)
+        form.draft.*value = Options().*value;
     command1_Click(game, form);
 }
 

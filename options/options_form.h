@@ -13,7 +13,7 @@ namespace tidewalk {
 
 /// What `Form2` shows. The program's options stay as they are until the window's settings are applied.
 struct OptionsForm {
-    Options draft;                     ///< the options as they would be, with the scheme that is chosen
+    Options draft;                     ///< the options as they would be: the scheme that is chosen, and `kKeptOptions`
     std::vector<std::string> schemes;  ///< the lines of `Combo1`
     std::string Combo1;                ///< the chosen one
     Colour Line1 = 0;                  ///< swatch of `ChainColour`
@@ -23,7 +23,6 @@ struct OptionsForm {
     std::string Text3;                 ///< the line width of printed bridges
     bool Option2 = false;              ///< "Circle"; otherwise "Square"
     bool Check1 = true;                ///< show the lines between cells
-    bool Check2 = false;               ///< draw islands with all their bridges paler
 
     /// The back colour of `Combo1`: the entry that the brightness buttons change.
     Colour AdjustedColour() const { return draft.SchemeColours[static_cast<std::size_t>(draft.AdjustIndex)]; }
@@ -54,6 +53,10 @@ bool cmdnodecol_Click(OptionsForm& form, std::optional<Colour> picked);
 /// The apply button: makes what the window shows the program's options and redraws the board. The window closes then.
 /// A line width that is no number of at least 1 leaves the old one.
 void command1_Click(Game& game, const OptionsForm& form);
+
+/// Shows the thin lines or hides them, as the box in the options window does. While a job runs nothing
+/// happens.
+void mnulines_Click(Game& game);
 
 /// Reads the options that "tide.cfg" has no room for.
 void ReadChoices(Game& game);

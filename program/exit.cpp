@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "program/exit.h"
 
+#include "board/keep_play.h"
 #include "model/configuration.h"
 #include "model/load_puzzle.h"
 
@@ -21,6 +22,7 @@ void cmdexit_Click(Game& game) {
 }
 
 void Form_QueryUnload(Game& game) {
+    KeepTime(game);
     game.window.EndProgram();
     // A job that is on its way sees this and stops.
     game.job.EndProgram();

@@ -9,8 +9,8 @@
 #include "model/collection_file.h"
 #include "model/file_error.h"
 #include "model/load_puzzle.h"
-#include "model/numbers.h"
 #include "model/paths.h"
+#include "model/put_aside.h"
 
 namespace tidewalk {
 
@@ -23,22 +23,14 @@ Puzzle CreateFirstPuzzle(Game& game) {
     return CreateInJob(game, kSize, {}).candidate.created.puzzle;
 }
 
-/// Gives the file another name beside it, if there is one with anything in it.
-void PutAside(const std::string& path) {
-    constexpr int kMost = 1000;
+/// Makes the name free, and keeps what the file holds.
+void MakeRoom(const std::string& path) {
+    if (FileLength(path) > 0) {
+        PutAside(path);
+        return;
+    }
     std::error_code error;
-    if (FileLength(path) == 0) {
-        std::filesystem::remove(path, error);
-        return;
-    }
-    const std::filesystem::path file(path);
-    for (int number = 1; number < kMost; ++number) {
-        std::filesystem::path aside = file;
-        aside.replace_filename(file.stem().string() + "-" + NumText(number) + file.extension().string());
-        if (std::filesystem::exists(aside, error)) continue;
-        std::filesystem::rename(file, aside, error);
-        return;
-    }
+    std::filesystem::remove(path, error);
 }
 
 }  // namespace
@@ -47,7 +39,7 @@ void MakeFirstCollection(Game& game) {
     CloseFiles(game);
     std::string& path = game.collection.CollectionPath;
     path = game.AppFolder + "TempPuzzles.tdw";
-    PutAside(path);
+    MakeRoom(path);
     game.prompts.SystemBox("A new file will be created:\r\n" + path, SystemButtons::Ok);
     const Puzzle puzzle = CreateFirstPuzzle(game);
     if (game.job.Ending()) return;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "techniques/give_hint.h"
 
+#include "board/after_move.h"
 #include "board/place_bridge.h"
 #include "board/show_board.h"
 #include "game/job.h"
@@ -18,6 +19,8 @@ std::vector<PlayedPair> PlayedOn(const Board& board) {
     for (const auto& [a, b, bridges] : board.BridgeState.InBothOrders()) {
         if (a < b) played.push_back({a, b, bridges, false});
     }
+    for (const auto& [a, b] : board.Marks.All())
+        played.push_back({a, b, 0, true});
     return played;
 }
 
@@ -37,10 +40,9 @@ void BeginHint(Game& game, const Archipelago& board) {
 /// The bridges of the hint, laid as the player would.
 void LayBridges(Game& game, const Archipelago& board, const Deduction& deduction) {
     for (const MarkedPair& pair : GuideTo(board, deduction, true).pairs) {
-        if (pair.mark != PairMark::Lay) continue;
-        PushUndo(game.board, pair.a, pair.b);
-        game.board.BridgeState.Set(pair.a, pair.b, pair.bridges);
+        if (pair.mark == PairMark::Lay) MakeMove(game.board, pair.a, pair.b, pair.bridges);
     }
+    AfterMove(game);
     EndGuidance(game);
     ShowGuide(game, {}, "The hint is laid. Undo takes it back, move by move.");
 }

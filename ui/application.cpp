@@ -12,6 +12,7 @@
 #include "model/system_file.h"
 #include "ui/app_folder.h"
 #include "ui/command_line.h"
+#include "ui/end_signals.h"
 #include "ui/file_name.h"
 #include "ui/icons.h"
 #include "ui/program.h"
@@ -121,6 +122,7 @@ int RunWindows(const CommandLine& line) {
     if (line.seed) program.game().random.UseSeed(*line.seed);
     // QApplication::quit would ask every window first; here the decision is made.
     QObject::connect(&program.handlers(), &Handlers::Ended, qApp, [] { QCoreApplication::exit(0); });
+    const EndSignals ends(program.handlers());
     const auto fatal = program.Start(RequestOf(line, choice, window));
     if (fatal) return Fail(QString::fromStdString(*fatal), unattended);
     EndFirstStart(choice);
@@ -128,8 +130,8 @@ int RunWindows(const CommandLine& line) {
         program.game().collection.CollectionPath != FileNameBytes(line.collection)) {
         return Fail("The puzzle could not be opened: " + line.collection, unattended);
     }
-    if (program.game().job.Ending()) return 0;
-    return unattended ? TakeScreenshot(program, *line.screenshot) : QCoreApplication::exec();
+    if (program.game().job.Ending()) return ends.ExitCode(0);
+    return unattended ? TakeScreenshot(program, *line.screenshot) : ends.ExitCode(QCoreApplication::exec());
 }
 
 /// Writes the file that the command line asks for, with no need of a display.

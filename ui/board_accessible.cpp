@@ -7,6 +7,7 @@
 
 #include "board/board_keys.h"
 #include "board/board_mouse.h"
+#include "board/mistakes.h"
 #include "ui/board_pictures.h"
 
 namespace tidewalk {
@@ -18,6 +19,51 @@ QString StatusWithPlace(const Game& game) {
     const QString status = QString::fromStdString(game.window.Text(WindowText::Status));
     const QString place = FramedIslandName(game);
     return place.isEmpty() ? status : status + ": " + place;
+}
+
+/// The pairs of the island that are marked, as ", no bridge to row 3, column 9".
+QString MarkText(const Board& board, CellNumber id) {
+    QString text;
+    for (const auto& [a, b] : board.Marks.All()) {
+        if (a != id && b != id) continue;
+        const CellPlace other = board.puzzle.PlaceOf(a == id ? b : a);
+        text += QObject::tr(", no bridge to row %1, column %2").arg(other.row).arg(other.col);
+    }
+    return text;
+}
+
+/// True when a bridge of the island runs over one of the cells.
+bool RunsOver(const Board& board, CellNumber id, const std::vector<CellNumber>& cells) {
+    for (const auto& [a, b, bridges] : board.BridgeState.InBothOrders()) {
+        if (a != id) continue;
+        const auto lies = [&board, from = std::min(a, b), to = std::max(a, b)](CellNumber cell) {
+            const bool inLine =
+                board.puzzle.CellRow(from) == board.puzzle.CellRow(to) || (cell - from) % board.puzzle.Cols == 0;
+            return from < cell && cell < to && inLine;
+        };
+        if (std::any_of(cells.begin(), cells.end(), lies)) return true;
+    }
+    return false;
+}
+
+/// The mistakes at the island that the player wants to see.
+QString MistakeText(const Game& game, CellNumber id) {
+    const Options& options = game.options;
+    if (!options.ShowOverfull && !options.ShowCrossings && !options.ShowClosedGroups) return {};
+    const Board& board = game.board;
+    const Mistakes mistakes = FindMistakes(board.puzzle, board.BridgeState);
+    const auto isIn = [id](const std::vector<CellNumber>& cells) {
+        return std::binary_search(cells.begin(), cells.end(), id);
+    };
+    QString text;
+    if (options.ShowOverfull && isIn(mistakes.overfull)) text += QObject::tr(", too many bridges");
+    if (options.ShowCrossings && RunsOver(board, id, mistakes.crossings))
+        text += QObject::tr(", its bridge is crossed");
+    if (options.ShowCrossings && RunsOver(board, id, mistakes.runOver))
+        text += QObject::tr(", its bridge runs over an island");
+    if (options.ShowCrossings && isIn(mistakes.runOver)) text += QObject::tr(", a bridge runs over it");
+    if (options.ShowClosedGroups && isIn(mistakes.closed)) text += QObject::tr(", in a closed group");
+    return text;
 }
 
 /// The board's game while its islands are the player's, otherwise nothing.
@@ -103,12 +149,14 @@ class IslandAccessible final : public QAccessibleInterface, public QAccessibleAc
 }  // namespace
 
 QString IslandName(const Game& game, CellNumber id) {
-    const auto [row, col] = game.board.puzzle.PlaceOf(id);
+    const Board& board = game.board;
+    const auto [row, col] = board.puzzle.PlaceOf(id);
     return QObject::tr("row %1, column %2, needs %3, has %4")
-        .arg(row)
-        .arg(col)
-        .arg(game.board.puzzle.IslandAt(id))
-        .arg(game.board.BridgeState.CountAt(id));
+               .arg(row)
+               .arg(col)
+               .arg(board.puzzle.IslandAt(id))
+               .arg(board.BridgeState.CountAt(id)) +
+           MarkText(board, id) + MistakeText(game, id);
 }
 
 QString FramedIslandName(const Game& game) {
@@ -223,8 +271,8 @@ void IslandAnnouncer::TellBridges(const Game& game, const BoardAccessible& board
     undoRevision_ = game.board.history.Revision();
     for (CellNumber id = 1; id <= game.board.puzzle.CellCount(); ++id) {
         if (game.board.puzzle.IslandAt(id) <= 0) continue;
-        const int had = std::exchange(bridges_[id], game.board.BridgeState.CountAt(id));
-        if (samePuzzle && had != bridges_[id]) tell_(board.Island(id), QAccessible::NameChanged);
+        const QString had = std::exchange(names_[id], IslandName(game, id));
+        if (samePuzzle && had != names_[id]) tell_(board.Island(id), QAccessible::NameChanged);
     }
 }
 

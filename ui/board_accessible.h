@@ -14,7 +14,7 @@ namespace tidewalk {
 
 class BoardView;
 
-/// How an island is read out: "row 3, column 5, needs 4, has 2".
+/// How an island is read out: "row 3, column 5, needs 4, has 2", with its marks and the mistakes that are shown.
 QString IslandName(const Game& game, CellNumber id);
 
 /// The name of the island on which a failed check has ended, while it is framed; "" otherwise.
@@ -49,7 +49,7 @@ class BoardAccessible final : public QAccessibleWidget {
     mutable int loadCount_ = -1;  ///< the puzzle whose islands these are
 };
 
-/// Tells screen readers where the keyboard's focus has gone and whose bridges have changed.
+/// Tells screen readers where the keyboard's focus has gone and which islands are read out otherwise now.
 class IslandAnnouncer {
  public:
     using Tell = std::function<void(QAccessibleInterface*, QAccessible::Event)>;
@@ -77,7 +77,7 @@ class IslandAnnouncer {
     Tell tell_;
     int loadCount_ = -1;
     std::uint64_t undoRevision_ = 0;
-    PerCell<int> bridges_;
+    QHash<CellNumber, QString> names_;
     CellNumber focused_ = 0;
     CellNumber statusIsland_ = 0;
 };

@@ -5,6 +5,7 @@
 #include <array>
 #include <utility>
 
+#include "drawing/contrast.h"
 #include "ui/board_pictures.h"
 #include "ui/guide_painter.h"
 #include "ui/qt_surface.h"
@@ -34,7 +35,9 @@ void BoardOverlay::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(board_.pos());
+    if (game->board.solved && !game->job.BusyFlag()) PaintSolved(painter, *game);
     PaintGuide(painter, *game);
+    PaintPointed(painter, *game);
     if (board_.hasFocus() && game->board.focusShows && !game->job.BusyFlag()) PaintFocus(painter, *game);
     if (game->board.Line1.visible) PaintLine1(painter, *game);
     if (game->board.Shape1.visible) PaintShape1(painter, game->board);
@@ -90,12 +93,35 @@ void BoardOverlay::PaintFocus(QPainter& painter, const Game& game) const {
     }
 }
 
+/// A frame around the cells of a solved puzzle. It would not fit on the picture, where hardly anything lies beside the
+/// first column.
+void BoardOverlay::PaintSolved(QPainter& painter, const Game& game) const {
+    const BoardLayout& layout = game.board.layout;
+    const double pen = 2 * layout.LineWidth;
+    const double out = Pixels(layout.HalfCell) + pen / 2;
+    const auto middle = [&](CellPlace cell) {
+        const Point at = layout.At(cell);
+        return QPointF(Pixels(at.x), Pixels(at.y));
+    };
+    const QRectF frame(middle({1, 1}), middle({layout.size.rows, layout.size.cols}));
+    const Colour colour = LegibleOn(game.options.BoardBackground(), game.options.ChainColour, kShapeContrast);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(ToQColor(colour), pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.drawRect(frame.adjusted(-out, -out, out, out));
+}
+
 /// Frames, strokes and crosses: shapes that tell what they mean without their colours.
 void BoardOverlay::PaintGuide(QPainter& painter, const Game& game) const {
     const Board& board = game.board;
     const Guide* const guide = board.ShownGuide();
     if (guide == nullptr || game.job.BusyFlag()) return;
     GuidePainter(painter, board, game.options).Paint(*guide);
+}
+
+/// The two islands that the list of moves points at.
+void BoardOverlay::PaintPointed(QPainter& painter, const Game& game) const {
+    const auto [a, b] = game.board.pointed;
+    if (a != 0 && !game.job.BusyFlag()) GuidePainter(painter, game.board, game.options).PaintPair(a, b);
 }
 
 /// A frame in two colours shows on any background.

@@ -25,6 +25,8 @@ class BoardOverlay final : public QWidget {
     void PaintFocus(QPainter& painter, const Game& game) const;
     void PaintLine1(QPainter& painter, const Game& game) const;
     void PaintGuide(QPainter& painter, const Game& game) const;
+    void PaintSolved(QPainter& painter, const Game& game) const;
+    void PaintPointed(QPainter& painter, const Game& game) const;
     void PaintShape1(QPainter& painter, const Board& board) const;
 
     Handlers& handlers_;

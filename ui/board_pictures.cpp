@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
+#include <QTouchEvent>
 #include <cmath>
 #include <map>
 #include <optional>
@@ -28,6 +29,23 @@ std::optional<MouseButton> ButtonOf(Qt::MouseButton button) {
     return std::nullopt;
 }
 
+/// The direction in which a key with Ctrl lays a bridge; nothing for other keys.
+std::optional<BoardKey> DirectionOf(const QKeyEvent& event) {
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::ControlModifier) return std::nullopt;
+    switch (event.key()) {
+        case Qt::Key_Left:
+            return BoardKey::Left;
+        case Qt::Key_Right:
+            return BoardKey::Right;
+        case Qt::Key_Up:
+            return BoardKey::Up;
+        case Qt::Key_Down:
+            return BoardKey::Down;
+        default:
+            return std::nullopt;
+    }
+}
+
 /// What a key asks of the board; nothing for keys that belong to others.
 std::optional<BoardKey> BoardKeyOf(const QKeyEvent& event) {
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
@@ -42,10 +60,10 @@ std::optional<BoardKey> BoardKeyOf(const QKeyEvent& event) {
             break;
     }
     static const std::map<int, BoardKey> keys{
-        {Qt::Key_Left, BoardKey::Left},       {Qt::Key_Right, BoardKey::Right},   {Qt::Key_Up, BoardKey::Up},
-        {Qt::Key_Down, BoardKey::Down},       {Qt::Key_Home, BoardKey::First},    {Qt::Key_End, BoardKey::Last},
-        {Qt::Key_PageUp, BoardKey::Previous}, {Qt::Key_PageDown, BoardKey::Next}, {Qt::Key_Delete, BoardKey::Remove},
-        {Qt::Key_Backspace, BoardKey::Remove}};
+        {Qt::Key_Left, BoardKey::Left},        {Qt::Key_Right, BoardKey::Right},   {Qt::Key_Up, BoardKey::Up},
+        {Qt::Key_Down, BoardKey::Down},        {Qt::Key_Home, BoardKey::First},    {Qt::Key_End, BoardKey::Last},
+        {Qt::Key_PageUp, BoardKey::Previous},  {Qt::Key_PageDown, BoardKey::Next}, {Qt::Key_Delete, BoardKey::Remove},
+        {Qt::Key_Backspace, BoardKey::Remove}, {Qt::Key_X, BoardKey::Remove}};
     const auto found = keys.find(event.key());
     if (found == keys.end() || shift) return std::nullopt;
     return found->second;
@@ -70,7 +88,9 @@ BoardView::BoardView(Handlers& handlers, QWidget* parent)
     BoardAccessible::Install();
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
-    setAccessibleDescription(tr("The arrow keys go from island to island, Enter selects one and lays bridges"));
+    setAccessibleDescription(
+        tr("The arrow keys go from island to island, Enter selects one and lays bridges, Ctrl and an arrow lays one at "
+           "once"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -130,7 +150,7 @@ void BoardView::mousePressEvent(QMouseEvent* event) {
     const auto button = ButtonOf(event->button());
     if (!button || !takesMouse_) return;
     const QPointF global = event->globalPosition();
-    handlers_.Run([&](Game& game) { Picture1_MouseDown(game, *button, InContainer(global)); });
+    handlers_.Run([&](Game& game) { Picture1_MouseDown(game, *button, OnBoard(global), InContainer(global)); });
 }
 
 void BoardView::mouseMoveEvent(QMouseEvent* event) {
@@ -157,14 +177,22 @@ void BoardView::mouseReleaseEvent(QMouseEvent* event) {
 
 /// The board's keys are no shortcuts while it has the focus.
 bool BoardView::event(QEvent* event) {
-    if (event->type() == QEvent::ShortcutOverride && BoardKeyOf(*static_cast<QKeyEvent*>(event))) {
-        event->accept();
-        return true;
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (BoardKeyOf(key) || DirectionOf(key)) {
+            event->accept();
+            return true;
+        }
     }
     return QWidget::event(event);
 }
 
 void BoardView::keyPressEvent(QKeyEvent* event) {
+    if (const auto direction = DirectionOf(*event)) {
+        event->accept();
+        if (takesMouse_ && !event->isAutoRepeat()) handlers_.Run([&](Game& game) { LayTowards(game, *direction); });
+        return;
+    }
     const auto key = BoardKeyOf(*event);
     if (!key) return QWidget::keyPressEvent(event);
     event->accept();
@@ -198,11 +226,14 @@ BoardContainer::BoardContainer(Handlers& handlers, QWidget* parent)
     : QWidget(parent),
       handlers_(handlers),
       board_(new BoardView(handlers, this)),
-      overlay_(new BoardOverlay(handlers, *board_, this)) {
+      overlay_(new BoardOverlay(handlers, *board_, this)),
+      touch_(new BoardTouch(handlers, *this)) {
     setObjectName("Picture5");
     setMinimumSize(kSmallestContainerSide, kSmallestContainerSide);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    // Of the board's touches, too: two fingers may be on both.
+    setAttribute(Qt::WA_AcceptTouchEvents);
     connect(board_, &BoardView::FocusChanged, overlay_, qOverload<>(&QWidget::update));
 }
 
@@ -223,6 +254,40 @@ void BoardContainer::resizeEvent(QResizeEvent* event) {
     handlers_.Run([](Game& game) {
         if (game.board.puzzle.Rows > 0) CentreBoard(game);
     });
+}
+
+Point BoardContainer::InContainer(const QPointF& global) const {
+    return Twips(mapFromGlobal(global));
+}
+
+bool BoardContainer::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+        case QEvent::TouchCancel:
+            touch_->Take(*static_cast<QTouchEvent*>(event));
+            return true;
+        default:
+            return QWidget::event(event);
+    }
+}
+
+/// Beside the board there is no island either, so that a drag moves it.
+void BoardContainer::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    const auto button = ButtonOf(event->button());
+    if (!button || !board_->TakesMouse()) return;
+    const QPointF at = event->globalPosition();
+    handlers_.Run([&](Game& game) { Picture1_MouseDown(game, *button, board_->OnBoard(at), InContainer(at)); });
+}
+
+void BoardContainer::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    if (!board_->TakesMouse()) return;
+    const bool leftHeld = event->buttons().testFlag(Qt::LeftButton);
+    const QPointF at = event->globalPosition();
+    handlers_.Run([&](Game& game) { Picture1_MouseMove(game, leftHeld, board_->OnBoard(at), InContainer(at)); });
 }
 
 void BoardContainer::mouseReleaseEvent(QMouseEvent* event) {

@@ -2,6 +2,7 @@
 // The board's picture `Picture1`, moved about in its container `Picture5`.
 #pragma once
 
+#include <QApplication>
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>
@@ -9,6 +10,7 @@
 #include "board/board_mouse.h"
 #include "ui/board_accessible.h"
 #include "ui/board_overlay.h"
+#include "ui/board_touch.h"
 #include "ui/handlers.h"
 #include "ui/qt_surface.h"
 
@@ -33,6 +35,10 @@ class BoardView final : public QWidget {
 
     /// While switched off the board takes neither mouse nor keys.
     void SetTakesMouse(bool takes) { takesMouse_ = takes; }
+    bool TakesMouse() const { return takesMouse_; }
+
+    /// A place on the screen in twips on the board.
+    Point OnBoard(const QPointF& global) const;
 
  signals:
     void FocusChanged();
@@ -50,7 +56,6 @@ class BoardView final : public QWidget {
  private:
     void Announce();
     void FitBacking();
-    Point OnBoard(const QPointF& global) const;
     Point InContainer(const QPointF& global) const;
 
     Handlers& handlers_;
@@ -71,15 +76,22 @@ class BoardContainer final : public QWidget {
     BoardOverlay& Overlay() { return *overlay_; }
     QSize sizeHint() const override;
 
+    /// A place on the screen in twips in the container.
+    Point InContainer(const QPointF& global) const;
+
  protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    bool event(QEvent* event) override;
 
  private:
     Handlers& handlers_;
     BoardView* board_;
     BoardOverlay* overlay_;
+    BoardTouch* touch_;
 };
 
 /// The seam to both, and to the timer that takes the marker away.
@@ -89,6 +101,7 @@ class QtBoardPictures final : public BoardPictures {
 
     Surface::Extent ContainerExtent() const override;
     Surface& Picture() override;
+    double DragDistance() const override { return QApplication::startDragDistance() * kTwipsPerPixel; }
     void PlacePicture() override {
         container_.Board().Place();
         container_.Overlay().update();

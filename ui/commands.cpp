@@ -12,6 +12,7 @@
 #include "model/collection_commands.h"
 #include "model/configuration.h"
 #include "model/import_grid.h"
+#include "options/options_form.h"
 #include "program/escape.h"
 #include "program/exit.h"
 #include "solver/auto_solve.h"
@@ -73,6 +74,10 @@ void ShowAbout(Program& program, const Click&) {
     box.exec();
 }
 
+bool ShowsLines(const Game& game) {
+    return game.options.ShowLines != 0;
+}
+
 QList<QKeySequence> Keys(QKeySequence::StandardKey key) {
     QList<QKeySequence> keys = QKeySequence::keyBindings(key);
     // On most keyboards plus is reached with Shift, which nobody wants to hold for zooming.
@@ -106,7 +111,7 @@ std::vector<Command> TideCommands() {
          .name = "cmdzoom",
          .index = 0,
          .text = "Zoom &Out",
-         .bar = 16,
+         .bar = 17,
          .icon = "zoom-out",
          .toolTip = "Zoom out",
          .keys = Keys(QKeySequence::ZoomOut),
@@ -115,7 +120,7 @@ std::vector<Command> TideCommands() {
          .name = "cmdzoom",
          .index = 1,
          .text = "Zoom &In",
-         .bar = 17,
+         .bar = 18,
          .icon = "zoom-in",
          .toolTip = "Zoom in",
          .keys = Keys(QKeySequence::ZoomIn),
@@ -124,11 +129,17 @@ std::vector<Command> TideCommands() {
          .name = "cmdzoom",
          .index = 2,
          .text = "&Reset Zoom",
-         .bar = 18,
+         .bar = 19,
          .icon = "zoom-reset",
          .toolTip = "Reset zoom",
          .keys = Keys("Ctrl+0"),
          .handler = DoIndexed<cmdzoom_Click>},
+        {.menu = kView,
+         .name = "mnulines",
+         .text = "Thin &Lines",
+         .keys = Keys("Ctrl+L"),
+         .handler = Do<mnulines_Click>,
+         .checked = ShowsLines},
         {.menu = kMenu, .name = "dash2", .text = "-"},
         {.menu = kMenu,
          .name = "mnuhelp",
@@ -296,9 +307,29 @@ std::vector<Command> SolveCommands() {
          .keys = Keys(QKeySequence::Undo),
          .handler = Do<cmdundo_Click>},
         {.menu = kMenu,
+         .name = "cmdredo",
+         .text = "&Redo",
+         .bar = 14,
+         .icon = "redo",
+         .toolTip = "Redo the move that was taken back last",
+         .keys = {QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")},
+         .handler = Do<cmdredo_Click>},
+        {.menu = kMenu,
+         .name = "mnucheckpoint",
+         .text = "Set a Chec&kpoint",
+         .icon = "checkpoint",
+         .keys = Keys("Ctrl+K"),
+         .handler = Do<mnucheckpoint_Click>},
+        {.menu = kMenu,
+         .name = "mnubacktocheckpoint",
+         .text = "&Back to Checkpoint",
+         .icon = "back-to-checkpoint",
+         .keys = Keys("Ctrl+B"),
+         .handler = Do<mnubacktocheckpoint_Click>},
+        {.menu = kMenu,
          .name = "mnuhint",
          .text = "&Hint",
-         .bar = 14,
+         .bar = 15,
          .icon = "hint",
          .toolTip = "Hint|Press again for the reason, and once more for the bridges",
          .keys = Keys("F3"),
@@ -388,31 +419,31 @@ std::vector<Command> ToolBarOnlyCommands() {
          .toolTip = "View solution|Hold the button down",
          .handler = Do<cmdviewcol_Release>,
          .pressed = Do<cmdviewcol_Press>},
-        {.name = "dash14", .text = "-", .bar = 15},
-        {.name = "dash15", .text = "-", .bar = 19},
+        {.name = "dash14", .text = "-", .bar = 16},
+        {.name = "dash15", .text = "-", .bar = 20},
         {.name = "cmdnew1",
          .text = "New Puzzle",
-         .bar = 20,
+         .bar = 21,
          .icon = "new",
          .toolTip = "New puzzle|Its size is set in the box beside",
          .handler = MakeOrOrder,
          .holds = true},
         {.name = "cmdneworder",
          .text = "Order of New Puzzles",
-         .bar = 21,
+         .bar = 22,
          .icon = "down",
          .toolTip = "New puzzle to order|Its grade, its size, and whether it has one solution",
          .handler = OpenOrder,
          .narrow = true},
-        {.name = "GridSize", .bar = 22, .toolTip = "Set grid size (7x7 to 25x25)|Rightclick to set random size"},
+        {.name = "GridSize", .bar = 23, .toolTip = "Set grid size (7x7 to 25x25)|Rightclick to set random size"},
         {.name = "cmdcancel",
          .text = "Cancel",
-         .bar = 23,
+         .bar = 24,
          .icon = "cancel",
          .toolTip = "Cancel",
          .handler = Do<cmdcancel_Click>},
-        {.name = "dash16", .text = "-", .bar = 24},
-        {.name = "cmdexit", .text = "Exit", .bar = 25, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
+        {.name = "dash16", .text = "-", .bar = 25},
+        {.name = "cmdexit", .text = "Exit", .bar = 26, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
     };
 }
 

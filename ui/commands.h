@@ -38,6 +38,7 @@ struct Command {
     MouseButton button = MouseButton::Left;    ///< what the menu item stands for
     Handler handler = nullptr;                 ///< on a click or on release
     bool (*available)(const Game&) = nullptr;  ///< whether it can be given now; nothing for always
+    bool (*checked)(const Game&) = nullptr;    ///< whether its menu item is ticked; nothing for one without a tick
     bool holds = false;         ///< holding its button of the tool bar down is a click with the right mouse button
     bool narrow = false;        ///< its button of the tool bar belongs to the one on its left
     Handler pressed = nullptr;  ///< when the button goes down; `handler` then follows however it comes up again

@@ -28,10 +28,12 @@
 #include "program/exit.h"
 #include "ui/box_control.h"
 #include "ui/guide_panel.h"
+#include "ui/history_view.h"
 #include "ui/icons.h"
 #include "ui/lines_view.h"
 #include "ui/mnemonic.h"
 #include "ui/order_popup.h"
+#include "ui/time_label.h"
 #include "ui/tool_tip.h"
 
 namespace tidewalk {
@@ -45,27 +47,6 @@ LineSource SourceOf(const ListBox& list) {
             [&list](int line) { return list.Lines()[static_cast<std::size_t>(line)]; }};
 }
 
-/// A move as a screen reader says it: the islands are places, not numbers of cells.
-QString Spoken(const UndoRecord& move, const Puzzle& puzzle) {
-    const CellPlace a = puzzle.PlaceOf(move.a);
-    const CellPlace b = puzzle.PlaceOf(move.b);
-    return Form1::tr("row %1, column %2 and row %3, column %4 had %5")
-        .arg(a.row)
-        .arg(a.col)
-        .arg(b.row)
-        .arg(b.col)
-        .arg(move.state);
-}
-
-LineSource SourceOf(const Board& board) {
-    const History& history = board.history;
-    const auto move = [&history](int line) { return history.UndoList()[static_cast<std::size_t>(line)]; };
-    return {[&history] { return history.Revision(); },
-            [&history] { return static_cast<int>(history.UndoList().size()); },
-            [move](int line) { return Text(move(line)); },
-            [move, &board](int line) { return Spoken(move(line), board.puzzle); }};
-}
-
 /// The title of a menu with the mark of a letter that leads to nothing else in `place`, the bar or another menu.
 QString TitleIn(const QWidget& place, const QString& title) {
     QString taken;
@@ -76,7 +57,7 @@ QString TitleIn(const QWidget& place, const QString& title) {
 
 /// A text box as wide as `sample`.
 void FitWidth(QLineEdit* box, const QString& sample) {
-    constexpr int kFrame = 18;
+    constexpr int kFrame = 12;
     box->setFixedWidth(box->fontMetrics().horizontalAdvance(sample) + kFrame);
 }
 
@@ -86,7 +67,7 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
     : handlers_(handlers),
       onCommand_(std::move(onCommand)),
       container_(new BoardContainer(handlers)),
-      undoList_(new LinesView("UndoList")),
+      undoList_(new HistoryView(handlers)),
       list1_(new LinesView("List1")),
       list2_(new LinesView("List2")),
       pb_(new QLabel),
@@ -97,6 +78,7 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
       gridSize_(new QLineEdit),
       assessment_(new QLabel),
       tried_(new QLabel),
+      time_(new TimeLabel(handlers)),
       order_(new OrderPopup(handlers, this)) {
     setObjectName("Form1");
     setWindowTitle(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
@@ -164,6 +146,7 @@ void Form1::AddMenuCommand(const Command& command) {
     action->setIcon(MakeIcon(command.icon, palette()));
     action->setShortcuts(command.keys);
     action->setEnabled(command.IsEnabled());
+    action->setCheckable(command.checked != nullptr);
     const Handler handler = command.handler;
     const Click click = command.ClickWith(command.button);
     connect(action, &QAction::triggered, this, [this, handler, click] { onCommand_(handler, click); });
@@ -225,7 +208,7 @@ void Form1::AddNumberBox() {
     });
     puzNumber_->setObjectName("PuzNumber");
     puzNumber_->setTextFormat(Qt::PlainText);
-    puzNumber_->setMinimumWidth(puzNumber_->fontMetrics().horizontalAdvance(" of 00000"));
+    puzNumber_->setMinimumWidth(puzNumber_->fontMetrics().horizontalAdvance(" of 0000"));
 }
 
 void Form1::AddSizeBox() {
@@ -276,7 +259,8 @@ void Form1::AddCentre() {
     sideLayout->addWidget(title);
     sideLayout->addWidget(undoList_);
     undoList_->setAccessibleName(tr("Undo list"));
-    GiveToolTip(*undoList_, tr("Moves that can be taken back|Two islands and the bridges before the move"));
+    GiveToolTip(*undoList_, tr("Your moves, the newest on top|Point at one to see it on the board, double-click to go "
+                               "back or ahead to it"));
     auto* const splitter = new QSplitter;
     splitter->addWidget(container_);
     splitter->addWidget(side);
@@ -351,6 +335,7 @@ void Form1::AddStatusLine() {
     assessment_->setObjectName("Assessment");
     assessment_->setTextFormat(Qt::PlainText);
     assessment_->setMargin(3);
+    statusBar()->addPermanentWidget(time_);
     statusBar()->addPermanentWidget(assessment_);
     statusBar()->addPermanentWidget(puzfile_);
 }
@@ -396,13 +381,13 @@ void Form1::SetProgress(int done, int total) {
 }
 
 void Form1::Show(Game& game) {
-    undoList_->SetSource(SourceOf(game.board));
     list1_->SetSource(SourceOf(game.List1));
     list2_->SetSource(SourceOf(game.List2));
 }
 
 void Form1::RefreshLists() {
-    for (LinesView* const list : {undoList_, list1_, list2_}) {
+    undoList_->Refresh();
+    for (LinesView* const list : {list1_, list2_}) {
         if (list->isVisible()) list->Refresh();
     }
 }
@@ -421,9 +406,11 @@ void Form1::RefreshCommands() {
     const Game* const game = handlers_.game();
     if (game == nullptr) return;
     for (const Command& command : Commands()) {
-        if (command.available == nullptr) continue;
-        for (QAction* const action : findChildren<QAction*>(command.ObjectName()))
-            action->setEnabled(command.available(*game));
+        if (command.available == nullptr && command.checked == nullptr) continue;
+        for (QAction* const action : findChildren<QAction*>(command.ObjectName())) {
+            if (command.available != nullptr) action->setEnabled(command.available(*game));
+            if (command.checked != nullptr) action->setChecked(command.checked(*game));
+        }
     }
 }
 
@@ -469,6 +456,7 @@ void Form1::closeEvent(QCloseEvent* event) {
 
 void Form1::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) time_->SetActive(isActiveWindow());
     if (event->type() != QEvent::PaletteChange) return;
     // Menu titles and icons have the text colour of buttons, and need to lie on what that is legible on.
     QPalette bars;

@@ -18,8 +18,10 @@ class QProgressBar;
 namespace tidewalk {
 
 class BoxControl;
+class HistoryView;
 class LinesView;
 class OrderPopup;
+class TimeLabel;
 
 /// The window's controls bear their given names. It decides nothing: what a control asks for goes to `onCommand` or
 /// straight to the routine of that control.
@@ -82,7 +84,7 @@ class Form1 final : public QMainWindow {
     OnCommand onCommand_;
     std::map<QString, QMenu*> menus_;
     BoardContainer* container_;
-    LinesView* undoList_;
+    HistoryView* undoList_;
     LinesView* list1_;
     LinesView* list2_;
     QLabel* pb_;
@@ -93,6 +95,7 @@ class Form1 final : public QMainWindow {
     QLineEdit* gridSize_;
     QLabel* assessment_;
     QLabel* tried_;
+    TimeLabel* time_;
     OrderPopup* order_;
     int widthWithDock_ = 0;     ///< to which the window was widened last; 0 for never
     bool statusIsNew_ = false;  ///< it says something that was not announced yet

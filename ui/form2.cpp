@@ -36,21 +36,23 @@ Form2::Form2(Handlers& handlers, QWidget* parent)
       label1_(new Swatch(Swatch::Shape::Number, "Label1")),
       label2_(new Swatch(Swatch::Shape::Island, "Label2")),
       text3_(new QLineEdit),
-      option1_(new QRadioButton("&Square")),
+      option1_(new QRadioButton("S&quare")),
       option2_(new QRadioButton("&Circle")),
-      check1_(new QCheckBox("Sho&w")),
-      check2_(new QCheckBox(tr("&Paler"))) {
+      check1_(new QCheckBox("Sho&w")) {
     setObjectName("Form2");
     setWindowTitle("Tide Options");
     auto* const small = new QHBoxLayout;
     small->addWidget(NodeShapeBox());
     small->addWidget(LinesBox());
-    small->addWidget(FinishedBox());
     small->addWidget(PrintBox());
     auto* const all = new QVBoxLayout(this);
     all->addWidget(SchemeBox());
     all->addWidget(ColoursBox());
     all->addLayout(small);
+    auto* const play = new QHBoxLayout;
+    play->addWidget(MistakesBox());
+    play->addWidget(PlayBox());
+    all->addLayout(play);
     all->addStretch();
     all->addLayout(ButtonRow());
     connect(&handlers_, &Handlers::Ending, this, &QDialog::reject);
@@ -65,7 +67,7 @@ QPushButton* Form2::AddButton(const char* name, const QString& text, const QStri
 }
 
 QWidget* Form2::SchemeBox() {
-    auto* const box = new QGroupBox(tr("Colour sche&me"));
+    auto* const box = new QGroupBox(tr("Colo&ur scheme"));
     auto* const row = new QHBoxLayout(box);
     combo1_->setObjectName("Combo1");
     GiveToolTip(*combo1_, tr("Colour scheme|The colours of the windows"));
@@ -138,16 +140,46 @@ QWidget* Form2::LinesBox() {
     auto* const layout = new QVBoxLayout(box);
     check1_->setObjectName("Check1");
     layout->addWidget(check1_);
+    AddKept(layout, "StoredLinesOnly", &Options::StoredLinesOnly, tr("Stored bridges onl&y"),
+            tr("Show lines only where the stored solution has bridges"));
     layout->addStretch();
     return box;
 }
 
-QWidget* Form2::FinishedBox() {
-    auto* const box = new QGroupBox(tr("Finished islands"));
+/// A box for an option that is kept by name.
+void Form2::AddKept(QLayout* layout, const char* name, bool Options::*value, const QString& text,
+                    const QString& toolTip) {
+    auto* const box = new QCheckBox(text);
+    box->setObjectName(name);
+    GiveToolTip(*box, toolTip);
+    layout->addWidget(box);
+    kept_.emplace_back(box, value);
+}
+
+QWidget* Form2::MistakesBox() {
+    auto* const box = new QGroupBox(tr("Show on the board"));
     auto* const layout = new QVBoxLayout(box);
-    check2_->setObjectName("Check2");
-    GiveToolTip(*check2_, tr("Show islands with all their bridges paler"));
-    layout->addWidget(check2_);
+    AddKept(layout, "Check2", &Options::ShowFinished, tr("&Finished islands paler"),
+            tr("Show islands with all their bridges paler"));
+    AddKept(layout, "ShowOverfull", &Options::ShowOverfull, tr("Too &many bridges"),
+            tr("Put a box around an island with more bridges than its number"));
+    AddKept(layout, "ShowCrossings", &Options::ShowCrossings, tr("Cro&ssings"),
+            tr("Put a diamond where bridges cross or run over an island"));
+    AddKept(layout, "ShowClosedGroups", &Options::ShowClosedGroups, tr("Closed grou&ps"),
+            tr("Put brackets at the islands of a finished group while others remain"));
+    layout->addStretch();
+    return box;
+}
+
+QWidget* Form2::PlayBox() {
+    auto* const box = new QGroupBox(tr("Play"));
+    auto* const layout = new QVBoxLayout(box);
+    AddKept(layout, "KeepPlay", &Options::KeepPlay, tr("Keep play for ne&xt time"),
+            tr("Bring bridges, marks and moves back with the puzzle"));
+    AddKept(layout, "ShowTime", &Options::ShowTime, tr("Show time spent on pu&zzle"),
+            tr("Show the time spent on the puzzle in the status line"));
+    AddKept(layout, "StrictCheck", &Options::StrictCheck, tr("Strict chec&k"),
+            tr("Check looks at crossings and groups, too"));
     layout->addStretch();
     return box;
 }
@@ -209,7 +241,8 @@ void Form2::TakeControls() {
     form_.Text3 = text3_->text().toStdString();
     form_.Option2 = option2_->isChecked();
     form_.Check1 = check1_->isChecked();
-    form_.Check2 = check2_->isChecked();
+    for (const auto& [box, value] : kept_)
+        form_.draft.*value = box->isChecked();
 }
 
 void Form2::ShowForm() {
@@ -220,7 +253,8 @@ void Form2::ShowForm() {
     option1_->setChecked(!form_.Option2);
     option2_->setChecked(form_.Option2);
     check1_->setChecked(form_.Check1);
-    check2_->setChecked(form_.Check2);
+    for (const auto& [box, value] : kept_)
+        box->setChecked(form_.draft.*value);
     const Colour background = form_.draft.BoardBackground();
     line1_->Show(form_.Line1, background, form_.Label2, form_.Option2);
     line2_->Show(form_.Line2, background, form_.Label2, form_.Option2);

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QDialog>
+#include <utility>
+#include <vector>
 
 #include "options/options_form.h"
 #include "ui/col_pik.h"
@@ -38,7 +40,9 @@ class Form2 final : public QDialog {
     QWidget* ColoursBox();
     QWidget* NodeShapeBox();
     QWidget* LinesBox();
-    QWidget* FinishedBox();
+    void AddKept(QLayout* layout, const char* name, bool Options::*value, const QString& text, const QString& toolTip);
+    QWidget* MistakesBox();
+    QWidget* PlayBox();
     QWidget* PrintBox();
     QLayout* ButtonRow();
     QPushButton* AddButton(const char* name, const QString& text, const QString& toolTip);
@@ -60,7 +64,7 @@ class Form2 final : public QDialog {
     QRadioButton* option1_;
     QRadioButton* option2_;
     QCheckBox* check1_;
-    QCheckBox* check2_;
+    std::vector<std::pair<QCheckBox*, bool Options::*>> kept_;  ///< the boxes of `kKeptOptions`
 };
 
 }  // namespace tidewalk

@@ -33,6 +33,14 @@ void GuidePainter::Paint(const Guide& guide) {
         Frame(guide.islands[i], i == 0 ? Qt::SolidLine : Qt::DotLine);
 }
 
+void GuidePainter::PaintPair(CellNumber a, CellNumber b) {
+    painter_.setBrush(Qt::NoBrush);
+    const double half = Pixels(board_.layout.HalfCell) - 1;
+    const QPointF corner(half, half);
+    const auto cell = [&](CellNumber id) { return QRectF(MiddleOf(id) - corner, MiddleOf(id) + corner); };
+    Outlined(highlight_, Qt::SolidLine, [&] { painter_.drawRoundedRect(cell(a) | cell(b), kCorner, kCorner); });
+}
+
 /// What is drawn in two colours shows on any background.
 void GuidePainter::Outlined(const QColor& colour, Qt::PenStyle style, const std::function<void()>& draw) {
     painter_.setPen(QPen(background_, kPen + kOutline, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));

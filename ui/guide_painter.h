@@ -20,6 +20,9 @@ class GuidePainter {
 
     void Paint(const Guide& guide);
 
+    /// A frame around two islands and what lies between them.
+    void PaintPair(CellNumber a, CellNumber b);
+
  private:
     void Frame(CellNumber id, Qt::PenStyle style);
     void Strokes(const MarkedPair& pair);

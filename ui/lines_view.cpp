@@ -14,7 +14,6 @@ class LinesView::Model final : public QAbstractListModel {
     QVariant data(const QModelIndex& index, int role) const override {
         // Between a change of the lines and the next refresh the list may be shorter than what is shown of it.
         const bool there = index.isValid() && source_.count && index.row() < source_.count();
-        if (there && role == Qt::AccessibleTextRole && source_.spoken) return source_.spoken(index.row());
         if (role != Qt::DisplayRole || !there) return {};
         return QString::fromStdString(source_.line(index.row()));
     }

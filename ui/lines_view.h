@@ -14,8 +14,7 @@ namespace tidewalk {
 struct LineSource {
     std::function<std::uint64_t()> revision;  ///< changes with every change of the lines
     std::function<int()> count;
-    std::function<std::string(int)> line;          ///< line 0..count-1
-    std::function<QString(int)> spoken = nullptr;  ///< what a screen reader says for it, if not the line itself
+    std::function<std::string(int)> line;  ///< line 0..count-1
 };
 
 /// Shows lines and follows their changes.

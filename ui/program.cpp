@@ -64,12 +64,16 @@ Program::Program()
                                          .choices = choices_,
                                          .clipboard = clipboard_,
                                          .printers = printers_,
-                                         .background = background_})) {
+                                         .background = background_,
+                                         .plays = plays_})) {
     prompts_.SetMainWindow(&form1_);
     filePicker_.SetMainWindow(&form1_);
     clipboard_.SetMainWindow(&form1_);
     printers_.SetMainWindow(&form1_);
     QObject::connect(&handlers_, &Handlers::Ending, &help_, &QWidget::close);
+    // What was played is safe wherever the player goes next.
+    QObject::connect(&handlers_, &Handlers::Ending, &form1_, [this] { plays_.Flush(); });
+    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &form1_, [this] { plays_.Flush(); });
     handlers_.Attach(*game_);
     QObject::connect(&handlers_, &Handlers::Ending, &form1_, LeaveDialogs);
     form1_.Show(*game_);
@@ -81,7 +85,9 @@ Program::~Program() {
 }
 
 std::optional<std::string> Program::Start(const StartRequest& request) {
-    choices_.UseFolder(QFile::decodeName(request.appFolder.c_str()));
+    const QString folder = QFile::decodeName(request.appFolder.c_str());
+    choices_.UseFolder(folder);
+    plays_.UseFolder(folder);
     prompts_.SetCaption(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
     form1_.TakeDefaultSize();
     form1_.show();

@@ -19,6 +19,7 @@
 #include "ui/qt_background.h"
 #include "ui/qt_choices.h"
 #include "ui/qt_clipboard.h"
+#include "ui/qt_play_store.h"
 #include "ui/qt_printers.h"
 #include "ui/qt_questions.h"
 
@@ -61,6 +62,7 @@ class Program final {
     Form6 form6_;
     QtPrinters printers_;
     QtBackground background_;
+    QtPlayStore plays_;
     std::unique_ptr<Game> game_;
 };
 

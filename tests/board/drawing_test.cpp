@@ -90,6 +90,42 @@ TEST_F(Drawn, BoardHasOutlinesLinesAndIslands) {
                   "pen 4, pen 2");
 }
 
+TEST_F(Drawn, ThinLinesDoNotTellTheSolution) {
+    Take({"1.1.1"});
+    const auto thin = [this] {
+        BoardPicture picture;
+        BoardDrawing(picture, board, options).RedrawBoard(false);
+        return picture.Count("line");
+    };
+    EXPECT_EQ(thin(), 2) << "every pair in sight";
+    board.puzzle.LinkList = {MakeLink(1, 3, 1)};
+    EXPECT_EQ(thin(), 2) << "with a stored bridge, too";
+    options.StoredLinesOnly = true;
+    EXPECT_EQ(thin(), 1);
+    board.Marks.Set(3, 5, true);
+    EXPECT_EQ(thin(), 3) << "a cross is two strokes";
+}
+
+TEST_F(Drawn, MistakesAreShownOnDemandEachInItsShape) {
+    Take({"1.1.1"});
+    board.BridgeState.Set(1, 3, 2);
+    const auto strokes = [this](bool Options::*shown) {
+        Options with = options;
+        with.*shown = true;
+        BoardPicture before;
+        BoardPicture after;
+        BoardDrawing(before, board, options).RedrawBoard(false);
+        BoardDrawing(after, board, with).RedrawBoard(false);
+        return std::pair(after.Count("box") - before.Count("box"), after.Count("line") - before.Count("line"));
+    };
+    EXPECT_EQ(strokes(&Options::ShowOverfull), std::pair(2, 0)) << "two islands, a box each";
+    EXPECT_EQ(strokes(&Options::ShowClosedGroups), std::pair(0, 12)) << "two islands, brackets of six strokes each";
+    EXPECT_EQ(strokes(&Options::ShowCrossings), std::pair(0, 0));
+    board.BridgeState.Set(1, 3, 0);
+    board.BridgeState.Set(1, 5, 1);
+    EXPECT_EQ(strokes(&Options::ShowCrossings), std::pair(0, 4)) << "a diamond";
+}
+
 TEST_F(Drawn, SolutionHasItsBridgesWhateverElseShows) {
     options.ShowLines = 0;
     options.ShowFinished = 1;
@@ -108,7 +144,7 @@ TEST_F(Drawn, PlayersBridgesLieOverTheIslandsAndUnderTheirEnds) {
     Take({"1.2"});
     board.OpenNeighbours[3].Append(1);
     board.BridgeState.Set(3, 1, 1);
-    const std::string before = start + "line 890 230 90 230 1, " + ends + ", pen 4, ";
+    const std::string before = start + "line 890 230 90 230 1, " + line + "1, " + ends + ", pen 4, ";
     std::string drawn = Redraw(false);
     std::string expected = before + line + "16777215, " + second + "16777215, " + line + "4, " + ends + ", ";
     EXPECT_EQ(drawn.substr(0, expected.size()), expected);
@@ -131,7 +167,8 @@ TEST_F(Drawn, FinishedIslandsArePaleAndAllNumbersCanBeRead) {
     const std::string pale = "filledbox -60 80 240 380 0, filledbox -42 98 222 362 " +
                              std::to_string(Mixed(kBlack, kWhite, 0.8)) +
                              ", print 50 150 1 0, filledbox 740 80 1040 380 0, print 850 150 2 16777215, ";
-    EXPECT_EQ(Redraw(false).substr(start.size(), pale.size()), pale);
+    const std::size_t islands = (start + line + "1, ").size();
+    EXPECT_EQ(Redraw(false).substr(islands, pale.size()), pale);
 }
 
 }  // namespace

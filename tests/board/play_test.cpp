@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 // Playing: with the mouse, with the keyboard, and the commands on the board.
+#include <random>
 #include <set>
 #include <sstream>
 
 #include "board/board_commands.h"
 #include "board/board_keys.h"
 #include "board/board_mouse.h"
+#include "board/history_lines.h"
+#include "board/keep_play.h"
 #include "board/place_bridge.h"
 #include "board/show_board.h"
+#include "game/job.h"
 #include "program/escape.h"
 #include "support/test_game.h"
 
@@ -27,14 +31,24 @@ struct Play : TestGame {
     void Press(CellNumber id, MouseButton button, bool shift) {
         const Point point = board.At(id);
         Run(Picture1_MouseMove, false, point, point);
-        Run(Picture1_MouseDown, button, point);
+        Run(Picture1_MouseDown, button, point, point);
         Run(Picture1_MouseUp, button, shift, point);
         if (button == MouseButton::Left) Run(Picture1_Click);
     }
 
+    /// Draws a bridge from an island to a point.
+    void Drag(CellNumber from, Point to) {
+        const Point start = board.At(from);
+        Run(Picture1_MouseDown, MouseButton::Left, start, start);
+        Run(Picture1_MouseMove, true, to, to);
+        Run(Picture1_MouseUp, MouseButton::Left, false, to);
+        Run(Picture1_Click);
+    }
+
     /// Plays moves. With the mouse: "1" clicks that cell, "1-4" both; "=" stands for a click with Shift, "x" for the
     /// right button and "X" for both. With keys: ":" and a letter each for left, right, up, down, first, end, previous
-    /// and next, "." to lay, "=" to lay two and "x" to remove. "u" is for undo.
+    /// and next, "." to lay, "=" to lay two and "x" to remove. "1>4" draws from one to the other. "u" is for
+    /// undo, "r" for redo, "c" for a checkpoint and "b" for going back to one.
     Play& operator<<(const std::string& moves) {
         std::istringstream all(moves);
         for (std::string move; all >> move;) {
@@ -42,8 +56,12 @@ struct Play : TestGame {
             if (move[0] == ':') {
                 for (const char key : move.substr(1))
                     Run(Picture1_KeyDown, static_cast<BoardKey>(std::string("lrudfepn.=x").find(key)));
-            } else if (move == "u") {
-                Run(cmdundo_Click);
+            } else if (move == "u" || move == "r") {
+                Run(move == "u" ? cmdundo_Click : cmdredo_Click);
+            } else if (move == "c" || move == "b") {
+                Run(move == "c" ? mnucheckpoint_Click : mnubacktocheckpoint_Click);
+            } else if (move.find('>') != std::string::npos) {
+                Drag(std::stoi(move), board.At(std::stoi(move.substr(move.find('>') + 1))));
             } else {
                 const bool right = move[how] == 'x' || move[how] == 'X';
                 const bool shift = move[how] == '=' || move[how] == 'X';
@@ -61,6 +79,8 @@ struct Play : TestGame {
         for (const auto& [a, b, bridges] : board.BridgeState.InBothOrders()) {
             if (a < b) all += std::to_string(a) + "-" + std::to_string(b) + "*" + std::to_string(bridges) + " ";
         }
+        for (const auto& [a, b] : board.Marks.All())
+            all += std::to_string(a) + "x" + std::to_string(b) + " ";
         if (board.focusShows) all += "#" + std::to_string(FocusedIsland(board)) + " ";
         if (SelectedIsland(board) != 0) all += "@" + std::to_string(SelectedIsland(board));
         for (const UndoRecord& record : board.history.UndoList())
@@ -83,7 +103,8 @@ TEST(Mouse, ClicksCycleShiftLaysTwoAndTheRightButtonRemoves) {
     EXPECT_EQ(After("1=4 1=4"), "1-4*2 ; 1, 4, 2; 1, 4, 0");
     EXPECT_EQ(After("1=4 1x4"), "; 1, 4, 2; 1, 4, 0");
     EXPECT_EQ(After("1X4"), "1-4*2 ; 1, 4, 0") << "Shift comes before the button";
-    EXPECT_EQ(After("1x43"), "; 1, 43, 0");
+    EXPECT_EQ(After("1-7 1x7"), "; 1, 7, 1; 1, 7, 0") << "islands that do not see each other take no mark";
+    EXPECT_EQ(After("1x7"), "; 1, 7, 0");
     EXPECT_EQ(After("1x49"), "@1") << "not in line: nothing happens";
 }
 
@@ -119,16 +140,144 @@ TEST(Mouse, TheRubberBandFollowsAndAClickBesideTheBoardDropsTheSelection) {
 TEST(Mouse, ALeftDragMovesTheBoardAndNoOtherDoes) {
     Play game;
     const Frame before = game.board.layout.Picture1;
-    game.Run(Picture1_MouseDown, MouseButton::Right, Point{0, 0});
-    game.Run(Picture1_MouseMove, true, Point{100, 100}, Point{50, 60});
-    game.Run(Picture1_MouseDown, MouseButton::Left, Point{before.left + 100, before.top + 200});
-    game.Run(Picture1_MouseMove, false, Point{100, 100}, Point{1, 1});
+    const Point water = game.board.At(9);
+    game.Run(Picture1_MouseDown, MouseButton::Right, water, Point{0, 0});
+    game.Run(Picture1_MouseMove, true, water, Point{50, 60});
+    game.Run(Picture1_MouseDown, MouseButton::Left, water, Point{before.left + 100, before.top + 200});
+    game.Run(Picture1_MouseMove, false, water, Point{1, 1});
     EXPECT_EQ(game.board.layout.Picture1, before);
-    game.Run(Picture1_MouseMove, true, Point{100, 100}, Point{before.left + 400, before.top + 250});
+    game.Run(Picture1_MouseMove, true, water, Point{before.left + 400, before.top + 250});
     EXPECT_NEAR(game.board.layout.Picture1.left, before.left + 300, 0.5);
     EXPECT_NEAR(game.board.layout.Picture1.top, before.top + 50, 0.5);
     game.Run(static_cast<void (*)(Game&)>(CentreBoard));
     EXPECT_EQ(game.board.layout.Picture1, before);
+}
+
+TEST(Mouse, ADragBetweenIslandsLaysAndNeverMovesTheBoard) {
+    Play game;
+    const Frame before = game.board.layout.Picture1;
+    EXPECT_EQ((game << "1>4").State(), "1-4*1 ; 1, 4, 0");
+    EXPECT_EQ((game << "4>1").State(), "1-4*2 ; 4, 1, 1; 1, 4, 0");
+    EXPECT_EQ(game.board.layout.Picture1, before);
+    game << "7";
+    game.Drag(1, game.board.At(20));
+    EXPECT_EQ(game.State(), "1-4*2 ; 4, 1, 1; 1, 4, 0") << "on water it ends, and nothing is selected";
+    game.Drag(1, {game.board.At(1).x + game.world.DragDistance() / 2, game.board.At(1).y});
+    EXPECT_EQ(game.State(), "1-4*2 @1; 4, 1, 1; 1, 4, 0") << "a hand that shakes clicks";
+    game.Run(Picture1_MouseDown, MouseButton::Left, game.board.At(7), game.board.At(7));
+    game.Run(Picture1_MouseMove, true, game.board.At(4), game.board.At(4));
+    EXPECT_EQ(game.board.Line1.from, game.board.At(7));
+    EXPECT_EQ(game.board.Line1.to, game.board.At(4)) << "the band follows";
+    game.Run(can2_Click);
+    game.Run(Picture1_MouseUp, MouseButton::Left, false, game.board.At(4));
+    game.Run(Picture1_Click);
+    EXPECT_EQ(game.State(), "1-4*2 ; 4, 1, 1; 1, 4, 0") << "Escape lets go, and the release is no click";
+    game.Run(Picture1_MouseDown, MouseButton::Left, game.board.At(7), game.board.At(7));
+    game.Run(Picture1_MouseMove, true, game.board.At(4), game.board.At(4));
+    {
+        const Job job(game, "AutoSolve");
+        game.Run(Picture1_MouseUp, MouseButton::Left, false, game.board.At(4));
+    }
+    EXPECT_EQ(game.State(), "1-4*2 ; 4, 1, 1; 1, 4, 0") << "a job has come in between";
+}
+
+TEST(Mouse, ASecondButtonCallsADragOffAndDoesNothingElse) {
+    Play game;
+    game << "1-4";
+    const Point onBridge = game.board.At(3);
+    game.Run(Picture1_MouseDown, MouseButton::Left, game.board.At(1), game.board.At(1));
+    game.Run(Picture1_MouseMove, true, onBridge, onBridge);
+    game.Run(Picture1_MouseDown, MouseButton::Right, onBridge, onBridge);
+    game.Run(Picture1_MouseUp, MouseButton::Right, false, onBridge);
+    game.Run(Picture1_MouseUp, MouseButton::Left, false, onBridge);
+    game.Run(Picture1_Click);
+    EXPECT_EQ(game.State(), "1-4*1 ; 1, 4, 0");
+}
+
+TEST(Mouse, AClickOnABridgeGoesOnWithIt) {
+    EXPECT_EQ(After("1-4 2 "), "1-4*2 ; 1, 4, 1; 1, 4, 0");
+    EXPECT_EQ(After("1-4 2 3"), "; 1, 4, 2; 1, 4, 1; 1, 4, 0");
+    EXPECT_EQ(After("1=4 x2"), "; 1, 4, 2; 1, 4, 0") << "the right button takes it away";
+    EXPECT_EQ(After("1-4 7 2"), "1-4*1 ; 1, 4, 0") << "while an island is selected water lets go of it";
+    EXPECT_EQ(After("1-43 15"), "1-43*2 ; 1, 43, 1; 1, 43, 0");
+    EXPECT_EQ(After("1-4 9 x9"), "1-4*1 ; 1, 4, 0");
+}
+
+TEST(Marks, AreMadeAndTakenByTheRightButtonAndGiveWayToBridges) {
+    EXPECT_EQ(After("1x43"), "1x43 ; 1, 43,-1");
+    EXPECT_EQ(After("1x43 43x1"), "; 43, 1,-2; 1, 43,-1");
+    EXPECT_EQ(After("1x43 1-43"), "1-43*1 ; 1, 43,-2; 1, 43,-1");
+    EXPECT_EQ(After("1x43 1=43 u"), "1x43 ; 1, 43,-1");
+    EXPECT_EQ(After("1x43 u"), "");
+    EXPECT_EQ(After("1x43 1-43 u u r r"), "1-43*1 ; 1, 43,-2; 1, 43,-1");
+    EXPECT_EQ(After("1-43 1x43"), "; 1, 43, 1; 1, 43, 0") << "a bridge goes first, without a mark";
+}
+
+TEST(History, AgreesWithAListOfMomentsThroughThousandsOfMoves) {
+    Play game(kField);
+    const auto now = [&] {
+        const std::string state = game.State();
+        return state.substr(0, state.find(';'));
+    };
+    std::mt19937 random(3);
+    const auto draw = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+    const int islands[] = {1, 3, 8, 10, 17, 25};
+    std::vector<std::string> moments{now()};
+    std::size_t at = 0;
+    std::size_t longest = 0;
+    std::set<std::size_t> checkpoints;
+    for (int step = 0; step < 4000; ++step) {
+        const int what = draw(10);
+        if (what < 5) {
+            const int from = islands[draw(6)];
+            const int to = islands[draw(6)];
+            if (from == to) continue;
+            const std::size_t before = game.board.history.UndoList().size();
+            game << std::to_string(from) + "-=x"[draw(3)] + std::to_string(to);
+            game << "5";  // water lets go of what is still selected
+            if (game.board.history.UndoList().size() == before) continue;
+            moments.resize(++at);
+            moments.push_back(now());
+            std::erase_if(checkpoints, [&](std::size_t moment) { return moment >= at; });
+        } else if (what < 7) {
+            game << "u";
+            at -= at > 0 ? 1 : 0;
+        } else if (what == 7) {
+            game << "r";
+            at += at + 1 < moments.size() ? 1 : 0;
+        } else if (what == 8) {
+            game << "c";
+            checkpoints.insert(at);
+        } else {
+            game << "b";
+            checkpoints.erase(at);
+            const auto next = checkpoints.lower_bound(at);
+            if (next != checkpoints.begin()) at = *std::prev(next);
+        }
+        longest = std::max(longest, moments.size());
+        ASSERT_EQ(now(), moments[at]) << "step " << step;
+    }
+    EXPECT_GT(longest, 20U);
+}
+
+TEST(History, IsReadFromTheNewestMoveToTheBeginning) {
+    Play game;
+    const auto lines = [&](bool spoken) {
+        std::string all;
+        for (const HistoryLine& line : HistoryLines(game.board.history)) {
+            const Puzzle& puzzle = game.board.puzzle;
+            all += (line.isAhead ? "(" : "") + (spoken ? SpokenText(line, puzzle) : Text(line, puzzle)) + "@" +
+                   std::to_string(line.moment) + "; ";
+        }
+        return all;
+    };
+    EXPECT_EQ(lines(false), "");
+    game << "1-4 1-49 c 1x43 1x43 1=4 u u";
+    EXPECT_EQ(lines(false),
+              "(R1C1 - R1C4: 1 to 2@5; (R1C1 - R7C1: mark taken away@4; R1C1 - R7C1: no bridge@3; Checkpoint 1@2; "
+              "R1C1 - R1C4: 0 to 1@1; Beginning@0; ")
+        << "a refused move is not shown";
+    EXPECT_EQ(lines(true).substr(0, 62), "(taken back: row 1, column 1 to row 1, column 4: 1 to 2@5; (ta");
 }
 
 TEST(Keys, ArrowsGoToTheNearestInLineAndElseToTheNearestOnThatSide) {
@@ -166,6 +315,10 @@ TEST(Keys, DoWhatTheMouseDoes) {
     EXPECT_EQ(After(":.x=", kField), "#1 ") << "nothing is selected";
     EXPECT_EQ(After(":..=x", kField), "#1 @1") << "an island is no pair with itself";
     EXPECT_EQ(After(":.e 8", kField), "@8") << "the mouse hides the focus";
+    Play arrows(kField);
+    (arrows << ":.").Run(LayTowards, BoardKey::Right);
+    arrows.Run(LayTowards, BoardKey::Up);
+    EXPECT_EQ(arrows.State(), "1-3*1 #1 ; 1, 3, 0") << "with Ctrl an arrow lays, where there is somebody to see";
     EXPECT_EQ(After("8 :r.", kField), "8-10*1 #10 ; 8, 10, 0") << "the keys go on where the mouse was";
     Play game(kField);
     game << ":..r";
@@ -222,7 +375,8 @@ TEST(Undo, TakesMovesBackOneByOne) {
     Play game;
     EXPECT_EQ((game << "1-4 u").board.history.Revision(), 3U) << "a load, a move and a step back";
     EXPECT_EQ(ParseUndoRecord(" 12, 15, 1"), (UndoRecord{12, 15, 1}));
-    for (const char* text : {"12, 15, 1", " 12, 15", " 12, 15, 3", " 626, 1, 0", " 1, 626, 0", " 1,-1, 0", ""})
+    for (const char* text :
+         {"12, 15, 1", " 12, 15", " 12, 15, 3", " 12, 15,-3", " 626, 1, 0", " 1, 626, 0", " 1,-1, 0", ""})
         EXPECT_EQ(ParseUndoRecord(text), std::nullopt) << text;
 }
 
@@ -236,13 +390,111 @@ TEST(Check, FramesTheFirstWrongIslandForASecond) {
     EXPECT_FALSE(game.board.Shape1.visible);
     game << "1-4";
     EXPECT_EQ(game.world.Status(), "") << "it was said of the board before the move";
-    // Four islands whose double bridges cross in the middle, two groups: only bridges are counted.
+    Play done(Lines{"1.2.1"});
+    done << "1-3 3-5";
+    done.world.Seen();
+    done.world.Expect("All Done!", "vbhappy+vbok");
+    done.Run(cmdverify_Click);
+    EXPECT_EQ(done.world.Seen(), "box, events");
+}
+
+TEST(Check, SaysWhatNumbersAloneDoNotShow) {
     Play crossed(Lines{".2.", "2.2", ".2."});
     crossed << "2=8 4=6";
-    crossed.world.Seen();
     crossed.world.Expect("All Done!", "vbhappy+vbok");
     crossed.Run(cmdverify_Click);
-    EXPECT_EQ(crossed.world.Seen(), "box, events");
+    EXPECT_EQ(crossed.world.Status(), "All numbers are right, but bridges cross");
+    EXPECT_EQ(crossed.board.Shape1.cell, (CellPlace{2, 2}));
+    Play apart(Lines{"1.1", "...", "1.1"});
+    apart.options.StrictCheck = true;
+    (apart << "1-3 7-9").Run(cmdverify_Click);
+    EXPECT_EQ(apart.world.Status(), "Not done yet: the islands are not one group");
+    Play over(Lines{"1.1.1.1"});
+    over << "1-7 3-5";
+    over.world.Expect("All Done!", "vbhappy+vbok");
+    over.Run(cmdverify_Click);
+    EXPECT_EQ(over.world.Status(), "All numbers are right, but a bridge runs over an island");
+}
+
+TEST(Finish, IsNoticedWithTheLastBridge) {
+    Play game(Lines{"1.2.1"});
+    game << "1-3";
+    EXPECT_EQ(game.world.Status(), "");
+    game << "3-5";
+    EXPECT_EQ(game.world.Status(), "Solved");
+    EXPECT_TRUE(game.board.solved);
+    game << "u";
+    EXPECT_FALSE(game.board.solved);
+    EXPECT_EQ(game.world.Status(), "");
+}
+
+TEST(Kept, PlayComesBackWithItsPuzzleAndSaysSo) {
+    Play game;
+    game << "1-4 1x43 c 1-4 u";
+    const std::string state = game.State();
+    game.board.history = {};
+    game.Load(1);
+    EXPECT_EQ(game.State(), state);
+    EXPECT_EQ(game.board.history.Checkpoints(), std::vector<int>{2});
+    EXPECT_EQ(game.world.Status(), "Your bridges are back");
+    game << "r";
+    EXPECT_EQ(game.board.BridgeState(1, 4), 2) << "what was taken back, too";
+    game.world.Expect("Reset?", "vbYesNo", kYes);
+    game.Run(mnupuzreset_Click);
+    game.Load(1);
+    EXPECT_EQ(game.State(), "") << "a reset forgets";
+    game.options.KeepPlay = false;
+    game << "1-4";
+    game.Load(1);
+    EXPECT_EQ(game.State(), "") << "nothing is to be kept";
+    game.options.KeepPlay = true;
+    game.world.plays[PlainGrid(game.board.puzzle)].history =
+        History({{{1, 4, 0}, 1}, {{1, 2, 0}, 1}, {{4, 7, 0}, 1}}, 3, {1, 3});
+    game.Load(1);
+    EXPECT_EQ(game.State(), "1-4*1 ; 1, 4, 0") << "from the move on that cannot be";
+    EXPECT_EQ(game.board.history.Checkpoints(), std::vector<int>{1});
+}
+
+TEST(Kept, AWindowThatOnlyLooksOnKeepsNoMoves) {
+    Play game;
+    game << "1-4";
+    Play other;
+    other.world.plays = game.world.plays;
+    other.Load(1);
+    other.world.plays.begin()->second.history = History({{{4, 7, 0}, 2}}, 1, {});
+    other.Run(Form_Activate, true);
+    other.world.milliseconds += 5000;
+    other.Run(Form_Activate, false);
+    EXPECT_EQ(other.world.plays.begin()->second.history.Count(), 1) << "those of the first window";
+    EXPECT_EQ(other.world.plays.begin()->second.history.Moves().front().record.a, 4);
+    EXPECT_EQ(other.world.plays.begin()->second.seconds, 5);
+}
+
+TEST(Kept, TimeCountsWhileTheWindowIsActiveUntilThePuzzleIsSolved) {
+    Play game(Lines{"1.2.1"});
+    game.options.ShowTime = true;
+    const auto pass = [&](int milliseconds) { game.world.milliseconds += milliseconds; };
+    const auto kept = [&] { return game.world.plays.begin()->second.seconds; };
+    pass(60000);
+    game.Run(Form_Activate, true);
+    game << "1-3";
+    pass(1600);
+    game.Run(Form_Activate, false);
+    pass(60000);
+    game.Run(Form_Activate, true);
+    pass(1600);
+    EXPECT_EQ(kept(), 1);
+    game << "3-5";
+    EXPECT_EQ(kept(), 3) << "parts of a second add up";
+    EXPECT_EQ(game.world.Status(), "Solved (0:03)");
+    pass(60000);
+    game << "5 5";
+    KeepTime(game);
+    EXPECT_EQ(kept(), 3);
+    game.Load(1);
+    EXPECT_EQ(game.world.Status(), "Solved before");
+    EXPECT_EQ(game.playTime.Seconds(game.world.milliseconds), 3);
+    EXPECT_EQ(TimeText(59) + " " + TimeText(247) + " " + TimeText(3847), "0:59 4:07 1:04:07");
 }
 
 TEST(Zoom, StaysWithinItsLimitsAndKeepsTheBridges) {
@@ -269,9 +521,18 @@ TEST(Zoom, StaysWithinItsLimitsAndKeepsTheBridges) {
     EXPECT_NEAR(game.board.Line1.to.x, game.board.At(7).x, 0.1) << "the band stays over its cells";
     EXPECT_EQ(zoomed(300, 1), 330);
     EXPECT_EQ(game.board.Line1.from, game.board.At(4)) << "the ring follows";
+    const auto inContainer = [&](CellNumber id) {
+        const Frame& frame = game.board.layout.Picture1;
+        return Point{frame.left + game.board.At(id).x, frame.top + game.board.At(id).y};
+    };
+    const Point between = inContainer(7);
+    game.Run(PinchBoard, 440.0, between, Point{between.x + 300, between.y - 90});
+    EXPECT_EQ(game.board.layout.CellSize, 440);
+    EXPECT_NEAR(inContainer(7).x, between.x + 300, 1) << "it stays between the fingers";
+    EXPECT_NEAR(inContainer(7).y, between.y - 90, 1);
     game.world.visible = false;
     game.Run(cmdzoom_Click, 1);
-    EXPECT_EQ(game.board.layout.CellSize, 330);
+    EXPECT_EQ(game.board.layout.CellSize, 440);
 }
 
 TEST(BoardCommands, ShowTheSolutionWhileHeldAndResetWhenWanted) {

@@ -37,8 +37,16 @@ void Release(TestGame& game) {
 }
 
 void Drag(TestGame& game) {
-    game.Run(Picture1_MouseDown, MouseButton::Left, Point{0, 0});
+    game.Run(Picture1_MouseDown, MouseButton::Left, Point{-900, -900}, Point{0, 0});
     game.Run(Picture1_MouseMove, true, Point{-900, -900}, Point{90, 90});
+}
+
+void Stretch(TestGame& game) {
+    game.Run(PinchBoard, 300.0, Point{}, Point{});
+}
+void UndoAndRedo(TestGame& game) {
+    game.Run(cmdundo_Click);
+    game.Run(cmdredo_Click);
 }
 
 void Choose(TestGame& game) {
@@ -82,6 +90,12 @@ const Command kRefuse[] = {Do<arrows_Click, 0, kLeft>,
                            Do<control27_Click>};
 const Command kDoNothing[] = {Do<cmdzoom_Click, 0>,
                               Do<cmdundo_Click>,
+                              UndoAndRedo,
+                              Do<mnulines_Click>,
+                              Do<mnucheckpoint_Click>,
+                              Do<mnubacktocheckpoint_Click>,
+                              Do<LayTowards, BoardKey::Right>,
+                              Stretch,
                               Do<cmdverify_Click>,
                               Do<cmdviewcol_Press>,
                               Do<cmdviewcol_Release>,

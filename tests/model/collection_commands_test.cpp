@@ -94,7 +94,7 @@ TEST(DeletePuzzle, AsksFirstAndCountsAgain) {
 
 TEST(DeletePuzzle, NextToABrokenOneForgetsTheMovesAllTheSame) {
     EditGame game(2, {"\x01", Numbered(2), Numbered(3)});
-    game.board.history.Push({1, 3, 0});
+    game.board.history.Push({{1, 3, 0}, 1});
     game.ExpectDelete();
     game.world.Expect("puzzle 1 not found", kInformation);
     game.world.Expect("Deleted", "vbok+vbtrash");

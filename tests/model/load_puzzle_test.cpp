@@ -2,6 +2,8 @@
 // Loading puzzles, moving through a collection, opening another one.
 #include "model/load_puzzle.h"
 
+#include "board/after_move.h"
+#include "board/place_bridge.h"
 #include "model/navigation.h"
 #include "support/test_game.h"
 
@@ -43,7 +45,7 @@ TEST(LoadPuzzle, LeavesNothingOfThePuzzleBefore) {
     game.Load(1);
     Board& board = game.board;
     board.BridgeState.Set(3, 7, 2);
-    board.history.Push({3, 7, 0});
+    board.history.Push({{3, 7, 0}, 1});
     board.AnchorRow = board.HoverRow = board.FocusRow = 1;
     board.AnchorCol = board.HoverCol = board.FocusCol = 3;
     board.Line1.visible = true;
@@ -143,6 +145,18 @@ TEST(Arrows, StepAndWrapWithBothButtons) {
     EXPECT_EQ(game.world.Seen(), "number: 1, status: ");
     game.After(2, MouseButton::Left);
     EXPECT_EQ(game.world.Seen(), "") << "the only puzzle is there already";
+}
+
+TEST(Arrows, SayThatPlayIsBack) {
+    TestGame game({kSmallPuzzle, Record({"1.1"})});
+    game.Load(1);
+    LayBridge(game.board, PlaceMode::Cycle, 3, 7);
+    game.Run(AfterMove);
+    for (const char* said : {"", "Your bridges are back"}) {
+        game.Run(arrows_Click, 2, MouseButton::Left);
+        EXPECT_EQ(game.world.Status(), said);
+    }
+    EXPECT_EQ(game.board.BridgeState(3, 7), 1);
 }
 
 TEST(PuzNumNow, OnlyEnterAndNumbersInRangeLoad) {

@@ -44,9 +44,10 @@ TEST_F(OptionsWindow, ShowsTheOptionsAsTheyAre) {
     options.GridColour = 2;
     options.PrintLineWidth = 7;
     for (const int set : {0, 1}) {
-        options.NodeShape = options.ShowLines = options.ShowFinished = set;
+        options.NodeShape = options.ShowLines = set;
+        options.ShowFinished = set != 0;
         form = OpenOptions(game);
-        EXPECT_EQ(form.Option2 + form.Check1 + form.Check2, 3 * set);
+        EXPECT_EQ(form.Option2 + form.Check1 + form.draft.ShowFinished, 3 * set);
     }
     EXPECT_EQ(form.Combo1, "Own");
     EXPECT_EQ(form.schemes, (Lines{"xp", "default", "dusk", "Own"})) << "a scheme of no list stands there too";
@@ -75,7 +76,8 @@ TEST_F(OptionsWindow, ApplyChangesTheBoardAtOnceAndResetGoesBackToTheDefaults) {
     EXPECT_TRUE(cmdchaincol_Click(form, 1) && cmdgridcol_Click(form, 2) && cmdgivenfg_Click(form, 3));
     EXPECT_TRUE(cmdnodecol_Click(form, 4));
     EXPECT_FALSE(cmdnodecol_Click(form, std::nullopt)) << "nothing is picked";
-    form.Option2 = form.Check2 = true;
+    form.Option2 = form.draft.ShowFinished = form.draft.StrictCheck = true;
+    form.draft.KeepPlay = false;
     form.Check1 = false;
     form.Text3 = "9";
     game.Run(command1_Click, form);
@@ -87,6 +89,9 @@ TEST_F(OptionsWindow, ApplyChangesTheBoardAtOnceAndResetGoesBackToTheDefaults) {
     EXPECT_EQ(options.PrintLineWidth, 9);
     EXPECT_EQ(game.world.Seen(), "colours");
     EXPECT_EQ(game.world.choices["PalerFinished"], "1");
+    game.options = {};
+    ReadChoices(game);
+    EXPECT_TRUE(options.ShowFinished && options.StrictCheck && !options.KeepPlay && !options.ShowTime);
     game.Run(reset_Click, form);
     EXPECT_EQ(options.ColourSchemeName, "xp.col");
     EXPECT_EQ(form.Combo1, "xp");

@@ -11,6 +11,7 @@ std::string OverlayOf(const Board& board) {
     const auto words = [](Point point) { return std::to_string(point.x) + " " + std::to_string(point.y) + " "; };
     std::string all;
     if (board.Line1.visible) all += "band " + words(board.Line1.from) + words(board.Line1.to);
+    if (board.solved) all += "solved ";
     if (board.Shape1.visible) all += "marker " + std::to_string(board.puzzle.CellId(board.Shape1.cell)) + " ";
     if (board.focusShows) all += "focus " + std::to_string(FocusedIsland(board));
     return all;
@@ -106,6 +107,17 @@ void World::Preview(const std::string& printer, const PageFunction& draw) {
     printedTo = printer + "|";
     pages.assign(1, {});
     draw(pages.front(), printable);
+}
+
+std::optional<KeptPlay> World::Find(const Puzzle& puzzle) {
+    const auto found = plays.find(PlainGrid(puzzle));
+    return found == plays.end() ? std::nullopt : std::optional(found->second);
+}
+
+void World::Keep(const Puzzle& puzzle, const History& history, bool solved) {
+    KeptPlay& play = plays[PlainGrid(puzzle)];
+    play.history = history;
+    play.solved = play.solved || solved;
 }
 
 }  // namespace tidewalk::test

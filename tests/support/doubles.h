@@ -6,12 +6,14 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "game/choices.h"
 #include "game/game.h"
+#include "model/plain_grid.h"
 #include "support/recording_surface.h"
 
 namespace tidewalk::test {
@@ -44,7 +46,8 @@ class World final : public Prompts,
                     public Clipboard,
                     public Printers,
                     public Choices,
-                    public Background {
+                    public Background,
+                    public PlayStore {
  public:
     /// Fails when a question that was expected has not come.
     ~World() override;
@@ -90,6 +93,7 @@ class World final : public Prompts,
 
     Surface::Extent ContainerExtent() const override { return container; }
     Surface& Picture() override { return picture; }
+    double DragDistance() const override { return dragDistance; }
     void PlacePicture() override { placed = game->board.layout.Picture1; }
     void ShowOverlay() override { overlay = OverlayOf(game->board); }
     void SetEnabled(bool to) override { Note((enabled = to) ? "board on" : "board off"); }
@@ -116,6 +120,14 @@ class World final : public Prompts,
     void Assess(const Puzzle&, std::function<void(const Assessment&)> done) override { assessed = std::move(done); }
     std::function<void(const Assessment&)> assessed;  ///< waits for what is found out about the puzzle
 
+    std::optional<KeptPlay> Find(const Puzzle& puzzle) override;
+    void Keep(const Puzzle& puzzle, const History& history, bool solved) override;
+    void AddTime(const Puzzle& puzzle, int seconds) override { plays[PlainGrid(puzzle)].seconds += seconds; }
+    void Forget(const Puzzle& puzzle) override { plays.erase(PlainGrid(puzzle)); }
+    void Flush() override { ++flushes; }
+    std::map<std::vector<std::string>, KeptPlay> plays;  ///< by the rows of the puzzle, as `PlainGrid` has them
+    int flushes = 0;
+
     const Game* game = nullptr;  ///< the game that this is the world of
     void Note(const std::string& entry) { log_.push_back(entry); }
 
@@ -136,8 +148,9 @@ class World final : public Prompts,
 
     Surface::Extent container{9000, 9000};
     BoardPicture picture;
-    Frame placed;         ///< where the board's picture was placed
-    std::string overlay;  ///< what was shown over it
+    double dragDistance = 150;  ///< ten pixels, as desktops have it
+    Frame placed;               ///< where the board's picture was placed
+    std::string overlay;        ///< what was shown over it
     bool enabled = true;
     bool visible = true;
     bool frozen = false;

@@ -48,9 +48,12 @@ struct Examination {
             Demand(IsCell(link.first) && IsCell(link.second) && link.state <= 2, "a link is on the board");
         for (const auto& [a, b, bridges] : board.BridgeState.InBothOrders())
             Demand(IsPair(a, b) && (bridges == 1 || bridges == 2), "one or two bridges join two islands");
+        for (const auto& [a, b] : board.Marks.All())
+            Demand(IsPair(a, b) && board.BridgeState(a, b) == 0, "a mark stands where no bridge lies");
         // A move that came from no selected island names the cell 0.
         for (const auto& [a, b, state] : board.history.UndoList())
-            Demand((a == 0 || IsIsland(a)) && IsIsland(b) && state >= 0 && state <= 2, "a move was made on this board");
+            Demand((a == 0 || IsIsland(a)) && IsIsland(b) && state >= kMarked && state <= 2,
+                   "a move was made on this board");
     }
 
     void Marks() {
@@ -62,7 +65,7 @@ struct Examination {
         Demand(SelectedIsland(board) == 0 || board.Line1.visible, "the selected island shows");
         Demand(board.FocusRow == 0 || IsIsland(board.FocusRow, board.FocusCol), "the focus is on an island");
         const auto& [marked, cell] = board.Shape1;
-        Demand(!marked || IsIsland(cell.row, cell.col), "the marker is around an island");
+        Demand(!marked || puzzle.OnBoard(cell.row, cell.col), "the marker is around a cell");
         if (puzzle.CellCount() == 0) return;
         Demand(board.layout.CellSize >= kSmallestCell && board.layout.CellSize <= kLargestCell, "a cell has its size");
         Demand(board.layout.size == puzzle.Size(), "the layout is that of the puzzle");

@@ -14,7 +14,7 @@ namespace tidewalk::test {
 namespace {
 
 Seams SeamsTo(World& world) {
-    return {world, world, world, world, world, world, world, world, world, world, world};
+    return {world, world, world, world, world, world, world, world, world, world, world, world};
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ struct Guided : TestGame {
         return GuidanceText(*this);
     }
     void Lay(CellNumber a, CellNumber b, int bridges) {
-        board.history.Push({a, b, 0});
+        board.history.Push({{a, b, 0}, 1});
         board.BridgeState.Set(a, b, bridges);
         RedrawBoard(*this, false);
     }

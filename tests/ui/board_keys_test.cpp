@@ -37,7 +37,7 @@ TEST(BoardKeys, EveryKeyDoesItsPart) {
         window.Key(key, Qt::KeypadModifier);
         EXPECT_EQ(window.Focused(), place) << key;
     }
-    for (const int remove : {Qt::Key_Delete, Qt::Key_Backspace}) {
+    for (const int remove : {Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_X}) {
         window.Key(Qt::Key_Space);
         window.Key(Qt::Key_Left);
         window.Key(Qt::Key_Enter, Qt::ShiftModifier | Qt::KeypadModifier);
@@ -49,8 +49,10 @@ TEST(BoardKeys, EveryKeyDoesItsPart) {
     }
     window.Key(Qt::Key_F5);
     EXPECT_EQ(Get(window.form, "pb"), "Not done yet") << "shortcuts are in force";
-    // Keys with Ctrl belong to others, and so do arrows with Shift; a board that takes no mouse takes no keys.
     window.Key(Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(window.Bridges(kLeft, kRight), 1) << "with Ctrl an arrow lays at once, and the focus stays";
+    window.Trigger("cmdundo");
+    // Arrows with Shift belong to others; a board that takes no mouse takes no keys.
     window.Key(Qt::Key_Left, Qt::ShiftModifier);
     window.game.pictures.SetEnabled(false);
     window.Key(Qt::Key_End);
@@ -67,6 +69,7 @@ TEST(BoardKeys, EveryKeyDoesItsPart) {
     const auto before = window.board.history.Revision();
     held(Qt::Key_Return);
     held(Qt::Key_Return, Qt::ShiftModifier);
+    held(Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(window.board.history.Revision(), before) << "a key that is held down walks, but lays no bridge";
 }
 
@@ -175,7 +178,29 @@ TEST(ScreenReader, ReadsTheStatusLineWhereItIsTheMovesAndWhereACheckHasEnded) {
     EXPECT_EQ(read(status, QAccessible::Name) + ": " + read(status, QAccessible::Description),
               "Not done yet: " + where);
     QAccessibleInterface* const moves = QAccessible::queryAccessibleInterface(&Of(window.form, "UndoList"));
-    EXPECT_EQ(read(moves->child(0), QAccessible::Name), "row 1, column 3 and row 1, column 7 had 0");
+    EXPECT_EQ(read(moves->child(0), QAccessible::Name), "row 1, column 3 to row 1, column 7: 0 to 1");
+}
+
+TEST(ScreenReader, HearsOfMarksOfMistakesAndOfTheEnd) {
+    KeyWindow window({Record({"1.2.2", ".1...", "1....", ".1...", "....2"})});
+    const auto name = [&](CellPlace cell) {
+        return IslandName(window.game, window.board.puzzle.CellId(cell)).toStdString();
+    };
+    window.ClickIsland({1, 1});
+    window.ClickIsland({1, 3}, Qt::RightButton);
+    EXPECT_EQ(name({1, 1}), "row 1, column 1, needs 1, has 0, no bridge to row 1, column 3");
+    EXPECT_EQ(name({1, 3}), "row 1, column 3, needs 2, has 0, no bridge to row 1, column 1");
+    window.Click("cmdundo");
+    window.ClickIslands({{1, 1}, {3, 1}, {2, 2}, {4, 2}, {1, 3}, {1, 5}, {1, 3}, {1, 5}, {1, 1}, {1, 3}});
+    EXPECT_EQ(name({1, 3}), "row 1, column 3, needs 2, has 3") << "nobody wants to know";
+    window.game.options.ShowOverfull = window.game.options.ShowClosedGroups = true;
+    EXPECT_EQ(name({1, 3}), "row 1, column 3, needs 2, has 3, too many bridges, in a closed group");
+    KeyWindow last({Record({"1.1"})});
+    last.Key(Qt::Key_Home);
+    last.Key(Qt::Key_Right, Qt::ControlModifier);
+    IslandAnnouncer([&](QAccessibleInterface* island, QAccessible::Event) {
+        EXPECT_EQ(island->text(QAccessible::Description).toStdString(), "Solved");
+    }).AnnounceStatus(last.view);
 }
 
 TEST(ScreenReader, HasANameForEveryControlOfTheWindow) {

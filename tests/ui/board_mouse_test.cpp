@@ -65,6 +65,99 @@ TEST(BoardMouse, TheBoardFollowsADragAndComesBackToTheMiddleOnResize) {
     EXPECT_LE(middle.manhattanLength(), 2);
 }
 
+TEST(BoardMouse, ADragFromAnIslandLaysAndOneBesideTheBoardMovesIt) {
+    WindowGame window;
+    const QPoint before = window.view.pos();
+    const auto drag = [&](QPoint from, QPoint to) {
+        QTest::mousePress(&window.view, Qt::LeftButton, {}, from);
+        window.MoveTo(to, Qt::LeftButton);
+        QTest::mouseRelease(&window.view, Qt::LeftButton, {}, to);
+    };
+    drag(window.At(kLeft), window.At(kRight));
+    EXPECT_EQ(window.Bridges(kLeft, kRight), 1);
+    const int near = QApplication::startDragDistance() - 1;
+    drag(window.At(kLeft), window.At(kLeft) + QPoint(near, 0));
+    EXPECT_EQ(SelectedIsland(window.board), window.board.puzzle.CellId(kLeft)) << "a hand that shakes clicks";
+    QTest::mousePress(&window.view, Qt::LeftButton, {}, window.At(kLeft));
+    window.MoveTo(window.At(kRight), Qt::LeftButton);
+    QTest::keyClick(&window.view, Qt::Key_Escape);
+    QTest::mouseRelease(&window.view, Qt::LeftButton, {}, window.At(kRight));
+    EXPECT_EQ(window.Bridges(kLeft, kRight) * 100 + SelectedIsland(window.board), 100) << "Escape calls it off";
+    EXPECT_EQ(window.view.pos(), before);
+    BoardContainer& container = window.form.Container();
+    QTest::mousePress(&container, Qt::LeftButton, {}, QPoint(4, 4));
+    const QPointF to(34, 14);
+    QMouseEvent move(QEvent::MouseMove, to, container.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(&container, &move);
+    QTest::mouseRelease(&container, Qt::LeftButton, {}, to.toPoint());
+    EXPECT_EQ(window.view.pos() - before, QPoint(30, 10));
+}
+
+/// A touch screen.
+struct TouchWindow : WindowGame {
+    using Finger = std::pair<QPoint, QPoint>;
+
+    explicit TouchWindow() {
+        for (QTimer* const timer : form.Container().findChildren<QTimer*>())
+            if (timer->isSingleShot()) timer->setInterval(60);
+    }
+    /// Fingers go down, move in four steps and come up again; the fewer milliseconds they rest before that the better.
+    void Touch(const std::vector<Finger>& fingers, int rest = 0) {
+        const auto all = [&](const std::function<void(QTest::QTouchEventWidgetSequence&, int, const Finger&)>& part) {
+            QTest::QTouchEventWidgetSequence sequence = QTest::touchEvent(&view, Device());
+            for (int i = 0; i < static_cast<int>(fingers.size()); ++i)
+                part(sequence, i, fingers[static_cast<std::size_t>(i)]);
+        };
+        all([&](auto& touch, int id, const Finger& finger) { touch.press(id, finger.first, &view); });
+        if (rest > 0) QTest::qWait(rest);
+        const QPoint corner = view.mapToGlobal(QPoint());
+        for (int step = 1; step <= 4; ++step) {
+            // Places are those on the board as it lay when they were touched.
+            const QPoint moved = view.mapToGlobal(QPoint()) - corner;
+            all([&](auto& touch, int id, const Finger& finger) {
+                touch.move(id, finger.first + (finger.second - finger.first) * step / 4 - moved, &view);
+            });
+        }
+        const QPoint moved = view.mapToGlobal(QPoint()) - corner;
+        all([&](auto& touch, int id, const Finger& finger) { touch.release(id, finger.second - moved, &view); });
+    }
+    void Tap(CellPlace cell, int rest = 0) { Touch({{At(cell), At(cell)}}, rest); }
+
+    static QPointingDevice* Device() {
+        static QPointingDevice* const device = QTest::createTouchDevice();
+        return device;
+    }
+};
+
+TEST(BoardTouch, FingersPlayAWholeGame) {
+    TouchWindow window;
+    window.Tap(kLeft);
+    EXPECT_EQ(SelectedIsland(window.board), window.board.puzzle.CellId(kLeft));
+    window.Tap(kRight);
+    EXPECT_EQ(window.Bridges(kLeft, kRight), 1);
+    window.Touch({{window.At(kRight), window.At(kLeft)}});
+    EXPECT_EQ(window.Bridges(kLeft, kRight), 2);
+    EXPECT_EQ(window.board.history.Count(), 2) << "Qt makes no clicks of it besides";
+    window.Tap({1, 5}, 200);
+    EXPECT_EQ(window.Bridges(kLeft, kRight), 0) << "a finger that rests on a bridge";
+    window.Tap(kLeft);
+    window.Tap(kRight, 200);
+    EXPECT_TRUE(window.board.Marks(window.board.puzzle.CellId(kLeft), window.board.puzzle.CellId(kRight)));
+    EXPECT_EQ(SelectedIsland(window.board), 0) << "and is no tap in the end";
+    const QPoint before = window.view.pos();
+    window.Touch({{QPoint(5, 5), QPoint(65, 45)}});
+    EXPECT_EQ(window.view.pos() - before, QPoint(60, 40));
+    for (int i = 0; i < 3; ++i)
+        window.Trigger("cmdzoom0");
+    const int cell = window.board.layout.CellSize;
+    const QPoint middle = window.view.rect().center();
+    const int moves = window.board.history.Count();
+    window.Touch({{window.At(kLeft), window.At(kLeft)}, {middle, middle + (middle - window.At(kLeft)) / 8}});
+    EXPECT_NEAR(window.board.layout.CellSize, cell * 1.125, 8) << "two fingers stretch it";
+    EXPECT_EQ(window.board.history.Count(), moves);
+    EXPECT_EQ(SelectedIsland(window.board), 0);
+}
+
 TEST(BoardPicture, RingBandFocusAndMarkerLieWhereTheyBelong) {
     WindowGame window;
     window.view.setFocus();
@@ -95,6 +188,22 @@ TEST(BoardPicture, RingBandFocusAndMarkerLieWhereTheyBelong) {
     window.board.focusShows = false;
     window.Click("cmdverify");
     expectOverlay(half + 2);
+}
+
+TEST(BoardPicture, ASolvedPuzzleIsFramedBesideItsCells) {
+    WindowGame window({Record({"1.1"})});
+    BoardContainer& container = window.form.Container();
+    const double pen = 2 * window.board.layout.LineWidth;
+    const double beside = window.board.layout.HalfCell / kTwipsPerPixel + pen / 2;
+    for (const bool solved : {false, true}) {
+        const QImage shown = container.grab().toImage();
+        for (const CellPlace cell : {CellPlace{1, 1}, {1, 3}}) {
+            const QPointF side(cell.col == 1 ? -beside : beside, 0);
+            const QPointF at = (window.view.mapTo(&container, window.At(cell)) + side) * shown.devicePixelRatio();
+            EXPECT_EQ(shown.pixelColor(at.toPoint()) == ToQColor(window.game.options.ChainColour), solved) << cell.col;
+        }
+        window.ClickIslands({{1, 1}, {1, 3}});
+    }
 }
 
 /// Watches whether a widget is painted on the screen: a picture that a test grabs is painted for that alone.

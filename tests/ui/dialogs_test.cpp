@@ -136,7 +136,7 @@ TEST(Form2, EachControlDoesItsPartAndOnlyWhatIsAppliedShows) {
         }
         Press(form2, "Line2");
         EXPECT_EQ(Get(form2, "red green blue swatch"), "200 100 0 #c86400") << "a swatch is taken into the picker";
-        for (const char* const button : {"Show", "Circle", "Paler"})
+        for (const char* const button : {"Show", "Circle", "Finished islands paler"})
             Press(form2, button);
         Set(form2, "Text3=7");
     };

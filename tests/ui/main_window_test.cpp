@@ -51,7 +51,11 @@ std::string EffectOf(const std::function<void(WindowGame&)>& give) {
     });
     for (const char* const button : {"arrows2", "arrows2", "cmdzoom0"})
         window.Click(button);
-    window.ClickIslands({{1, 3}, {1, 7}, {1, 3}});
+    // There is a checkpoint before the move, and one more move that was taken back.
+    window.Trigger("mnucheckpoint");
+    window.ClickIslands({{1, 3}, {1, 7}, {1, 3}, {1, 7}});
+    window.Trigger("cmdundo");
+    window.ClickIslands({{1, 3}});
     window.game.window.SetText(WindowText::Status, "");
     QApplication::clipboard()->clear();
     const auto before = StateOf(window);
@@ -78,7 +82,8 @@ TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
         "|can1=|mnuautosol=works:Auto solving ...|mnusolutions=works:Looking for solutions ...|cmdneworder=popup "
         "open|cmdnew1right=popup "
         "open|"
-        "cmdverify=status Not done yet|cmdundo=moves 0|can2=selected 0|"
+        "cmdverify=status Not done yet|cmdundo=moves 0|cmdredo=moves 2|"
+        "mnucheckpoint=status Checkpoint set|mnubacktocheckpoint=moves 0|mnulines=status Lines hidden|can2=selected 0|"
         "mnuprintcurrent=Print Current Puzzle and its Solution?|mnuprintpreview=PrintPreview|control27=Form5|"
         "mnucopyclippuz=status Puzzle copied to clipboard|mnucopyclipsol=status Solution copied to clipboard|"
         "can3=|cmdsave=file: Add Puzzle to File|cmdload=file: Tidewalk|cmdedit=Form6|cmdviewcol=|"
@@ -235,13 +240,11 @@ TEST(Window, ListsFollowTheGameWhileTheyShow) {
         return all;
     };
     window.ClickIslands({{1, 3}, {1, 7}, {1, 3}, {3, 3}});
-    EXPECT_EQ(lines("UndoList"), " 3, 17, 0; 3, 7, 0;");
-    window.Click("cmdundo");
-    EXPECT_EQ(lines("UndoList"), " 3, 7, 0;");
+    EXPECT_EQ(lines("UndoList"), "R1C3 - R3C3: 0 to 1;R1C3 - R1C7: 0 to 1;Beginning;");
     window.Click("cmdverify");
     EXPECT_EQ(lines("List1"), "") << "nobody looks";
     window.Trigger("viewList1");
-    EXPECT_EQ(lines("List1"), "01 03 004 links=01;");
+    EXPECT_EQ(lines("List1"), "01 03 004 links=02;");
     window.Trigger("viewList2");
     window.program.handlers().Run([&](Game& game) {
         game.List1.SetLines({"b", "a"});
@@ -249,6 +252,61 @@ TEST(Window, ListsFollowTheGameWhileTheyShow) {
         game.events.DoEvents();
         EXPECT_EQ(lines("List1") + lines("List2"), "a;b;c;") << "in the middle of a job";
     });
+}
+
+TEST(Window, TheListOfMovesPointsAtThemAndGoesThere) {
+    WindowGame window;
+    window.ClickIslands({{1, 3}, {1, 7}, {1, 3}, {3, 3}, {1, 3}, {3, 3}});
+    auto& list = Of<QListView>(window.form, "UndoList");
+    const auto row = [&](int number) { return list.visualRect(list.model()->index(number, 0)).center(); };
+    const auto greys = [&] {
+        int grey = 0;
+        for (int line = 0; line < list.model()->rowCount(); ++line)
+            grey += list.model()->index(line, 0).data(Qt::ForegroundRole).isValid() ? 1 : 0;
+        return grey;
+    };
+    const auto move = [&](QPoint to) {
+        QMouseEvent event(QEvent::MouseMove, to, list.viewport()->mapToGlobal(to), Qt::NoButton, {}, {});
+        QApplication::sendEvent(list.viewport(), &event);
+    };
+    const QImage bare = window.Shown();
+    move(row(2));
+    EXPECT_EQ(window.board.pointed, (Board::PointedPair{3, 7}));
+    EXPECT_NE(window.Shown(), bare);
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(list.viewport(), &leave);
+    EXPECT_EQ(window.Shown(), bare);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, row(2));
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, row(2));
+    EXPECT_EQ(window.board.history.Done(), 1);
+    EXPECT_EQ(greys(), 2);
+    list.setFocus();
+    list.setCurrentIndex(list.model()->index(0, 0));
+    EXPECT_EQ(window.board.pointed, (Board::PointedPair{3, 17})) << "the current one, for the keyboard";
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(window.board.history.Done(), 3);
+    EXPECT_EQ(list.currentIndex().row(), 0) << "the keyboard stays where it was";
+    QTest::keyClick(&list, Qt::Key_End);
+    QTest::keyClick(&list, Qt::Key_Enter);
+    EXPECT_EQ(window.board.history.Done(), 0);
+    window.view.setFocus();
+    EXPECT_EQ(window.board.pointed, Board::PointedPair());
+}
+
+TEST(Window, TheTimeShowsWhenWantedAndTicksWhileTheWindowIsActive) {
+    WindowGame window;
+    auto& time = Of<QLabel>(window.form, "PlayTime");
+    EXPECT_FALSE(time.isVisible());
+    window.game.options.ShowTime = true;
+    window.form.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window.form));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return time.isVisible() && time.text() == "0:01"; }, 4000));
+    QMainWindow other;
+    other.show();
+    other.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
+    const int seconds = window.game.playTime.Seconds(window.game.clock.Milliseconds() + 100000);
+    EXPECT_LE(seconds, 3) << "it does not count while another window is active";
 }
 
 TEST(Window, ANewPuzzleIsOrderedAtItsButton) {

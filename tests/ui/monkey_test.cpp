@@ -13,8 +13,9 @@ namespace {
 
 const QStringList kTexts{"7", "8x9", "", "1", "3", "99999", "-1", "x", "1e9", "2.5", "other.tdw"};
 const QStringList kFiles{"collection.tdw", "other.tdw", "out.pdf", "new", "missing/x.tdw"};
-const QList kKeys{Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_Left,   Qt::Key_Right, Qt::Key_Up,
-                  Qt::Key_Down,   Qt::Key_Tab,    Qt::Key_7,     Qt::Key_Delete, Qt::Key_F5,    Qt::Key_F9};
+const QList kKeys{Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_Left, Qt::Key_Right,
+                  Qt::Key_Up,     Qt::Key_Down,   Qt::Key_X,     Qt::Key_Tab,  Qt::Key_7,
+                  Qt::Key_Delete, Qt::Key_F5,     Qt::Key_F9};
 const QList kModifiers{Qt::NoModifier, Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier};
 const QList kButtons{Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
 
@@ -73,6 +74,8 @@ struct Monkey {
         } else if (chance < 60 && window->board.puzzle.CellCount() > 0) {
             const CellPlace cell = window->board.puzzle.PlaceOf(1 + Draw(window->board.puzzle.CellCount()));
             window->ClickIsland(cell, OneOf(kButtons), OneOf(kModifiers));
+        } else if (chance < 65 && window->board.puzzle.CellCount() > 0) {
+            Drag();
         } else if (chance < 97) {
             UseControlOf(window->form);
         } else if (chance < 99) {
@@ -80,6 +83,20 @@ struct Monkey {
         } else if (Draw(3) == 0) {
             window->form.close();
         }
+    }
+
+    /// Draws from one cell to another; whatever comes in between may let the release go elsewhere.
+    void Drag() {
+        const auto cell = [&] {
+            return window->At(window->board.puzzle.PlaceOf(1 + Draw(window->board.puzzle.CellCount())));
+        };
+        QTest::mousePress(&window->view, Qt::LeftButton, {}, cell());
+        for (int i = Draw(3); i >= 0; --i)
+            window->MoveTo(cell(), Qt::LeftButton);
+        const int chance = Draw(6);
+        if (chance == 0) QTest::keyClick(&window->view, Qt::Key_Escape);
+        if (chance == 1) OneOf(window->form.findChildren<QAction*>())->trigger();
+        if (chance != 2) QTest::mouseRelease(&window->view, Qt::LeftButton, OneOf(kModifiers), cell());
     }
 
     void UseControlOf(QWidget& form) {
