@@ -48,7 +48,7 @@ Board BoardWith(const Puzzle& solution) {
 SolutionView::SolutionView(const Puzzle& solution, std::vector<Difference> differences, Options options)
     : board_(BoardWith(solution)), differences_(std::move(differences)), options_(std::move(options)) {
     // All islands have their bridges here, and paler ones would say nothing.
-    options_.ShowFinished = 0;
+    options_.ShowFinished = false;
     setMinimumSize(kSmallestSide, kSmallestSide);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
