@@ -11,11 +11,12 @@ namespace tidewalk {
 void AfterMove(Game& game) {
     Board& board = game.board;
     const bool wasSolved = board.solved;
-    board.solved = Judge(board.puzzle, board.BridgeState) == Verdict::Solved;
+    board.solved = IsSolved(board.puzzle, board.BridgeState);
     KeepPlay(game);
     RedrawBoard(game, false);
     game.pictures.ShowOverlay();
     ForgetStatus(game);
+    TellTrouble(game);
     game.playTime.SetSolved(board.solved, game.clock.Milliseconds());
     if (!board.solved || wasSolved) return;
     const int seconds = game.playTime.Seconds(game.clock.Milliseconds());

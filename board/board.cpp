@@ -51,7 +51,7 @@ void TakePuzzle(Board& board, const Puzzle& puzzle) {
     board.FocusRow = board.FocusCol = 0;
     board.Shape1.visible = false;
     board.solved = false;
-    board.playBack.clear();
+    board.playNote.clear();
 }
 
 }  // namespace tidewalk

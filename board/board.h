@@ -26,7 +26,7 @@ struct Board {
     BridgeTable BridgeState;
     PairMarks Marks;
     History history;
-    std::string playBack;  ///< what is to be said of play that came back with the puzzle, "" for none
+    std::string playNote;  ///< what is to be said of the play that was kept for the puzzle, "" for nothing
     int loadCount = 0;     ///< how often the puzzle was replaced as a whole
 
     int HoverRow = 0;  ///< the cell that a click is for; 0 or -1 for none

@@ -60,11 +60,11 @@ void PinchBoard(Game& game, double cellSize, Point from, Point to) {
 }
 
 void cmdundo_Click(Game& game) {
-    if (!game.job.BusyFlag()) GoToMoment(game, game.board.history.Done() - 1);
+    GoToMoment(game, game.board.history.Done() - 1);
 }
 
 void cmdredo_Click(Game& game) {
-    if (!game.job.BusyFlag()) GoToMoment(game, game.board.history.Done() + 1);
+    GoToMoment(game, game.board.history.Done() + 1);
 }
 
 void GoToMoment(Game& game, int moment) {
@@ -95,12 +95,13 @@ void mnucheckpoint_Click(Game& game) {
 
 void mnubacktocheckpoint_Click(Game& game) {
     if (game.job.BusyFlag()) return;
+    const std::uint64_t revision = game.board.history.Revision();
     if (const auto moment = game.board.history.BackToCheckpoint()) {
         GoToMoment(game, *moment);
     } else {
         game.window.SetText(WindowText::Status, "There is no checkpoint to go back to");
-        // One at this very moment was given up.
-        KeepPlay(game);
+        const bool gaveOneUp = game.board.history.Revision() != revision;
+        if (gaveOneUp) KeepPlay(game);
     }
 }
 

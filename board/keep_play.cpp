@@ -72,22 +72,30 @@ void BringBackPlay(Game& game) {
     std::optional<KeptPlay> kept;
     if (game.options.KeepPlay && board.puzzle.IslandCount() > 0) kept = game.plays.Find(board.puzzle);
     game.playTime.Begin(kept ? kept->seconds : 0, game.clock.Milliseconds());
+    TellTrouble(game);
     if (!kept || (kept->history.Count() == 0 && kept->history.Checkpoints().empty())) return;
     board.history.Take(Sound(board.puzzle, kept->history));
     for (int at = 0; at < board.history.Done(); ++at) {
         const PlayedMove& move = board.history.Moves()[static_cast<std::size_t>(at)];
         SetPairState(board, move.record.a, move.record.b, move.after);
     }
-    board.solved = Judge(board.puzzle, board.BridgeState) == Verdict::Solved;
+    board.solved = IsSolved(board.puzzle, board.BridgeState);
     game.playTime.SetSolved(board.solved, game.clock.Milliseconds());
     RedrawBoard(game, false);
     game.pictures.ShowOverlay();
-    board.playBack = kept->solved || board.solved ? "Solved before" : "Your bridges are back";
-    game.window.SetText(WindowText::Status, board.playBack);
+    board.playNote = kept->solved || board.solved ? "Solved before" : "Your bridges are back";
+    game.window.SetText(WindowText::Status, board.playNote);
 }
 
-std::string AndPlayBack(const Game& game, const std::string& text) {
-    return game.board.playBack.empty() ? text : text + ". " + game.board.playBack;
+std::string AndPlayNote(const Game& game, const std::string& text) {
+    return game.board.playNote.empty() ? text : text + ". " + game.board.playNote;
+}
+
+void TellTrouble(Game& game) {
+    const std::string trouble = game.plays.TakeTrouble();
+    if (trouble.empty()) return;
+    game.board.playNote = trouble;
+    game.window.SetText(WindowText::Status, trouble);
 }
 
 void ForgetPlay(Game& game) {

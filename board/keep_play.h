@@ -24,8 +24,11 @@ std::string TimeText(int seconds);
 /// that cannot have been made on it are left out with all that follow.
 void BringBackPlay(Game& game);
 
-/// What the status line says of a puzzle that has come onto the board, and that what was played on it is back, if so.
-std::string AndPlayBack(const Game& game, const std::string& text);
+/// What the status line says of a puzzle that has come onto the board, and what is to be said of the play kept for it.
+std::string AndPlayNote(const Game& game, const std::string& text);
+
+/// Says in the status line what went wrong in keeping, if anything did since it was told last.
+void TellTrouble(Game& game);
 
 /// Forgets what was kept of the puzzle on the board.
 void ForgetPlay(Game& game);

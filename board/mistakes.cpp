@@ -77,15 +77,15 @@ Mistakes FindMistakes(const Puzzle& puzzle, const BridgeTable& bridges) {
     return mistakes;
 }
 
-Verdict Judge(const Puzzle& puzzle, const BridgeTable& bridges) {
-    if (puzzle.IslandCount() == 0) return Verdict::Unfinished;
+bool IsSolved(const Puzzle& puzzle, const BridgeTable& bridges) {
+    if (puzzle.IslandCount() == 0) return false;
+    BridgedBoard board(puzzle, bridges);
     for (CellNumber id = 1; id <= puzzle.CellCount(); ++id) {
-        if (puzzle.IslandAt(id) > 0 && puzzle.IslandAt(id) != bridges.CountAt(id)) return Verdict::Unfinished;
+        const bool isIsland = board.IsIsland(id);
+        if (isIsland && board.Missing(id) != 0) return false;
+        if (board.BridgesOver(id) > (isIsland ? 0 : 1)) return false;
     }
-    const Mistakes mistakes = FindMistakes(puzzle, bridges);
-    if (!mistakes.runOver.empty()) return Verdict::OverIsland;
-    if (!mistakes.crossings.empty()) return Verdict::Crossing;
-    return mistakes.closed.empty() ? Verdict::Solved : Verdict::SeparateGroups;
+    return board.ClosedGroups().empty();
 }
 
 }  // namespace tidewalk

@@ -19,16 +19,8 @@ struct Mistakes {
 
 Mistakes FindMistakes(const Puzzle& puzzle, const BridgeTable& bridges);
 
-/// What the player's bridges are, taken as a whole.
-enum class Verdict {
-    Unfinished,      ///< an island does not have its number
-    OverIsland,      ///< all have, but a bridge runs over one
-    Crossing,        ///< or bridges cross
-    SeparateGroups,  ///< or not all islands hang together
-    Solved
-};
-
-/// A board without islands is unfinished.
-Verdict Judge(const Puzzle& puzzle, const BridgeTable& bridges);
+/// Whether the bridges solve the puzzle: every island has its number, nothing runs over an island or crosses, and all
+/// islands hang together. A board without islands is never solved.
+bool IsSolved(const Puzzle& puzzle, const BridgeTable& bridges);
 
 }  // namespace tidewalk

@@ -39,10 +39,10 @@ struct SolvedLine {
 };
 
 /// Why the puzzle was not solved, within the bound that was given.
-std::string FailureOf(SolveEnd end, const std::optional<int>& maxTrials) {
+std::string FailureOf(const SolveResult& result, const std::optional<int>& maxTrials) {
     if (maxTrials == 0) return "the rules alone do not solve it";
-    if (end == SolveEnd::GivenUp && maxTrials) return "given up after " + std::to_string(*maxTrials) + " trials";
-    return end == SolveEnd::NoSolution ? "there is no solution" : "no solution was found";
+    if (maxTrials && result.trials > *maxTrials) return "given up after " + std::to_string(*maxTrials) + " trials";
+    return result.end == SolveEnd::NoSolution ? "there is no solution" : "no solution was found";
 }
 
 /// Solves the puzzle on `board`, whatever that held before.
@@ -59,7 +59,7 @@ Outcome Solve(SolverBoard& board, const Puzzle& puzzle, const std::optional<int>
     outcome.trials = std::min(result.trials, maxTrials.value_or(result.trials));
     outcome.solution = PuzzleOf(board);
     const bool solved = result.Solved() && CheckLinkTotals(outcome.solution);
-    if (!solved) outcome.failure = FailureOf(result.end, maxTrials);
+    if (!solved) outcome.failure = FailureOf(result, maxTrials);
     return outcome;
 }
 

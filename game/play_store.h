@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "board/history.h"
 #include "model/puzzle.h"
@@ -18,8 +19,7 @@ struct KeptPlay {
     bool operator==(const KeptPlay&) const = default;
 };
 
-/// Keeps play by the numbers of a puzzle, so that it follows a puzzle from file to file. What cannot be kept is lost
-/// without a word: no command depends on it.
+/// Keeps play by the numbers of a puzzle, so that it follows a puzzle from file to file. No command depends on it.
 class PlayStore {
  public:
     virtual ~PlayStore() = default;
@@ -38,6 +38,9 @@ class PlayStore {
 
     /// Makes sure that all of it is kept now.
     virtual void Flush() = 0;
+
+    /// Tells, once, what went wrong meanwhile; "" when nothing did that was not told already.
+    virtual std::string TakeTrouble() = 0;
 };
 
 }  // namespace tidewalk

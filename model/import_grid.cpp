@@ -59,7 +59,7 @@ bool ReadGridFile(Game& game, const std::string& path, int number) {
     CloseFiles(game);
     if (!ReportGridResult(game, ReadGridFrom(path, number, puzzle), path, number)) return false;
     TakeImported(game, puzzle, path);
-    game.window.SetText(WindowText::Status, AndPlayBack(game, "Edited puzzle read"));
+    game.window.SetText(WindowText::Status, AndPlayNote(game, "Edited puzzle read"));
     return true;
 }
 
@@ -69,7 +69,7 @@ void mnuimport_Click(Game& game) {
         PickFile(game, {"Select a grid file", "*.txt", "Tide Files", game.AppFolder, FileRequest::Mode::Open});
     if (path.empty()) return;
     ReadGridFile(game, path, 1);
-    game.window.SetText(WindowText::Status, AndPlayBack(game, "File " + FileNameOf(path) + " imported"));
+    game.window.SetText(WindowText::Status, AndPlayNote(game, "File " + FileNameOf(path) + " imported"));
 }
 
 void mnupastepuzzle_Click(Game& game) {
@@ -82,7 +82,7 @@ void mnupastepuzzle_Click(Game& game) {
     }
     // The reader has said so itself if it does not take the grid.
     ReadGridFile(game, workFile, 1);
-    game.window.SetText(WindowText::Status, AndPlayBack(game, "Puzzle imported"));
+    game.window.SetText(WindowText::Status, AndPlayNote(game, "Puzzle imported"));
 }
 
 }  // namespace tidewalk

@@ -30,7 +30,7 @@ std::optional<int> ArrowTarget(Game& game, int index, MouseButton button, int ol
 void LoadOrGoBack(Game& game, int number, int old) {
     if (!LoadPuzzle(game, game.collection.CollectionPath, number))
         LoadPuzzle(game, game.collection.CollectionPath, old);
-    game.window.SetText(WindowText::Status, game.board.playBack);
+    game.window.SetText(WindowText::Status, game.board.playNote);
 }
 
 }  // namespace
@@ -79,7 +79,7 @@ void OpenChosen(Game& game, const std::string& path) {
     const BusyPointer busy(game);
     CloseFiles(game);
     OpenCollection(game, path, 1);
-    game.window.SetText(WindowText::Status, game.board.playBack);
+    game.window.SetText(WindowText::Status, game.board.playNote);
 }
 
 void mnuloadpuz_Click(Game& game) {

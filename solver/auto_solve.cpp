@@ -52,7 +52,7 @@ void GiveUp(Game& game, const std::string& status) {
         game.board.OpenNeighbours.Fill({});
         RedrawBoard(game, false);
     }
-    game.window.SetText(WindowText::Status, status.empty() ? game.board.playBack : status);
+    game.window.SetText(WindowText::Status, status.empty() ? game.board.playNote : status);
     game.window.SetPointer(Pointer::Default);
     game.prompts.Show("Unable to solve\r\nPlease check puzzle layout", "vbcritical+vbok");
 }

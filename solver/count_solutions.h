@@ -19,6 +19,9 @@ using SpanBridges = std::vector<std::uint8_t>;
 /// asked before every choice. Nothing when it said no before the answer was known.
 std::optional<std::vector<SpanBridges>> FindSolutions(const Archipelago& board, int limit, const MayGoOn& mayGoOn);
 
+/// The puzzle of which `board` was made, with such bridges as its links.
+Puzzle WithBridges(const Puzzle& puzzle, const Archipelago& board, const SpanBridges& bridges);
+
 /// How many solutions the puzzle's numbers have, counted up to `limit`, which is at least 1. A board without islands
 /// has none.
 ///

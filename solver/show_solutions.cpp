@@ -15,20 +15,6 @@ namespace {
 
 constexpr const char* kNotKnown = "The solutions are not known: the search was stopped";
 
-/// The puzzle with a solution's bridges as its links.
-Puzzle Solved(const Puzzle& puzzle, const Archipelago& board, const SpanBridges& bridges) {
-    Puzzle solved = WithoutLinks(puzzle);
-    for (int span = 0; span < board.SpanCount(); ++span) {
-        const int laid = bridges[static_cast<std::size_t>(span)];
-        const auto& ends = board.SpanAt(span).ends;
-        if (laid > 0) {
-            solved.LinkList.push_back(
-                MakeLink(board.IsleAt(ends[0]).id, board.IsleAt(ends[1]).id, kMostBridges - laid));
-        }
-    }
-    return solved;
-}
-
 /// "Row 1, column 3 to row 1, column 7: one bridge in the first, two in the second".
 std::string DifferenceText(CellPlace a, CellPlace b, int first, int second) {
     constexpr std::array<const char*, kMostBridges + 1> kCounts{"none", "one", "two"};
@@ -67,7 +53,7 @@ FoundSolutions SolutionsToShow(const Puzzle& puzzle, const Archipelago& board,
                                const std::vector<SpanBridges>& solutions) {
     FoundSolutions shown{"This puzzle has exactly one solution.", {}, {}};
     for (const SpanBridges& bridges : solutions)
-        shown.solutions.push_back(Solved(puzzle, board, bridges));
+        shown.solutions.push_back(WithBridges(puzzle, board, bridges));
     if (solutions.size() > 1) {
         shown.caption = "This puzzle has several solutions. Two of them:";
         shown.differences = DifferencesOf(board, solutions[0], solutions[1]);

@@ -96,6 +96,9 @@ class PlayFile {
 
     enum class Outcome { Done, Busy, Failed };
 
+    /// What the player is to know of the file.
+    enum class Trouble { None, Damaged, Later, NotWritten, Held };
+
     explicit PlayFile(const QString& folder) : path_(folder + "/play.db") {}
     ~PlayFile() {
         database_ = {};
@@ -104,11 +107,12 @@ class PlayFile {
     PlayFile(const PlayFile&) = delete;
     PlayFile& operator=(const PlayFile&) = delete;
 
-    /// What the file holds about a puzzle.
-    std::optional<KeptPlay> Find(const QByteArray& key) {
-        std::optional<KeptPlay> found;
-        if (QFile::exists(path_)) Use(kPatience, [&] { found = Read(key); });
-        return found;
+    /// Reads into `found` what the file holds about a puzzle.
+    Outcome Find(const QByteArray& key, std::optional<KeptPlay>& found) {
+        if (!QFile::exists(path_)) return Outcome::Done;
+        const Outcome outcome = Use(kPatience, [&] { found = Read(key); });
+        if (outcome == Outcome::Busy) trouble_ = Trouble::Held;
+        return outcome;
     }
 
     /// Makes all changes, or none.
@@ -120,8 +124,13 @@ class PlayFile {
                 Write(key, change);
             Ask(database_, "COMMIT");
         };
-        return Use(patience, work);
+        const Outcome outcome = Use(patience, work);
+        if (outcome == Outcome::Failed && usable_ && !failed_) trouble_ = Trouble::NotWritten;
+        failed_ = outcome == Outcome::Failed;
+        return outcome;
     }
+
+    Trouble TakeTrouble() { return std::exchange(trouble_, Trouble::None); }
 
  private:
     /// Opens the file for a piece of work on it. A damaged file is put aside, and the work is done on a new one.
@@ -129,7 +138,11 @@ class PlayFile {
         if (!FindDriver()) return Outcome::Failed;
         database_.setConnectOptions("QSQLITE_BUSY_TIMEOUT=" + QString::number(patience));
         std::optional<Outcome> outcome = Try(work);
-        if (!outcome && (usable_ = MakeRoom())) outcome = Try(work);
+        if (!outcome) {
+            usable_ = MakeRoom();
+            trouble_ = usable_ ? Trouble::Damaged : Trouble::NotWritten;
+            if (usable_) outcome = Try(work);
+        }
         return outcome.value_or(Outcome::Failed);
     }
 
@@ -148,6 +161,7 @@ class PlayFile {
             // Whoever made it will come back to it.
             if (other.later) {
                 usable_ = false;
+                trouble_ = Trouble::Later;
                 outcome = Outcome::Failed;
             }
         }
@@ -201,6 +215,9 @@ class PlayFile {
         return play;
     }
 
+    static constexpr const char* kReplaceMoves = "coalesce(excluded.moves, moves)";
+    static constexpr const char* kKeepMoves = "coalesce(moves, excluded.moves)";
+
     void Write(const QByteArray& key, const Change& change) {
         if (change.forgets) Ask(database_, "DELETE FROM play WHERE key = ?", {key});
         const std::string text = change.history ? HistoryText(*change.history) : "";
@@ -209,8 +226,10 @@ class PlayFile {
         const bool keeps = !text.empty() && text.size() <= kLongestHistoryText;
         Ask(database_,
             "INSERT INTO play (key, moves, seconds, solved, changed) VALUES (?, ?, ?, ?, ?) ON CONFLICT (key) DO "
-            "UPDATE SET moves = coalesce(excluded.moves, moves), seconds = seconds + excluded.seconds, "
-            "solved = max(solved, excluded.solved), changed = excluded.changed",
+            "UPDATE SET moves = " +
+                QString(change.unseen ? kKeepMoves : kReplaceMoves) +
+                ", seconds = seconds + excluded.seconds, solved = max(solved, excluded.solved), "
+                "changed = excluded.changed",
             {key, keeps ? QByteArray::fromStdString(text) : QVariant(), change.seconds, change.solved ? 1 : 0,
              QDateTime::currentSecsSinceEpoch()});
     }
@@ -219,6 +238,8 @@ class PlayFile {
     QString connection_;     ///< Qt's name for it, "" before its first use
     QSqlDatabase database_;  ///< none before its first use
     bool usable_ = true;
+    bool failed_ = false;  ///< at the last write
+    Trouble trouble_ = Trouble::None;
 };
 
 QtPlayStore::QtPlayStore() {
@@ -243,10 +264,10 @@ void QtPlayStore::UseFolder(const QString& folder) {
 std::optional<KeptPlay> QtPlayStore::Find(const Puzzle& puzzle) {
     const QByteArray key = KeyOf(puzzle);
     const auto found = waiting_.find(key);
-    if (found == waiting_.end()) return file_ ? file_->Find(key) : std::nullopt;
+    if (found == waiting_.end()) return FindInFile(key);
     const Change& change = found->second;
     std::optional<KeptPlay> play;
-    if (file_ && !change.forgets) play = file_->Find(key);
+    if (!change.forgets) play = FindInFile(key);
     if (!change.history && change.seconds == 0) return play;
     if (!play) play.emplace();
     if (change.history) play->history = *change.history;
@@ -255,8 +276,20 @@ std::optional<KeptPlay> QtPlayStore::Find(const Puzzle& puzzle) {
     return play;
 }
 
+std::optional<KeptPlay> QtPlayStore::FindInFile(const QByteArray& key) {
+    std::optional<KeptPlay> play;
+    if (!file_) return play;
+    if (file_->Find(key, play) == PlayFile::Outcome::Busy) {
+        unseen_.insert(key);
+    } else {
+        unseen_.erase(key);
+    }
+    return play;
+}
+
 void QtPlayStore::Keep(const Puzzle& puzzle, const History& history, bool solved) {
     Change& change = ToChange(puzzle);
+    change.unseen = unseen_.contains(KeyOf(puzzle));
     change.history = history;
     change.solved = change.solved || solved;
 }
@@ -266,11 +299,30 @@ void QtPlayStore::AddTime(const Puzzle& puzzle, int seconds) {
 }
 
 void QtPlayStore::Forget(const Puzzle& puzzle) {
-    ToChange(puzzle) = {.forgets = true, .history = {}, .solved = false, .seconds = 0};
+    ToChange(puzzle) = {};
+    ToChange(puzzle).forgets = true;
+    unseen_.erase(KeyOf(puzzle));
 }
 
 void QtPlayStore::Flush() {
     Write(kPatience);
+}
+
+std::string QtPlayStore::TakeTrouble() {
+    using Trouble = PlayFile::Trouble;
+    switch (file_ ? file_->TakeTrouble() : Trouble::None) {
+        case Trouble::Damaged:
+            return "\"play.db\" was damaged and has another name now: what you play is kept in a new one";
+        case Trouble::Later:
+            return "\"play.db\" is of a later version: what you play is not kept";
+        case Trouble::NotWritten:
+            return "\"play.db\" cannot be written: what you play is not kept";
+        case Trouble::Held:
+            return "\"play.db\" is in use: what you played before stays as it is, out of sight";
+        case Trouble::None:
+            break;
+    }
+    return "";
 }
 
 QtPlayStore::Change& QtPlayStore::ToChange(const Puzzle& puzzle) {

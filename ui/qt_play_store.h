@@ -8,6 +8,8 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
+#include <string>
 
 #include "game/play_store.h"
 
@@ -18,7 +20,8 @@ class PlayFile;
 /// Keeps play in "play.db" in the program folder, which SQLite reads and writes.
 ///
 /// What is to be kept waits a moment, so that a quick succession of moves is written once. What cannot be written waits
-/// for the next occasion, and is found meanwhile. The file is open only while it is read or written, and is not even
+/// for the next occasion, and is found meanwhile. What cannot be read because another program holds the file is not
+/// replaced before it was. The file is open only while it is read or written, and is not even
 /// looked for before something is asked.
 class QtPlayStore final : public PlayStore {
  public:
@@ -36,6 +39,7 @@ class QtPlayStore final : public PlayStore {
     void Forget(const Puzzle& puzzle) override;
     /// Waits a second at most for another window that is writing.
     void Flush() override;
+    std::string TakeTrouble() override;
 
  private:
     friend class PlayFile;
@@ -46,14 +50,17 @@ class QtPlayStore final : public PlayStore {
         std::optional<History> history;
         bool solved = false;
         int seconds = 0;
+        bool unseen = false;  ///< what is kept could not be read, so that only time may be added to it
     };
     using Changes = std::map<QByteArray, Change>;  ///< by the puzzle's key
 
     Change& ToChange(const Puzzle& puzzle);
+    std::optional<KeptPlay> FindInFile(const QByteArray& key);
     /// Writes what waits, and waits so many milliseconds for a file that another window holds.
     void Write(int patience);
 
     Changes waiting_;
+    std::set<QByteArray> unseen_;  ///< keys of what another program held too long for us to read it
     QTimer write_;
     std::unique_ptr<PlayFile> file_;  ///< none as long as there is no folder
 };

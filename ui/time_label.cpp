@@ -23,10 +23,7 @@ TimeLabel::TimeLabel(Handlers& handlers) : handlers_(handlers) {
     ticks_.setTimerType(Qt::PreciseTimer);
     connect(&ticks_, &QTimer::timeout, this, &TimeLabel::Tick);
     connect(&handlers_, &Handlers::Changed, this, &TimeLabel::Refresh);
-    connect(&handlers_, &Handlers::Ending, this, [this] {
-        ticks_.stop();
-        if (Game* const game = handlers_.game()) KeepTime(*game);
-    });
+    connect(&handlers_, &Handlers::Ending, &ticks_, &QTimer::stop);
 }
 
 void TimeLabel::SetActive(bool active) {

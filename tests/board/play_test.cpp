@@ -455,6 +455,25 @@ TEST(Kept, PlayComesBackWithItsPuzzleAndSaysSo) {
     EXPECT_EQ(game.board.history.Checkpoints(), std::vector<int>{1});
 }
 
+TEST(Kept, WhatGoesWrongIsSaidOnce) {
+    Play game;
+    game.world.trouble = "no room";
+    game << "1-4";
+    EXPECT_EQ(game.world.Status(), "no room");
+    game << "1-4";
+    EXPECT_EQ(game.world.Status(), "");
+    game.world.trouble = "damaged";
+    game.world.plays.clear();
+    game.Load(1);
+    EXPECT_EQ(game.world.Status(), "damaged");
+}
+
+TEST(Kept, NothingOfAPuzzleThatWasNotPlayed) {
+    Play game;
+    game << "b u r";
+    EXPECT_TRUE(game.world.plays.empty());
+}
+
 TEST(Kept, AWindowThatOnlyLooksOnKeepsNoMoves) {
     Play game;
     game << "1-4";

@@ -19,17 +19,6 @@
 namespace tidewalk::test {
 namespace {
 
-Puzzle WithBridges(Puzzle puzzle, const Archipelago& board, const SpanBridges& bridges) {
-    puzzle.LinkList.clear();
-    for (int span = 0; span < board.SpanCount(); ++span) {
-        const auto [a, b] = board.SpanAt(span).ends;
-        const int count = bridges[static_cast<std::size_t>(span)];
-        if (count > 0)
-            puzzle.LinkList.push_back(MakeLink(board.IsleAt(a).id, board.IsleAt(b).id, kMostBridges - count));
-    }
-    return puzzle;
-}
-
 TEST(CountSolutions, BoardsWithNoneOneAndSeveral) {
     const std::pair<Rows, int> cases[] = {
         {{"3.3", "...", "3.3"}, 2},

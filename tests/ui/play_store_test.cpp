@@ -147,6 +147,18 @@ TEST(PlayStore, WaitsForAnotherWindowThatWrites) {
         QTest::qWait(400);
         EXPECT_EQ(Store().Found(), "1 moves, 0 s");
     }
+    ASSERT_TRUE(QSqlQuery(holder).exec("BEGIN EXCLUSIVE"));
+    {
+        Store store;
+        EXPECT_EQ(store.Found(), "nothing");
+        EXPECT_EQ(store->TakeTrouble(), "\"play.db\" is in use: what you played before stays as it is, out of sight");
+        EXPECT_TRUE(QSqlQuery(holder).exec("COMMIT"));
+        store.KeepNow(kMoves);
+        EXPECT_EQ(Store().Found(), "1 moves, 0 s") << "what could not be read is not replaced";
+        EXPECT_EQ(store.Found(), "1 moves, 0 s");
+        store.KeepNow(kMoves);
+        EXPECT_EQ(Store().Found(), "3 moves, 0 s");
+    }
     holder = {};
     QSqlDatabase::removeDatabase("holder");
 }
@@ -165,6 +177,7 @@ TEST(PlayStore, PutsADamagedFileAside) {
         folder.Write("play.db-journal", "of another time");
         Store store;
         EXPECT_EQ(store.Found(), "nothing");
+        EXPECT_EQ(store->TakeTrouble().substr(0, 21), "\"play.db\" was damaged");
         store.KeepNow(kMove);
         EXPECT_EQ(Store().Found(), "1 moves, 0 s");
         EXPECT_EQ(folder.Read("play-" + std::to_string(++aside) + ".db"), bytes);
@@ -179,7 +192,9 @@ TEST(PlayStore, LeavesALaterVersionAloneAndGoesOnWithoutAFile) {
     const std::string later = folder.Read("play.db");
     Store store;
     EXPECT_EQ(store.Found(), "nothing");
+    EXPECT_EQ(store->TakeTrouble(), "\"play.db\" is of a later version: what you play is not kept");
     store.KeepNow(kMove);
+    EXPECT_EQ(store->TakeTrouble(), "") << "said once";
     EXPECT_EQ(store.Found(), "1 moves, 0 s") << "as long as the program runs";
     EXPECT_EQ(folder.Read("play.db"), later);
     EXPECT_EQ(folder.Entries(), 1);
@@ -199,6 +214,9 @@ TEST(PlayStore, WritesWhatADiskThatWasFullDidNotTake) {
     const rlimit few{100, before.rlim_max};
     ::setrlimit(RLIMIT_FSIZE, &few);
     store.KeepNow(kMove);
+    EXPECT_EQ(store->TakeTrouble(), "\"play.db\" cannot be written: what you play is not kept");
+    store.KeepNow(kMove);
+    EXPECT_EQ(store->TakeTrouble(), "") << "said once";
     ::setrlimit(RLIMIT_FSIZE, &before);
     std::signal(SIGXFSZ, handler);
     EXPECT_EQ(Store().Found(), "3 moves, 0 s");
