@@ -21,6 +21,8 @@ struct Board {
     PerCell<NeighbourList> OpenNeighbours;  ///< by island: whom it could still be bridged to when a solve ended
 
     BoardLayout layout;
+    double magnification = 1;  ///< of the layout, on the screen; 1 where 96 pixels show an inch
+    bool fits = true;          ///< the magnification is such that the board fills its container
     int FittedCellSize = 0;  ///< the cell size with which the last loaded puzzle fitted its container, 0 before that
 
     BridgeTable BridgeState;

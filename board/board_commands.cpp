@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "board/board_commands.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "board/after_move.h"
 #include "board/check_bridges.h"
 #include "board/keep_play.h"
+#include "board/magnify.h"
 #include "board/place_bridge.h"
 #include "board/show_board.h"
 #include "game/job.h"
@@ -20,18 +20,10 @@ namespace {
 /// Frames a cell for a second and says what is wrong there.
 void FrameFault(Game& game, CellPlace cell, const std::string& status) {
     game.board.Shape1 = {true, cell};
+    BringIntoView(game, cell);
     game.pictures.ShowOverlay();
     game.pictures.StartMarkerTime();
     game.window.SetText(WindowText::Status, status);
-}
-
-/// Shows the board, and what is over it, with cells of another size.
-void ZoomTo(Game& game, int cellSize) {
-    const BoardLayout before = game.board.layout;
-    ZoomBoard(game, cellSize);
-    RedrawBoard(game, false);
-    FollowLayout(game.board, before);
-    game.pictures.ShowOverlay();
 }
 
 }  // namespace
@@ -43,20 +35,6 @@ void cmdzoom_Click(Game& game, int index) {
     if (index == 1) cellSize = RoundHalfEven(cellSize * 1.1);
     if (index == 2) cellSize = game.board.FittedCellSize;
     ZoomTo(game, cellSize);
-}
-
-void PinchBoard(Game& game, double cellSize, Point from, Point to) {
-    if (!game.pictures.IsVisible() || game.job.BusyFlag() || game.board.puzzle.Rows == 0) return;
-    const BoardLayout before = game.board.layout;
-    const int wanted = RoundHalfEven(std::clamp(cellSize, double{kSmallestCell}, double{kLargestCell}));
-    if (wanted != before.CellSize) ZoomTo(game, wanted);
-    BoardLayout& layout = game.board.layout;
-    // What lay between the fingers lies there again.
-    const double scale = static_cast<double>(layout.CellSize) / before.CellSize;
-    const Point on{from.x - before.Picture1.left, from.y - before.Picture1.top};
-    layout.Picture1.left = to.x - layout.OriginX - (on.x - before.OriginX) * scale;
-    layout.Picture1.top = to.y - layout.OriginY - (on.y - before.OriginY) * scale;
-    game.pictures.PlacePicture();
 }
 
 void cmdundo_Click(Game& game) {

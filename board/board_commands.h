@@ -9,10 +9,6 @@ namespace tidewalk {
 /// The zoom buttons: index 0 "Zoom out", 1 "Zoom in", 2 "Reset zoom". Nothing happens while the board is hidden.
 void cmdzoom_Click(Game& game, int index);
 
-/// Two fingers stretch or squeeze the board: its cells get about `cellSize` twips, and what lay at `from` in the
-/// container comes to lie at `to`, in twips.
-void PinchBoard(Game& game, double cellSize, Point from, Point to);
-
 /// Takes the last move back, or makes the one again that was taken back last; nothing happens when there is none.
 void cmdundo_Click(Game& game);
 void cmdredo_Click(Game& game);

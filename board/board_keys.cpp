@@ -7,6 +7,7 @@
 
 #include "board/after_move.h"
 #include "board/board_mouse.h"
+#include "board/magnify.h"
 #include "board/place_bridge.h"
 
 namespace tidewalk {
@@ -50,27 +51,6 @@ void ReleaseOnFocused(Game& game, MouseButton button, bool shift) {
     ReleaseOn(game, button, shift, game.board.puzzle.PlaceOf(focused));
 }
 
-/// How far the board has to move so that the cell around `at`, in the container, lies within `room`. Boards that were
-/// fitted leave more than the margin, so that they stay in their place.
-double Shift(double at, double cell, double room) {
-    constexpr double kMargin = 0.6;  // the cell's half, and a little for the frame around it
-    const double margin = std::min(kMargin * cell, room / 2);
-    return std::clamp(at, margin, room - margin) - at;
-}
-
-/// Moves the board in its container just so far that the island shows.
-void BringIntoView(Game& game, CellNumber id) {
-    BoardLayout& layout = game.board.layout;
-    const Surface::Extent room = game.pictures.ContainerExtent();
-    const Point at = game.board.At(id);
-    const double right = Shift(layout.Picture1.left + at.x, layout.CellSize, room.width);
-    const double down = Shift(layout.Picture1.top + at.y, layout.CellSize, room.height);
-    if (right == 0 && down == 0) return;
-    layout.Picture1.left += right;
-    layout.Picture1.top += down;
-    game.pictures.PlacePicture();
-}
-
 }  // namespace
 
 CellNumber IslandTowards(const Puzzle& puzzle, BoardKey key, CellNumber from) {
@@ -99,7 +79,7 @@ void FocusIsland(Game& game, CellNumber id) {
     Board& board = game.board;
     board.FocusRow = board.puzzle.CellRow(id);
     board.FocusCol = board.puzzle.CellCol(id);
-    BringIntoView(game, id);
+    BringIntoView(game, board.puzzle.PlaceOf(id));
     if (board.Line1.visible) board.Line1.to = board.At(id);
     game.pictures.ShowOverlay();
 }

@@ -27,6 +27,24 @@ int FittingCellSize(BoardSize size, double width) {
     return RoundHalfEven(width / (std::max(size.rows, size.cols) + 2));
 }
 
+double FittingMagnification(const BoardLayout& layout, Surface::Extent area) {
+    constexpr double kLeast = 0.01;
+    const Frame cells = CellsOf(layout);
+    const Frame& picture = layout.Picture1;
+    // The cells do not lie in the middle of the picture, which is what is centred; and a frame lies around them.
+    const double aside = std::abs(cells.left + cells.width / 2 - picture.width / 2);
+    const double below = std::abs(cells.top + cells.height / 2 - picture.height / 2);
+    const double margin = layout.HalfCell;
+    return std::max(kLeast, std::min(area.width / (cells.width + 2 * aside + margin),
+                                     area.height / (cells.height + 2 * below + margin)));
+}
+
+Frame CellsOf(const BoardLayout& layout) {
+    const Point first = layout.At({1, 1});
+    const double cell = layout.CellSize;
+    return {first.x - layout.HalfCell, first.y - layout.HalfCell, cell * layout.size.cols, cell * layout.size.rows};
+}
+
 BoardLayout LayoutBoard(BoardSize size, int cellSize, Surface::Extent area) {
     BoardLayout layout;
     const int cell = std::clamp(cellSize == 0 ? kCellSizeOfNone : cellSize, kSmallestCell, kLargestCell);

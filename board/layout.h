@@ -51,6 +51,13 @@ struct BoardLayout {
 /// The cell size with which a board of this size fits a container of this width.
 int FittingCellSize(BoardSize size, double width);
 
+/// How much a laid-out board can be magnified so that all its cells are seen, centred as they are, in a container of
+/// the given area; at least a hundredth.
+double FittingMagnification(const BoardLayout& layout, Surface::Extent area);
+
+/// What the cells take up, with their outlines, on the board's picture.
+Frame CellsOf(const BoardLayout& layout);
+
 /// The layout of a board with cells of about `cellSize`, brought into 200..700 (0 stands for 300), in the middle of a
 /// container of the given area.
 BoardLayout LayoutBoard(BoardSize size, int cellSize, Surface::Extent area);

@@ -3,6 +3,7 @@
 
 #include "board/drawing.h"
 #include "board/keep_play.h"
+#include "board/magnify.h"
 #include "model/numbers.h"
 #include "model/paths.h"
 #include "techniques/assess_board.h"
@@ -14,14 +15,16 @@ void RedrawBoard(Game& game, bool showSolution) {
 }
 
 void ZoomBoard(Game& game, int cellSize) {
-    game.board.layout = LayoutBoard(game.board.puzzle.Size(), cellSize, game.pictures.ContainerExtent());
+    game.board.layout = LayoutBoard(game.board.puzzle.Size(), cellSize, RoomOf(game));
     game.pictures.PlacePicture();
 }
 
 void LayoutNewBoard(Game& game, BoardSize size) {
     KeepTime(game);
     game.board.puzzle = Puzzle(size);
-    ZoomBoard(game, FittingCellSize(size, game.pictures.ContainerExtent().width));
+    const int fitting = FittingCellSize(size, game.pictures.ContainerExtent().width);
+    FitMagnification(game, fitting);
+    ZoomBoard(game, fitting);
 }
 
 void PutOnBoard(Game& game, const Puzzle& puzzle) {
@@ -37,15 +40,13 @@ void PutOnBoard(Game& game, const Puzzle& puzzle) {
 void FitBoard(Game& game) {
     const int fitting = FittingCellSize(game.board.puzzle.Size(), game.pictures.ContainerExtent().width);
     game.board.FittedCellSize = fitting;
+    FitMagnification(game, fitting);
     ZoomBoard(game, fitting);
 }
 
-void FitBoardIfCutOff(Game& game) {
+void ZoomTo(Game& game, int cellSize) {
     const BoardLayout before = game.board.layout;
-    const double room = game.pictures.ContainerExtent().width;
-    if (game.job.BusyFlag() || game.board.puzzle.Rows == 0 || before.Picture1.width <= room) return;
-    game.board.FittedCellSize = FittingCellSize(game.board.puzzle.Size(), room);
-    ZoomBoard(game, game.board.FittedCellSize);
+    ZoomBoard(game, cellSize);
     RedrawBoard(game, false);
     FollowLayout(game.board, before);
     game.pictures.ShowOverlay();
@@ -57,11 +58,6 @@ void ShowPuzzleLabels(Game& game, const std::string& path) {
     game.window.SetText(WindowText::PuzzleCount, " of" + Str(game.collection.PuzzleCount));
     game.window.SetText(WindowText::CollectionName, FileNameOf(path));
     game.window.SetToolTip(WindowText::CollectionName, path);
-}
-
-void CentreBoard(Game& game) {
-    CentreBoard(game.board.layout, game.pictures.ContainerExtent());
-    game.pictures.PlacePicture();
 }
 
 void ShowEmptyBoard(Game& game) {

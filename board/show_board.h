@@ -12,6 +12,9 @@ void RedrawBoard(Game& game, bool showSolution);
 /// Lays the board out anew with cells of about `cellSize` twips, in the middle of its container. Nothing is drawn.
 void ZoomBoard(Game& game, int cellSize);
 
+/// Shows the board, and what is over it, with cells of another size.
+void ZoomTo(Game& game, int cellSize);
+
 /// Puts an empty board of this size, fitted to the container, in the place of the puzzle; bridges and moves stay until
 /// a puzzle comes. The size that "Reset zoom" goes back to stays that of the last loaded puzzle.
 void LayoutNewBoard(Game& game, BoardSize size);
@@ -23,15 +26,8 @@ void PutOnBoard(Game& game, const Puzzle& puzzle);
 /// Lays the new puzzle on the board out so that it fits the container.
 void FitBoard(Game& game);
 
-/// Makes the board smaller if its container has become narrower than it, and leaves it as it is otherwise. While a job
-/// runs nothing happens.
-void FitBoardIfCutOff(Game& game);
-
 /// Shows the board's size, the count of the collection and the name of the file behind `path`.
 void ShowPuzzleLabels(Game& game, const std::string& path);
-
-/// Moves the board back into the middle of its container, whose size has changed.
-void CentreBoard(Game& game);
 
 /// Takes everything off the board. Its size stays.
 void ShowEmptyBoard(Game& game);

@@ -54,16 +54,16 @@ class BoardPictures {
  public:
     virtual ~BoardPictures() = default;
 
-    /// The inner size of the container, in twips.
+    /// The inner size of the container, in twips of the screen, however much the board is magnified.
     virtual Surface::Extent ContainerExtent() const = 0;
 
     /// What is drawn here stays on the board's picture until it is drawn over.
     virtual Surface& Picture() = 0;
 
-    /// How far the pointer goes before a press becomes a drag, in twips.
+    /// How far the pointer goes before a press becomes a drag, in twips on the board.
     virtual double DragDistance() const = 0;
 
-    /// The board's rectangle in its layout has changed.
+    /// The board's rectangle in its layout, or its magnification, has changed.
     virtual void PlacePicture() = 0;
 
     /// The rubber band, the focus or the marker has changed.

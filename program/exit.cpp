@@ -2,6 +2,7 @@
 #include "program/exit.h"
 
 #include "board/keep_play.h"
+#include "board/magnify.h"
 #include "model/configuration.h"
 #include "model/load_puzzle.h"
 
@@ -23,6 +24,7 @@ void cmdexit_Click(Game& game) {
 
 void Form_QueryUnload(Game& game) {
     KeepTime(game);
+    KeepMagnification(game);
     game.window.EndProgram();
     // A job that is on its way sees this and stops.
     game.job.EndProgram();

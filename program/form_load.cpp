@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "program/form_load.h"
 
+#include "board/magnify.h"
 #include "model/collection_file.h"
 #include "model/configuration.h"
 #include "model/file_error.h"
@@ -62,6 +63,7 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
     if (request.folderIsNew && FileLength(game.AppFolder + "tide.cfg") == 0) WriteFirstConfiguration(game);
     ReadcfgFile(game);
     ReadChoices(game);
+    ReadMagnification(game);
     Colour backColour = 0;
     LoadColourScheme(game, game.options.ColourSchemeName, backColour);
     ApplyColourScheme(game);

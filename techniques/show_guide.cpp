@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "board/magnify.h"
 #include "board/show_board.h"
 
 namespace tidewalk {
@@ -25,6 +26,7 @@ void ShowGuide(Game& game, Guide guide, const std::string& text) {
     guide.revision = board.history.Revision();
     board.guide = std::move(guide);
     game.guidance.text = text;
+    if (!board.guide.islands.empty()) BringIntoView(game, board.puzzle.PlaceOf(board.guide.islands.front()));
     game.guidance.textRevision = board.history.Revision();
     // The board may show a solution, or the bridges of another step.
     RedrawBoard(game, false);

@@ -9,6 +9,7 @@
 #include "board/board_mouse.h"
 #include "board/mistakes.h"
 #include "ui/board_pictures.h"
+#include "ui/board_pixels.h"
 
 namespace tidewalk {
 
@@ -100,11 +101,10 @@ class IslandAccessible final : public QAccessibleInterface, public QAccessibleAc
     QRect rect() const override {
         const Game* const game = Current();
         if (game == nullptr) return {};
-        const auto pixels = [](double twips) { return qRound(twips / kTwipsPerPixel); };
-        const BoardLayout& layout = game->board.layout;
-        const auto [x, y] = game->board.At(id_);
-        const QPoint corner(pixels(x - layout.HalfCell), pixels(y - layout.HalfCell));
-        return {board_->mapToGlobal(corner), QSize(pixels(layout.CellSize), pixels(layout.CellSize))};
+        const double side = Pixels(game->board, game->board.layout.CellSize);
+        QRectF cell(0, 0, side, side);
+        cell.moveCenter(Pixels(game->board, game->board.At(id_)));
+        return {board_->mapToGlobal(cell.topLeft().toPoint()), cell.size().toSize()};
     }
 
     QAccessible::State state() const override {
@@ -231,7 +231,7 @@ QAccessibleInterface* BoardAccessible::childAt(int x, int y) const {
     const Game* const game = QuietGame(board_);
     if (game == nullptr) return nullptr;
     const QPoint at = board_->mapFromGlobal(QPoint(x, y));
-    const CellPlace cell = CellUnder(game->board.layout, {at.x() * kTwipsPerPixel, at.y() * kTwipsPerPixel});
+    const CellPlace cell = CellUnder(game->board.layout, Twips(game->board, at));
     return game->board.puzzle.OnBoard(cell.row, cell.col) ? Island(game->board.puzzle.CellId(cell)) : nullptr;
 }
 

@@ -3,12 +3,14 @@
 
 #include <QPainter>
 #include <array>
+#include <cmath>
 #include <utility>
 
+#include "board/magnify.h"
 #include "drawing/contrast.h"
 #include "ui/board_pictures.h"
+#include "ui/board_pixels.h"
 #include "ui/guide_painter.h"
-#include "ui/qt_surface.h"
 
 namespace tidewalk {
 
@@ -41,15 +43,43 @@ void BoardOverlay::paintEvent(QPaintEvent*) {
     if (board_.hasFocus() && game->board.focusShows && !game->job.BusyFlag()) PaintFocus(painter, *game);
     if (game->board.Line1.visible) PaintLine1(painter, *game);
     if (game->board.Shape1.visible) PaintShape1(painter, game->board);
+    painter.resetTransform();
+    PaintEdgeMarks(painter, *game);
+}
+
+/// Arrowheads in the middle of the edges beyond which the board goes on.
+void BoardOverlay::PaintEdgeMarks(QPainter& painter, const Game& game) const {
+    constexpr double kLong = 14;  // in pixels
+    constexpr double kDeep = 7;
+    constexpr double kAway = 4;
+    const HiddenCells hidden = CellsOutOfSight(game);
+    const QColor background = ToQColor(game.options.BoardBackground());
+    const QColor colour = ToQColor(
+        LegibleOn(game.options.BoardBackground(), game.options.SchemeColours[kHighlightEntry], kShapeContrast));
+    const auto mark = [&](bool shows, const QPointF& tip, const QPointF& inwards) {
+        if (!shows) return;
+        const QPointF along(inwards.y(), inwards.x());
+        const QPointF base = tip + inwards * kDeep;
+        const QPolygonF head{{tip, base + along * kLong, base - along * kLong}};
+        painter.setPen(QPen(background, 2));
+        painter.setBrush(colour);
+        painter.drawPolygon(head);
+    };
+    const double right = width();
+    const double bottom = height();
+    mark(hidden.left, {kAway, bottom / 2}, {1, 0});
+    mark(hidden.right, {right - kAway, bottom / 2}, {-1, 0});
+    mark(hidden.top, {right / 2, kAway}, {0, 1});
+    mark(hidden.bottom, {right / 2, bottom - kAway}, {0, -1});
 }
 
 /// The rubber band begins with a ring, so that a selected island shows before the pointer has moved.
 void BoardOverlay::PaintLine1(QPainter& painter, const Game& game) const {
     const Board& board = game.board;
-    const QPointF from(Pixels(board.Line1.from.x), Pixels(board.Line1.from.y));
-    const QPointF to(Pixels(board.Line1.to.x), Pixels(board.Line1.to.y));
+    const QPointF from = Pixels(board, board.Line1.from);
+    const QPointF to = Pixels(board, board.Line1.to);
     // Just outside of a square island's corners, which lie 0.75 times the square root of 2 from its middle.
-    const double radius = Pixels(board.layout.HalfCell) * 1.06 + 3;
+    const double radius = Pixels(board, board.layout.HalfCell) * 1.06 + 3;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(ToQColor(game.options.ChainColour), 2, Qt::DashLine, Qt::RoundCap));
     // Inside the ring, and inside the frame of the keyboard's focus, the line would only strike the number out.
@@ -73,9 +103,9 @@ void BoardOverlay::PaintFocus(QPainter& painter, const Game& game) const {
     const bool selected = id == SelectedIsland(board);
     // The ring of the selected island says enough: whenever the focus is elsewhere, the corners show there.
     if (id == 0 || selected) return;
-    const QPointF middle(Pixels(board.At(id).x), Pixels(board.At(id).y));
+    const QPointF middle = Pixels(board, board.At(id));
     // Within the cell: on small boards hardly anything lies beside the first column.
-    const double half = Pixels(board.layout.HalfCell) - 1;
+    const double half = Pixels(board, board.layout.HalfCell) - 1;
     const double arm = half * 0.5;
     painter.setBrush(Qt::NoBrush);
     const QColor highlight = palette().color(QPalette::Highlight);
@@ -97,13 +127,11 @@ void BoardOverlay::PaintFocus(QPainter& painter, const Game& game) const {
 /// first column.
 void BoardOverlay::PaintSolved(QPainter& painter, const Game& game) const {
     const BoardLayout& layout = game.board.layout;
-    const double pen = 2 * layout.LineWidth;
-    const double out = Pixels(layout.HalfCell) + pen / 2;
-    const auto middle = [&](CellPlace cell) {
-        const Point at = layout.At(cell);
-        return QPointF(Pixels(at.x), Pixels(at.y));
-    };
-    const QRectF frame(middle({1, 1}), middle({layout.size.rows, layout.size.cols}));
+    const double pen = std::max(2.0, std::round(2 * layout.LineWidth * game.board.magnification));
+    const double out = pen / 2;
+    const Frame cells = CellsOf(layout);
+    const QRectF frame(Pixels(game.board, Point{cells.left, cells.top}),
+                       Pixels(game.board, Point{cells.left + cells.width, cells.top + cells.height}));
     const Colour colour = LegibleOn(game.options.BoardBackground(), game.options.ChainColour, kShapeContrast);
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(ToQColor(colour), pen, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
@@ -128,8 +156,8 @@ void BoardOverlay::PaintPointed(QPainter& painter, const Game& game) const {
 void BoardOverlay::PaintShape1(QPainter& painter, const Board& board) const {
     const Point middle = board.layout.At(board.Shape1.cell);
     const double half = board.layout.HalfCell;
-    const double side = Pixels(board.layout.CellSize);
-    const QRectF rect(Pixels(middle.x - half), Pixels(middle.y - half), side, side);
+    const double side = Pixels(board, board.layout.CellSize);
+    const QRectF rect(Pixels(board, Point{middle.x - half, middle.y - half}), QSizeF(side, side));
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Qt::white, 5, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter.drawRect(rect);

@@ -27,6 +27,7 @@ class BoardOverlay final : public QWidget {
     void PaintGuide(QPainter& painter, const Game& game) const;
     void PaintSolved(QPainter& painter, const Game& game) const;
     void PaintPointed(QPainter& painter, const Game& game) const;
+    void PaintEdgeMarks(QPainter& painter, const Game& game) const;
     void PaintShape1(QPainter& painter, const Board& board) const;
 
     Handlers& handlers_;

@@ -1,17 +1,22 @@
 // SPDX-License-Identifier: MIT
 #include "ui/board_pictures.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
 #include <QPaintEvent>
 #include <QTouchEvent>
+#include <QWheelEvent>
 #include <cmath>
 #include <map>
 #include <optional>
 
 #include "board/board_commands.h"
 #include "board/board_keys.h"
+#include "board/magnify.h"
 #include "board/show_board.h"
+#include "ui/board_pixels.h"
 
 namespace tidewalk {
 
@@ -69,13 +74,12 @@ std::optional<BoardKey> BoardKeyOf(const QKeyEvent& event) {
     return found->second;
 }
 
-Point Twips(const QPointF& pixels) {
-    return {pixels.x() * kTwipsPerPixel, pixels.y() * kTwipsPerPixel};
-}
-
 /// The rectangle in pixels, for the largest panning that a mouse can do and beyond.
-QRect PixelRect(const Frame& frame) {
-    const auto whole = [](double twips) { return static_cast<int>(std::lround(std::clamp(Pixels(twips), -1e6, 1e6))); };
+QRect PixelRect(const Board& board) {
+    const Frame& frame = board.layout.Picture1;
+    const auto whole = [&](double twips) {
+        return static_cast<int>(std::lround(std::clamp(Pixels(board, twips), -1e6, 1e6)));
+    };
     return {whole(frame.left), whole(frame.top), std::max(1, whole(std::ceil(frame.width))),
             std::max(1, whole(std::ceil(frame.height)))};
 }
@@ -99,18 +103,22 @@ BoardView::BoardView(Handlers& handlers, QWidget* parent)
 
 void BoardView::Place() {
     if (handlers_.game() == nullptr) return;
-    setGeometry(PixelRect(handlers_.game()->board.layout.Picture1));
+    setGeometry(PixelRect(handlers_.game()->board));
     FitBacking();
     update();
 }
 
-/// Makes the backing picture anew where its size or pixel ratio is no longer the widget's. What was drawn stays until
-/// the routine that changed the layout draws again.
+/// Makes the backing picture anew where its size, magnification or pixel ratio is no longer the widget's. What was
+/// drawn is stretched until the board is drawn again.
 void BoardView::FitBacking() {
     const double ratio = devicePixelRatioF();
     const QSize wanted = (QSizeF(size()) * ratio).toSize();
-    if (backing_.size() == wanted && backing_.devicePixelRatio() == ratio) return;
+    const double magnification = handlers_.game()->board.magnification;
+    if (backing_.size() == wanted && backing_.devicePixelRatio() == ratio && magnification_ == magnification) return;
+    magnification_ = magnification;
+    stretched_ = true;
     surface_.SetTarget(nullptr);
+    surface_.SetPixelsPerInch(kScreenPixelsPerInch * magnification);
     QPixmap fitted(wanted);
     if (backing_.isNull()) {
         fitted.fill(ToQColor(handlers_.game()->options.BoardBackground()));
@@ -128,21 +136,20 @@ void BoardView::paintEvent(QPaintEvent* event) {
         QPainter(this).fillRect(event->rect(), palette().base());
         return;
     }
-    // The window has come to a screen with another pixel ratio. While a job runs the grids are the job's own.
-    if (backing_.devicePixelRatio() != devicePixelRatioF()) {
-        FitBacking();
-        if (!game->job.BusyFlag()) RedrawBoard(*game, false);
-    }
+    // The window may have come to a screen with another pixel ratio.
+    FitBacking();
+    // While a job runs the grids are the job's own.
+    if (stretched_ && !game->job.BusyFlag()) RedrawBoard(*game, false);
     surface_.Finish();
     QPainter(this).drawPixmap(0, 0, backing_);
 }
 
 Point BoardView::OnBoard(const QPointF& global) const {
-    return Twips(mapFromGlobal(global));
+    return Twips(handlers_.game()->board, mapFromGlobal(global));
 }
 
 Point BoardView::InContainer(const QPointF& global) const {
-    return Twips(parentWidget()->mapFromGlobal(global));
+    return Twips(handlers_.game()->board, parentWidget()->mapFromGlobal(global));
 }
 
 void BoardView::mousePressEvent(QMouseEvent* event) {
@@ -251,13 +258,35 @@ void BoardContainer::paintEvent(QPaintEvent* event) {
 void BoardContainer::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     overlay_->resize(size());
-    handlers_.Run([](Game& game) {
-        if (game.board.puzzle.Rows > 0) CentreBoard(game);
+    handlers_.Run(Picture5_Resize);
+}
+
+/// The wheel scrolls, with Shift sideways, and with Ctrl it magnifies about the pointer.
+void BoardContainer::wheelEvent(QWheelEvent* event) {
+    constexpr double kNotch = 120;  // of the wheel's angle
+    constexpr double kNotchFactor = 1.15;
+    constexpr double kNotchPixels = 60;
+    event->accept();
+    const QPointF notches = QPointF(event->angleDelta()) / kNotch;
+    if (event->modifiers().testFlag(Qt::ControlModifier))
+        return MagnifyAt(std::pow(kNotchFactor, notches.y()), event->globalPosition());
+    QPointF by = event->pixelDelta().isNull() ? notches * kNotchPixels : QPointF(event->pixelDelta());
+    if (event->modifiers().testFlag(Qt::ShiftModifier) && by.x() == 0) by = by.transposed();
+    handlers_.Run([&](Game& game) {
+        const Point twips = Twips(game.board, by);
+        ScrollBoard(game, twips.x, twips.y);
+    });
+}
+
+void BoardContainer::MagnifyAt(double factor, const QPointF& global) {
+    handlers_.Run([&](Game& game) {
+        const Point at = InContainer(global);
+        MagnifyBoard(game, game.board.magnification * factor, at, at);
     });
 }
 
 Point BoardContainer::InContainer(const QPointF& global) const {
-    return Twips(mapFromGlobal(global));
+    return Twips(handlers_.game()->board, mapFromGlobal(global));
 }
 
 bool BoardContainer::event(QEvent* event) {
@@ -268,6 +297,12 @@ bool BoardContainer::event(QEvent* event) {
         case QEvent::TouchCancel:
             touch_->Take(*static_cast<QTouchEvent*>(event));
             return true;
+        case QEvent::NativeGesture: {
+            const auto& gesture = *static_cast<QNativeGestureEvent*>(event);
+            if (gesture.gestureType() != Qt::ZoomNativeGesture) return QWidget::event(event);
+            MagnifyAt(std::max(0.1, 1 + gesture.value()), gesture.globalPosition());
+            return true;
+        }
         default:
             return QWidget::event(event);
     }
@@ -295,12 +330,18 @@ void BoardContainer::mouseReleaseEvent(QMouseEvent* event) {
     handlers_.Run([](Game& game) { Picture5_MouseUp(game); });
 }
 
-QtBoardPictures::QtBoardPictures(BoardContainer& container, Handlers& handlers) : container_(container) {
+QtBoardPictures::QtBoardPictures(BoardContainer& container, Handlers& handlers)
+    : container_(container), handlers_(handlers) {
     QObject::connect(&timer1_, &QTimer::timeout, &timer1_, [&handlers] { handlers.Run(Timer1_Timer); });
 }
 
 Surface::Extent QtBoardPictures::ContainerExtent() const {
     return {container_.width() * kTwipsPerPixel, container_.height() * kTwipsPerPixel};
+}
+
+double QtBoardPictures::DragDistance() const {
+    const double pixels = QApplication::startDragDistance();
+    return Twips(handlers_.game()->board, {pixels, 0}).x;
 }
 
 void QtBoardPictures::Freeze(bool frozen) {

@@ -2,7 +2,6 @@
 // The board's picture `Picture1`, moved about in its container `Picture5`.
 #pragma once
 
-#include <QApplication>
 #include <QPixmap>
 #include <QTimer>
 #include <QWidget>
@@ -23,7 +22,11 @@ class BoardView final : public QWidget {
  public:
     BoardView(Handlers& handlers, QWidget* parent);
 
-    Surface& Drawing() { return surface_; }
+    /// What the board is drawn on: all of it, for a picture in part drawn anew is none.
+    Surface& Drawing() {
+        stretched_ = false;
+        return surface_;
+    }
     Handlers& Source() const { return handlers_; }
 
     /// Takes its place in the container from the game, with a new backing picture if the size is another one.
@@ -61,6 +64,8 @@ class BoardView final : public QWidget {
     Handlers& handlers_;
     QPixmap backing_;
     QtSurface surface_;
+    double magnification_ = 0;  ///< of what is drawn
+    bool stretched_ = false;    ///< the picture is one of another size, until the board is drawn anew
     IslandAnnouncer announcer_;
     bool takesMouse_ = true;
 };
@@ -76,18 +81,21 @@ class BoardContainer final : public QWidget {
     BoardOverlay& Overlay() { return *overlay_; }
     QSize sizeHint() const override;
 
-    /// A place on the screen in twips in the container.
+    /// A place on the screen in the board's twips in the container.
     Point InContainer(const QPointF& global) const;
 
  protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     bool event(QEvent* event) override;
 
  private:
+    void MagnifyAt(double factor, const QPointF& global);
+
     Handlers& handlers_;
     BoardView* board_;
     BoardOverlay* overlay_;
@@ -101,7 +109,7 @@ class QtBoardPictures final : public BoardPictures {
 
     Surface::Extent ContainerExtent() const override;
     Surface& Picture() override;
-    double DragDistance() const override { return QApplication::startDragDistance() * kTwipsPerPixel; }
+    double DragDistance() const override;
     void PlacePicture() override {
         container_.Board().Place();
         container_.Overlay().update();
@@ -116,6 +124,7 @@ class QtBoardPictures final : public BoardPictures {
 
  private:
     BoardContainer& container_;
+    Handlers& handlers_;
     QTimer timer1_;
 };
 

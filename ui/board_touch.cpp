@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "board/board_commands.h"
 #include "board/board_mouse.h"
+#include "board/magnify.h"
 #include "ui/board_pictures.h"
 
 namespace tidewalk {
@@ -98,12 +98,11 @@ void BoardTouch::Pinch(const QTouchEvent& event) {
     if (doing_ != Doing::Pinching) {
         CallOff();
         doing_ = Doing::Pinching;
-        cellSize_ = game->board.layout.CellSize;
     } else {
-        cellSize_ = std::clamp(cellSize_ * distance / distance_, double{kSmallestCell}, double{kLargestCell});
+        const double wanted = game->board.magnification * distance / distance_;
         const Point from = container_.InContainer(middle_);
         const Point to = container_.InContainer(fingers.center());
-        handlers_.Run([&](Game& playing) { PinchBoard(playing, cellSize_, from, to); });
+        handlers_.Run([&](Game& playing) { MagnifyBoard(playing, wanted, from, to); });
     }
     distance_ = distance;
     middle_ = fingers.center();

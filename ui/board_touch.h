@@ -15,7 +15,7 @@ namespace tidewalk {
 class BoardContainer;
 
 /// Turns touches of the board and its container into what the mouse does: a tap is a click, a finger that goes on draws
-/// a bridge or moves the board, and one that rests is a click with the right button. Two fingers zoom and move the
+/// a bridge or moves the board, and one that rests is a click with the right button. Two fingers magnify and move the
 /// board; what the first one had begun is called off.
 class BoardTouch final : public QObject {
     Q_OBJECT
@@ -43,7 +43,6 @@ class BoardTouch final : public QObject {
     QPointF start_;  ///< of the first finger, on the screen
     // The two fingers when they were seen last, or came together.
     double distance_ = 0;  ///< on the screen, in pixels
-    double cellSize_ = 0;  ///< in twips; not rounded, so that slow fingers get somewhere
     QPointF middle_;       ///< on the screen
 };
 

@@ -6,6 +6,7 @@
 
 #include "board/board_commands.h"
 #include "board/copy_and_print.h"
+#include "board/magnify.h"
 #include "generator/batch.h"
 #include "generator/new_puzzle.h"
 #include "generator/shuffle.h"
@@ -56,6 +57,10 @@ void MakeOrOrder(Program& program, const Click& click) {
     }
 }
 
+void ToggleFullScreen(Program& program, const Click&) {
+    program.form1().ToggleFullScreen();
+}
+
 void OpenOptionsWindow(Program& program, const Click&) {
     program.form2().Open();
 }
@@ -72,6 +77,14 @@ void ShowAbout(Program& program, const Click&) {
     AboutBox box(&program.form1());
     QObject::connect(&program.handlers(), &Handlers::Ending, &box, &QDialog::reject);
     box.exec();
+}
+
+bool FillsWindow(const Game& game) {
+    return game.board.fits;
+}
+
+bool IsActualSize(const Game& game) {
+    return !game.board.fits && game.board.magnification == 1;
 }
 
 bool ShowsLines(const Game& game) {
@@ -112,6 +125,7 @@ std::vector<Command> TideCommands() {
          .index = 0,
          .text = "Zoom &Out",
          .bar = 17,
+         .word = "Out",
          .icon = "zoom-out",
          .toolTip = "Zoom out",
          .keys = Keys(QKeySequence::ZoomOut),
@@ -121,6 +135,7 @@ std::vector<Command> TideCommands() {
          .index = 1,
          .text = "Zoom &In",
          .bar = 18,
+         .word = "In",
          .icon = "zoom-in",
          .toolTip = "Zoom in",
          .keys = Keys(QKeySequence::ZoomIn),
@@ -130,16 +145,34 @@ std::vector<Command> TideCommands() {
          .index = 2,
          .text = "&Reset Zoom",
          .bar = 19,
+         .word = "Reset",
          .icon = "zoom-reset",
          .toolTip = "Reset zoom",
          .keys = Keys("Ctrl+0"),
          .handler = DoIndexed<cmdzoom_Click>},
+        {.menu = kView,
+         .name = "mnufit",
+         .text = "&Fit to Window",
+         .keys = Keys("Ctrl+2"),
+         .handler = Do<mnufit_Click>,
+         .checked = FillsWindow},
+        {.menu = kView,
+         .name = "mnuactual",
+         .text = "10&0 %",
+         .keys = Keys("Ctrl+1"),
+         .handler = Do<mnuactual_Click>,
+         .checked = IsActualSize},
         {.menu = kView,
          .name = "mnulines",
          .text = "Thin &Lines",
          .keys = Keys("Ctrl+L"),
          .handler = Do<mnulines_Click>,
          .checked = ShowsLines},
+        {.menu = kView,
+         .name = "mnufullscreen",
+         .text = "Full &Screen",
+         .keys = Keys("F11"),
+         .handler = ToggleFullScreen},
         {.menu = kMenu, .name = "dash2", .text = "-"},
         {.menu = kMenu,
          .name = "mnuhelp",
@@ -186,6 +219,7 @@ std::vector<Command> PuzzleCommands() {
          .index = 0,
          .text = "&Previous Puzzle",
          .bar = 1,
+         .word = "Previous",
          .icon = "previous",
          .toolTip = "Previous puzzle, right-click for first puzzle",
          .keys = Keys(QKeySequence::Back),
@@ -195,6 +229,7 @@ std::vector<Command> PuzzleCommands() {
          .index = 2,
          .text = "&Next Puzzle",
          .bar = 3,
+         .word = "Next",
          .icon = "next",
          .toolTip = "Next puzzle, right-click for last puzzle",
          .keys = Keys(QKeySequence::Forward),
@@ -222,6 +257,7 @@ std::vector<Command> PuzzleCommands() {
          .index = 1,
          .text = "&Random Puzzle",
          .bar = 2,
+         .word = "Random",
          .icon = "random",
          .toolTip = "Random puzzle",
          .keys = Keys("Ctrl+R"),
@@ -294,6 +330,7 @@ std::vector<Command> SolveCommands() {
          .name = "cmdverify",
          .text = "&Check",
          .bar = 12,
+         .word = "Check",
          .icon = "check",
          .toolTip = "Check the bridges",
          .keys = Keys("F5"),
@@ -302,6 +339,7 @@ std::vector<Command> SolveCommands() {
          .name = "cmdundo",
          .text = "&Undo",
          .bar = 13,
+         .word = "Undo",
          .icon = "undo",
          .toolTip = "Undo the last move",
          .keys = Keys(QKeySequence::Undo),
@@ -310,6 +348,7 @@ std::vector<Command> SolveCommands() {
          .name = "cmdredo",
          .text = "&Redo",
          .bar = 14,
+         .word = "Redo",
          .icon = "redo",
          .toolTip = "Redo the move that was taken back last",
          .keys = {QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")},
@@ -330,6 +369,7 @@ std::vector<Command> SolveCommands() {
          .name = "mnuhint",
          .text = "&Hint",
          .bar = 15,
+         .word = "Hint",
          .icon = "hint",
          .toolTip = "Hint|Press again for the reason, and once more for the bridges",
          .keys = Keys("F3"),
@@ -396,18 +436,21 @@ std::vector<Command> ToolBarOnlyCommands() {
         {.name = "cmdsave",
          .text = "Add Puzzle to File",
          .bar = 7,
+         .word = "Add",
          .icon = "save",
          .toolTip = "Add puzzle to file",
          .handler = Do<mnuappend_Click>},
         {.name = "cmdload",
          .text = "Load Puzzle File",
          .bar = 8,
+         .word = "Load",
          .icon = "open",
          .toolTip = "Load a puzzle file",
          .handler = Do<cmdload_Click>},
         {.name = "cmdedit",
          .text = "Edit Number Values",
          .bar = 9,
+         .word = "Edit",
          .icon = "edit",
          .toolTip = "Edit or import number values",
          .handler = OpenEditor},
@@ -415,6 +458,7 @@ std::vector<Command> ToolBarOnlyCommands() {
         {.name = "cmdviewcol",
          .text = "View Solution",
          .bar = 11,
+         .word = "Solution",
          .icon = "view",
          .toolTip = "View solution|Hold the button down",
          .handler = Do<cmdviewcol_Release>,
@@ -424,6 +468,7 @@ std::vector<Command> ToolBarOnlyCommands() {
         {.name = "cmdnew1",
          .text = "New Puzzle",
          .bar = 21,
+         .word = "New",
          .icon = "new",
          .toolTip = "New puzzle|Its size is set in the box beside",
          .handler = MakeOrOrder,
@@ -439,11 +484,18 @@ std::vector<Command> ToolBarOnlyCommands() {
         {.name = "cmdcancel",
          .text = "Cancel",
          .bar = 24,
+         .word = "Cancel",
          .icon = "cancel",
          .toolTip = "Cancel",
          .handler = Do<cmdcancel_Click>},
         {.name = "dash16", .text = "-", .bar = 25},
-        {.name = "cmdexit", .text = "Exit", .bar = 26, .icon = "exit", .toolTip = "Exit", .handler = Do<cmdexit_Click>},
+        {.name = "cmdexit",
+         .text = "Exit",
+         .bar = 26,
+         .word = "Exit",
+         .icon = "exit",
+         .toolTip = "Exit",
+         .handler = Do<cmdexit_Click>},
     };
 }
 

@@ -32,6 +32,7 @@ struct Command {
     int index = kNoIndex;   ///< its place in a control array; the object name then ends in it
     const char* text = "";  ///< in the menu, with the mark of its letter; "-" for a separator
     int bar = 0;            ///< its place in the tool bar, counted from the left; 0 for none
+    const char* word = "";  ///< below its picture in the tool bar, where words are wanted
     const char* icon = "";
     const char* toolTip = "";  ///< "caption|hint" of the tool bar's control
     QList<QKeySequence> keys = {};

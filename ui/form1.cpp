@@ -14,8 +14,8 @@
 #include <QMouseEvent>
 #include <QProgressBar>
 #include <QScreen>
-#include <QSplitter>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTimer>
 #include <QToolBar>
 #include <QUrl>
@@ -41,6 +41,12 @@ namespace tidewalk {
 namespace {
 
 constexpr int kProgressWidth = 150;  ///< in pixels
+
+// What is kept of the window from run to run.
+constexpr const char* kGeometry = "window/geometry";
+constexpr const char* kDocks = "window/docks";
+constexpr const char* kWords = "window/words";
+constexpr const char* kYesWord = "yes";
 
 LineSource SourceOf(const ListBox& list) {
     return {[&list] { return list.Revision(); }, [&list] { return static_cast<int>(list.Lines().size()); },
@@ -90,24 +96,18 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
     AddMenus();
     AddToolBar();
     AddOrder();
-    AddCentre();
-    auto* const guide = new GuidePanel(handlers_);
-    addDockWidget(Qt::RightDockWidgetArea, guide);
-    guide->hide();
-    connect(guide, &GuidePanel::Opening, this, [this, guide] {
-        MakeRoomFor(guide);
-        // On a small screen it takes room from the board, which is known when all is laid out.
-        QTimer::singleShot(0, this, &Form1::GiveBoardRoom);
-    });
-    AddDock(list1_, tr("Work list &1"));
-    AddDock(list2_, tr("Work list &2"));
+    setCentralWidget(container_);
+    AddDocks();
     AddStatusLine();
     connect(&handlers_, &Handlers::Changed, this, &Form1::RefreshLists);
     connect(&handlers_, &Handlers::Changed, this, &Form1::RefreshCommands);
     connect(&handlers_, &Handlers::Changed, this, &Form1::AnnounceStatus);
     connect(&handlers_, &Handlers::Changed, this, &Form1::TellOrder);
     setAcceptDrops(true);
-    connect(&handlers_, &Handlers::Ending, this, &QWidget::hide);
+    connect(&handlers_, &Handlers::Ending, this, [this] {
+        KeepPlace();
+        hide();
+    });
     container_->Board().setFocus();
 }
 
@@ -156,6 +156,14 @@ void Form1::AddToolBar() {
     auto* const bar = addToolBar(tr("Tool bar"));
     bar->setObjectName("ToolBar");
     bar->setMovable(false);
+    bar->toggleViewAction()->setText(tr("&Tool Bar"));
+    MenuAt("Tide/View")->addAction(bar->toggleViewAction());
+    words_ = MenuAt("Tide/View")->addAction(tr("&Words in the Tool Bar"));
+    words_->setObjectName("viewWords");
+    words_->setCheckable(true);
+    connect(words_, &QAction::toggled, bar, [bar](bool shown) {
+        bar->setToolButtonStyle(shown ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonIconOnly);
+    });
     for (const Command* command : ToolBarCommands()) {
         if (command->IsSeparator()) {
             bar->addSeparator()->setObjectName(command->ObjectName());
@@ -183,6 +191,8 @@ QWidget* Form1::BarButton(const Command& command) {
     button->setObjectName(command.ObjectName());
     button->setEnabled(command.IsEnabled());
     if (command.holds) button->TakeLongPress();
+    button->setText(command.word);
+    connect(findChild<QToolBar*>(), &QToolBar::toolButtonStyleChanged, button, &QToolButton::setToolButtonStyle);
     // Its picture keeps to the middle.
     if (command.narrow) button->setFixedWidth(button->sizeHint().width() * 2 / 3);
     const Command* const row = &command;
@@ -250,67 +260,41 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
     return QMainWindow::eventFilter(watched, event);
 }
 
-void Form1::AddCentre() {
-    auto* const side = new QWidget;
-    auto* const sideLayout = new QVBoxLayout(side);
-    auto* const title = new QLabel(tr("&Undo list"));
-    title->setBuddy(undoList_);
-    sideLayout->setContentsMargins(4, 4, 4, 4);
-    sideLayout->addWidget(title);
-    sideLayout->addWidget(undoList_);
-    undoList_->setAccessibleName(tr("Undo list"));
+void Form1::AddDocks() {
     GiveToolTip(*undoList_, tr("Your moves, the newest on top|Point at one to see it on the board, double-click to go "
                                "back or ahead to it"));
-    auto* const splitter = new QSplitter;
-    splitter->addWidget(container_);
-    splitter->addWidget(side);
-    splitter->setStretchFactor(0, 1);
-    splitter->setStretchFactor(1, 0);
-    splitter->setChildrenCollapsible(false);
-    splitter->setSizes({container_->sizeHint().width(), side->sizeHint().width()});
-    setCentralWidget(splitter);
+    AddDock(undoList_, tr("&Undo list"));
+    auto* const guide = new GuidePanel(handlers_);
+    addDockWidget(Qt::RightDockWidgetArea, guide);
+    guide->hide();
+    OfferDock(guide, tr("&Hints"));
+    for (const auto& [list, caption] : {std::pair{list1_, tr("Work list &1")}, {list2_, tr("Work list &2")}}) {
+        QDockWidget* const dock = AddDock(list, caption);
+        dock->hide();
+        // The list is the receiver, since docks still tell when the window is gone.
+        connect(dock, &QDockWidget::visibilityChanged, list, [list = list](bool visible) {
+            if (visible) list->Refresh();
+        });
+    }
 }
 
-void Form1::AddDock(LinesView* list, const QString& caption) {
+QDockWidget* Form1::AddDock(QWidget* list, const QString& caption) {
     const QString title = QString(caption).remove('&');
     auto* const dock = new QDockWidget(title);
     dock->setObjectName("dock" + list->objectName());
     dock->setWidget(list);
     list->setAccessibleName(title);
     addDockWidget(Qt::RightDockWidgetArea, dock);
-    dock->hide();
+    OfferDock(dock, caption);
+    return dock;
+}
+
+/// An entry that shows or hides the dock.
+void Form1::OfferDock(QDockWidget* dock, const QString& caption) {
     QAction* const toggle = dock->toggleViewAction();
-    toggle->setObjectName("view" + list->objectName());
+    toggle->setObjectName("view" + dock->objectName().remove("dock"));
     toggle->setText(caption);
     MenuAt("Tide/View")->addAction(toggle);
-    connect(toggle, &QAction::triggered, this, [this, dock](bool shown) {
-        if (shown) MakeRoomFor(dock);
-    });
-    // The list is the receiver, since docks still tell when the window is gone.
-    connect(dock, &QDockWidget::visibilityChanged, list, [list](bool visible) {
-        if (visible) list->Refresh();
-    });
-}
-
-/// Widens the window for the first dock as far as the screen goes, so that the board keeps its place.
-void Form1::MakeRoomFor(const QDockWidget* dock) {
-    for (const QDockWidget* const other : findChildren<QDockWidget*>()) {
-        if (other != dock && other->isVisible()) return;
-    }
-    // A window that was not made smaller since has room for the next one.
-    if (widthWithDock_ > 0 && width() >= widthWithDock_) return;
-    const int room = screen()->availableSize().width() - frameGeometry().width();
-    const int more = std::min(dock->sizeHint().width(), room);
-    if (!isMaximized() && !isFullScreen() && more > 0) resize(width() + more, height());
-    widthWithDock_ = width();
-}
-
-/// Takes from the undo list what the board lacks, and makes the board smaller if it is cut off all the same.
-void Form1::GiveBoardRoom() {
-    auto* const splitter = findChild<QSplitter*>();
-    const int side = splitter->widget(1)->sizeHint().width();
-    if (container_->width() < container_->height()) splitter->setSizes({splitter->width() - side, side});
-    handlers_.Run(FitBoardIfCutOff);
 }
 
 void Form1::AddStatusLine() {
@@ -414,11 +398,34 @@ void Form1::RefreshCommands() {
     }
 }
 
+void Form1::TakePlace(const Choices& choices) {
+    words_->setChecked(choices.Get(kWords, "") == kYesWord);
+    TakeDefaultSize();
+    const auto kept = [&](const char* name) {
+        return QByteArray::fromBase64(QByteArray::fromStdString(choices.Get(name, "")));
+    };
+    // Of another version or torn, they change nothing. A window that has lost its screen comes to another one.
+    restoreGeometry(kept(kGeometry));
+    restoreState(kept(kDocks));
+    if (!isMaximized() && !isFullScreen() && QGuiApplication::platformName() != "offscreen")
+        resize(size().boundedTo(screen()->availableSize()));
+}
+
+void Form1::KeepPlace() {
+    Choices& choices = handlers_.game()->choices;
+    choices.Set(kGeometry, saveGeometry().toBase64().toStdString());
+    choices.Set(kDocks, saveState().toBase64().toStdString());
+    choices.Set(kWords, words_->isChecked() ? kYesWord : "");
+}
+
+/// Beside the board there is room for hints from the start, so that it stays in its place when they come.
 void Form1::TakeDefaultSize() {
     constexpr int kTitleBar = 48;    // with the frame and its shadows, in pixels
     constexpr int kSideFrames = 16;  // in pixels
-    // A splitter forgets its handle when it is asked for its size.
-    const QSize wanted = sizeHint() + QSize(findChild<QSplitter*>()->handleWidth(), 0);
+    const int side = findChild<GuidePanel*>()->sizeHint().width();
+    const int separator = style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent, nullptr, this);
+    resizeDocks({findChild<QDockWidget*>("dockUndoList")}, {side}, Qt::Horizontal);
+    const QSize wanted = sizeHint().expandedTo({container_->sizeHint().width() + separator + side, 0});
     // Without a display there is no screen to fit on either.
     if (QGuiApplication::platformName() == "offscreen") return resize(wanted);
     const QSize room = screen()->availableSize() - QSize(kSideFrames, kTitleBar);
@@ -426,9 +433,10 @@ void Form1::TakeDefaultSize() {
     // On a small screen the board gives way, but not the tool bar's last buttons.
     const int bar = std::min(findChild<QToolBar*>()->sizeHint().width(), room.width());
     resize(std::max(wanted.width() - less, bar), wanted.height() - less);
-    // Boards are fitted to the container's width, so what the bar needs beyond a square goes to the list.
-    const int side = container_->sizeHint().width() - less;
-    findChild<QSplitter*>()->setSizes({side, width() - side});
+}
+
+void Form1::ToggleFullScreen() {
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
 }
 
 /// The path of the one file of a drop, byte for byte, or "".

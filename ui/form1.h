@@ -48,8 +48,11 @@ class Form1 final : public QMainWindow {
     /// The lists take their lines from this game.
     void Show(Game& game);
 
-    /// A size in which the board's container is square and all fits on the screen.
-    void TakeDefaultSize();
+    /// The place, size, docks and tool bar of the last run; at first a size in which the board's container is square.
+    /// All fits on the screen.
+    void TakePlace(const Choices& choices);
+
+    void ToggleFullScreen();
 
  protected:
     void closeEvent(QCloseEvent* event) override;
@@ -68,10 +71,11 @@ class Form1 final : public QMainWindow {
     void AddSizeBox();
     void AddOrder();
     void TellOrder();
-    void AddCentre();
-    void AddDock(LinesView* list, const QString& caption);
-    void MakeRoomFor(const QDockWidget* dock);
-    void GiveBoardRoom();
+    void AddDocks();
+    QDockWidget* AddDock(QWidget* list, const QString& caption);
+    void OfferDock(QDockWidget* dock, const QString& caption);
+    void TakeDefaultSize();
+    void KeepPlace();
     void AddStatusLine();
     void RefreshLists();
     void RefreshCommands();
@@ -97,7 +101,7 @@ class Form1 final : public QMainWindow {
     QLabel* tried_;
     TimeLabel* time_;
     OrderPopup* order_;
-    int widthWithDock_ = 0;     ///< to which the window was widened last; 0 for never
+    QAction* words_ = nullptr;  ///< ticked while the tool bar's buttons have words
     bool statusIsNew_ = false;  ///< it says something that was not announced yet
 };
 

@@ -2,7 +2,7 @@
 #include "ui/guide_painter.h"
 
 #include "drawing/contrast.h"
-#include "ui/qt_surface.h"
+#include "ui/board_pixels.h"
 
 namespace tidewalk {
 
@@ -23,7 +23,7 @@ GuidePainter::GuidePainter(QPainter& painter, const Board& board, const Options&
 
 void GuidePainter::Paint(const Guide& guide) {
     painter_.setBrush(Qt::NoBrush);
-    const double half = Pixels(board_.layout.HalfCell);
+    const double half = Pixels(board_, board_.layout.HalfCell);
     for (const MarkedPair& pair : guide.pairs) {
         if (pair.mark == PairMark::Lay) Strokes(pair);
         if (pair.mark == PairMark::None) Cross(pair, half / 3);
@@ -35,7 +35,7 @@ void GuidePainter::Paint(const Guide& guide) {
 
 void GuidePainter::PaintPair(CellNumber a, CellNumber b) {
     painter_.setBrush(Qt::NoBrush);
-    const double half = Pixels(board_.layout.HalfCell) - 1;
+    const double half = Pixels(board_, board_.layout.HalfCell) - 1;
     const QPointF corner(half, half);
     const auto cell = [&](CellNumber id) { return QRectF(MiddleOf(id) - corner, MiddleOf(id) + corner); };
     Outlined(highlight_, Qt::SolidLine, [&] { painter_.drawRoundedRect(cell(a) | cell(b), kCorner, kCorner); });
@@ -50,19 +50,18 @@ void GuidePainter::Outlined(const QColor& colour, Qt::PenStyle style, const std:
 }
 
 QPointF GuidePainter::MiddleOf(CellNumber id) const {
-    const Point at = board_.At(id);
-    return {Pixels(at.x), Pixels(at.y)};
+    return Pixels(board_, board_.At(id));
 }
 
 void GuidePainter::Frame(CellNumber id, Qt::PenStyle style) {
-    const double half = Pixels(board_.layout.HalfCell) - 1;
+    const double half = Pixels(board_, board_.layout.HalfCell) - 1;
     const QPointF middle = MiddleOf(id);
     const QRectF frame(middle - QPointF(half, half), middle + QPointF(half, half));
     Outlined(highlight_, style, [&] { painter_.drawRoundedRect(frame, kCorner, kCorner); });
 }
 
 void GuidePainter::Strokes(const MarkedPair& pair) {
-    const double half = Pixels(board_.layout.HalfCell);
+    const double half = Pixels(board_, board_.layout.HalfCell);
     QLineF line(MiddleOf(pair.a), MiddleOf(pair.b));
     if (line.length() <= 2 * half) return;
     line = {line.pointAt(half / line.length()), line.pointAt(1 - half / line.length())};

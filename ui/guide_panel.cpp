@@ -17,8 +17,8 @@ namespace tidewalk {
 
 namespace {
 
-constexpr int kWidth = 300;  ///< in pixels; about forty characters a line
-constexpr int kStepGap = 8;  ///< in pixels, between two steps of the list
+constexpr int kCharacters = 40;  ///< a line, about
+constexpr int kStepGap = 8;      ///< in pixels, between two steps of the list
 
 /// Gives each step more height than its lines: the style draws only lines that fit whole, and measures them tightly.
 class StepDelegate final : public QStyledItemDelegate {
@@ -45,6 +45,7 @@ GuidePanel::GuidePanel(Handlers& handlers)
     text_->setTabChangesFocus(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text_->setAccessibleName(tr("Hint"));
+    text_->setPlaceholderText(tr("What hints and explanations say stands here."));
     steps_->setObjectName("GuideSteps");
     steps_->setWordWrap(true);
     steps_->setItemDelegate(new StepDelegate(steps_));
@@ -74,7 +75,7 @@ GuidePanel::GuidePanel(Handlers& handlers)
 }
 
 QSize GuidePanel::sizeHint() const {
-    return {kWidth, QDockWidget::sizeHint().height()};
+    return {kCharacters * fontMetrics().averageCharWidth(), QDockWidget::sizeHint().height()};
 }
 
 void GuidePanel::closeEvent(QCloseEvent* event) {
@@ -94,10 +95,7 @@ void GuidePanel::Refresh() {
     if (text == text_->toPlainText()) return;
     text_->setPlainText(text);
     if (text.isEmpty()) return;
-    if (isHidden()) {
-        emit Opening();
-        show();
-    }
+    show();
     QAccessibleEvent alert(text_, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

@@ -24,10 +24,6 @@ class GuidePanel final : public QDockWidget {
 
     QSize sizeHint() const override;
 
- signals:
-    /// It is about to show, and needs room.
-    void Opening();
-
  protected:
     void closeEvent(QCloseEvent* event) override;
 

@@ -89,7 +89,7 @@ std::optional<std::string> Program::Start(const StartRequest& request) {
     choices_.UseFolder(folder);
     plays_.UseFolder(folder);
     prompts_.SetCaption(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
-    form1_.TakeDefaultSize();
+    form1_.TakePlace(choices_);
     form1_.show();
     // The first puzzle is fitted to the container, and messages lie over the window's middle.
     WaitUntilShown(form1_);

@@ -28,6 +28,9 @@ class QtSurface final : public Surface {
     /// picture of the screen, whatever its device pixel ratio. `twipsPerPenPixel` is what a pen width of 1 stands for.
     QtSurface(double pixelsPerInch, double twipsPerPenPixel);
 
+    /// Another resolution, from the next target on.
+    void SetPixelsPerInch(double pixelsPerInch) { pixelsPerInch_ = pixelsPerInch; }
+
     /// What is drawn from now on goes to `target`; with nullptr it goes nowhere. Finishes with the old target.
     void SetTarget(QPaintDevice* target);
 

@@ -41,9 +41,6 @@ void Drag(TestGame& game) {
     game.Run(Picture1_MouseMove, true, Point{-900, -900}, Point{90, 90});
 }
 
-void Stretch(TestGame& game) {
-    game.Run(PinchBoard, 300.0, Point{}, Point{});
-}
 void UndoAndRedo(TestGame& game) {
     game.Run(cmdundo_Click);
     game.Run(cmdredo_Click);
@@ -95,7 +92,6 @@ const Command kDoNothing[] = {Do<cmdzoom_Click, 0>,
                               Do<mnucheckpoint_Click>,
                               Do<mnubacktocheckpoint_Click>,
                               Do<LayTowards, BoardKey::Right>,
-                              Stretch,
                               Do<cmdverify_Click>,
                               Do<cmdviewcol_Press>,
                               Do<cmdviewcol_Release>,

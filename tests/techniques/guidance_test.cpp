@@ -108,16 +108,9 @@ TEST(Explain, ShowsEachPositionAndLeavesThePlayersBridges) {
     EXPECT_TRUE(game.guidance.steps.empty());
 }
 
-TEST(Hint, EndsWithAutoSolveAndFitsASmallerContainer) {
+TEST(Hint, EndsWithAutoSolve) {
     Guided game({"3.3.1", ".....", "2...1"});
     EXPECT_NE(game.Hint(), "");
-    const int cellSize = game.board.layout.CellSize;
-    game.Run(FitBoardIfCutOff);
-    EXPECT_EQ(game.board.layout.CellSize, cellSize);
-    game.world.container = {2400, 9000};
-    game.Run(FitBoardIfCutOff);
-    EXPECT_LT(game.board.layout.CellSize, cellSize);
-    EXPECT_EQ(game.board.FittedCellSize, FittingCellSize({3, 5}, 2400));
     game.Run(mnuautosol_Click);
     EXPECT_EQ(GuidanceText(game), "");
     EXPECT_TRUE(game.board.guide.islands.empty());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The board under the mouse, and what it looks like. All of this may differ on a screen with two pixels for each.
+#include "ui/board_pixels.h"
 #include "window_game.h"
 
 namespace tidewalk::test {
@@ -147,13 +148,11 @@ TEST(BoardTouch, FingersPlayAWholeGame) {
     const QPoint before = window.view.pos();
     window.Touch({{QPoint(5, 5), QPoint(65, 45)}});
     EXPECT_EQ(window.view.pos() - before, QPoint(60, 40));
-    for (int i = 0; i < 3; ++i)
-        window.Trigger("cmdzoom0");
-    const int cell = window.board.layout.CellSize;
+    const double magnification = window.board.magnification;
     const QPoint middle = window.view.rect().center();
     const int moves = window.board.history.Count();
     window.Touch({{window.At(kLeft), window.At(kLeft)}, {middle, middle + (middle - window.At(kLeft)) / 8}});
-    EXPECT_NEAR(window.board.layout.CellSize, cell * 1.125, 8) << "two fingers stretch it";
+    EXPECT_NEAR(window.board.magnification, magnification * 1.125, 0.02) << "two fingers stretch it";
     EXPECT_EQ(window.board.history.Count(), moves);
     EXPECT_EQ(SelectedIsland(window.board), 0);
 }
@@ -162,7 +161,7 @@ TEST(BoardPicture, RingBandFocusAndMarkerLieWhereTheyBelong) {
     WindowGame window;
     window.view.setFocus();
     const QImage bare = window.Shown();
-    const double half = window.board.layout.HalfCell / kTwipsPerPixel;
+    const double half = Pixels(window.board, window.board.layout.HalfCell);
     // What is painted over the board lies around the island, so far from it, and goes down to `bottom`.
     const auto expectOverlay = [&](double distance, int bottom = 0) {
         const QImage shown = window.Shown();
@@ -193,8 +192,8 @@ TEST(BoardPicture, RingBandFocusAndMarkerLieWhereTheyBelong) {
 TEST(BoardPicture, ASolvedPuzzleIsFramedBesideItsCells) {
     WindowGame window({Record({"1.1"})});
     BoardContainer& container = window.form.Container();
-    const double pen = 2 * window.board.layout.LineWidth;
-    const double beside = window.board.layout.HalfCell / kTwipsPerPixel + pen / 2;
+    const double pen = std::round(2 * window.board.layout.LineWidth * window.board.magnification);
+    const double beside = Pixels(window.board, window.board.layout.HalfCell) + pen / 2;
     for (const bool solved : {false, true}) {
         const QImage shown = container.grab().toImage();
         for (const CellPlace cell : {CellPlace{1, 1}, {1, 3}}) {

@@ -13,6 +13,7 @@
 
 #include "drawing/contrast.h"
 #include "game/job.h"
+#include "model/numbers.h"
 #include "options/colour_scheme.h"
 #include "ui/colours.h"
 #include "ui/icons.h"
@@ -28,6 +29,8 @@ const std::vector<std::string> kFive(5, kSmallPuzzle);
 std::map<std::string, std::string> StateOf(WindowGame& window) {
     return {{"puzzle", std::to_string(window.game.collection.PuzzleNumber)},
             {"cells", std::to_string(window.board.layout.CellSize)},
+            {"view", window.board.fits ? "fit" : NumText(static_cast<int>(window.board.magnification))},
+            {"frame", window.form.isFullScreen() ? "gone" : "there"},
             {"moves", std::to_string(window.board.history.UndoList().size())},
             {"selected", std::to_string(SelectedIsland(window.board))},
             {"help", window.program.help().isVisible() ? "open" : "closed"},
@@ -73,7 +76,7 @@ std::string EffectOf(const std::function<void(WindowGame&)>& give) {
 TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
     const QString effects =
         "|mnuoptset=Form2|mnuoptsave=status Options saved|mnueditor=Form6|cmdzoom0=cells 567|cmdzoom1=cells 693|"
-        "cmdzoom2=cells 700|mnuhelp=help open|mnuabout=About|mnuexit=Exit?|mnuloadpuz=file: Tidewalk|"
+        "cmdzoom2=cells 700|mnufit=cells 700|mnuactual=view 1|mnufullscreen=frame gone|mnuhelp=help open|mnuabout=About|mnuexit=Exit?|mnuloadpuz=file: Tidewalk|"
         "mnuappend=file: Add Puzzle to File|mnudelete=Delete current puzzle from file:\r\n|arrows0=puzzle 2|"
         "arrows2=puzzle 4|arrows0right=puzzle 1|arrows2right=puzzle 5|arrows1=puzzle 2|"
         "mnunewpuzx=works: Creating 7x7 puzzle ...|mnucreatemany=Form3|mnustopbatch=|mnupuzreset=Reset?|"
@@ -139,6 +142,8 @@ QStringList TextsOf(const QWidget& window) {
     QStringList texts;
     for (const auto* const widget : window.findChildren<QWidget*>()) {
         const auto* const label = qobject_cast<const QLabel*>(widget);
+        // The buttons of the tool bar are there for the mouse: their commands have keys, or letters in the menus.
+        if (qobject_cast<const BoxControl*>(widget) != nullptr) continue;
         const bool speaks = label != nullptr ? label->buddy() != nullptr : widget->inherits("QAbstractButton");
         const QString text = widget->property(speaks ? "text" : "title").toString();
         // Windows that belong to this one have letters of their own.

@@ -6,6 +6,7 @@
 #include <QMetaProperty>
 #include <QRegularExpression>
 
+#include "ui/board_pixels.h"
 #include "ui/msg_form.h"
 
 namespace tidewalk::test {
@@ -96,7 +97,7 @@ void WindowGame::Look() {
 
 QPoint WindowGame::At(CellPlace cell) const {
     const Point at = board.layout.At(cell);
-    return {qRound(at.x / kTwipsPerPixel), qRound(at.y / kTwipsPerPixel)};
+    return Pixels(board, at).toPoint();
 }
 
 void WindowGame::MoveTo(QPoint onBoard, Qt::MouseButtons held) {
