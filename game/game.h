@@ -18,6 +18,7 @@
 #include "game/play_time.h"
 #include "game/questions.h"
 #include "generator/puzzle_order.h"
+#include "model/line_index.h"
 #include "model/random_source.h"
 #include "options/options.h"
 
@@ -64,6 +65,7 @@ struct Game : Seams {
 
     Board board;
     Collection collection;
+    LineIndex lineIndex;  ///< where the lines of the collection begin
     Options options;
     JobState job;
     Guidance guidance;

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <limits>
 
 #include "model/file_error.h"
 #include "model/line_reader.h"
@@ -75,7 +76,7 @@ bool AppendTo(SystemFile& file, const std::string& path, std::string_view record
 int CountLines(const std::string& path) {
     int count = 0;
     try {
-        for (LineReader lines(path); lines.Skip();)
+        for (LineReader lines(path); count < std::numeric_limits<int>::max() && lines.Skip();)
             ++count;
     } catch (const FileError&) {
         return 0;
@@ -99,22 +100,6 @@ std::optional<Puzzle> ReadPuzzle(const std::string& path, int number) {
         return std::nullopt;
     }
     return ParsePuzzleRecord(line);
-}
-
-int LastPuzzleUpTo(const std::string& path, int number) {
-    // Mostly it is that line, and the others need not be understood.
-    if (ReadPuzzle(path, number)) return number;
-    int found = 0;
-    try {
-        LineReader lines(path);
-        std::string line;
-        for (int at = 1; at <= number && lines.Next(line); ++at) {
-            if (ParsePuzzleRecord(line)) found = at;
-        }
-    } catch (const FileError&) {
-        return 0;
-    }
-    return found;
 }
 
 bool IsTornRecord(std::string_view line) {

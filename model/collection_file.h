@@ -21,10 +21,6 @@ bool ReadCollectionLine(const std::string& path, int number, std::string& line);
 /// The puzzle of line `number`; nothing when there is no such line, it is no record or the file cannot be read.
 std::optional<Puzzle> ReadPuzzle(const std::string& path, int number);
 
-/// The number of the last line up to `number` that is a whole puzzle record; 0 when there is none, or when the file
-/// cannot be read.
-int LastPuzzleUpTo(const std::string& path, int number);
-
 // Whoever changes a collection holds its lock from the first look at it to the last byte, so that no other program's
 // change is lost. `mayWait` is asked while another program holds the lock.
 

@@ -13,7 +13,6 @@ namespace tidewalk {
 namespace {
 
 constexpr std::size_t kBufferBytes = 128 * 1024;
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
@@ -25,8 +24,8 @@ LineReader::LineReader(const std::string& path) : source_(file_), name_(path), b
     if (file_.open(path, std::ios::in | std::ios::binary) == nullptr) Fail(path, errno);
 }
 
-LineReader::LineReader(std::streambuf& source, std::string name)
-    : source_(source), name_(std::move(name)), buffer_(kBufferBytes) {}
+LineReader::LineReader(std::streambuf& source, std::string name, std::uint64_t from)
+    : source_(source), name_(std::move(name)), buffer_(kBufferBytes), position_(from) {}
 
 bool LineReader::Fill() {
     using Traits = std::streambuf::traits_type;

@@ -15,6 +15,9 @@ namespace tidewalk {
 /// The end of every line that is written. Readers take a lone LF for one too.
 inline constexpr std::string_view kLineEnd = "\r\n";
 
+/// The three bytes that some editors put before UTF-8 text.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 /// What is longer is no line of text but a disk image or the like, and would only fill the memory.
 inline constexpr std::size_t kLongestLine = 64 * 1024 * 1024;
 
@@ -25,8 +28,8 @@ class LineReader {
     /// Opens a file. Throws FileError when the system refuses or it is no regular file.
     explicit LineReader(const std::string& path);
     /// Reads from `source`, which has to live as long and which waits no longer than for its next bytes; messages call
-    /// it `name`.
-    LineReader(std::streambuf& source, std::string name);
+    /// it `name`. Its first byte is that at place `from` of the text.
+    LineReader(std::streambuf& source, std::string name, std::uint64_t from = 0);
     LineReader(const LineReader&) = delete;
     LineReader& operator=(const LineReader&) = delete;
 

@@ -4,8 +4,6 @@
 #include "board/keep_play.h"
 #include "board/show_board.h"
 #include "model/collection_file.h"
-#include "model/file_error.h"
-#include "model/line_reader.h"
 #include "model/numbers.h"
 #include "model/puzzle_record.h"
 
@@ -14,18 +12,11 @@ namespace tidewalk {
 namespace {
 
 /// Opens the collection and reads the line, which has to look like a record. The file is left open.
-bool OpenAt(Collection& collection, const std::string& path, int number, std::string& line) {
-    if (collection.leftOpen) return false;
-    try {
-        LineReader lines(path);
-        collection.leftOpen = true;
-        for (int at = 1; at < number; ++at) {
-            if (!lines.Skip()) return false;
-        }
-        return number >= 1 && lines.Next(line) && MayBeRecord(line);
-    } catch (const FileError&) {
-        return false;
-    }
+bool OpenAt(Game& game, const std::string& path, int number, std::string& line) {
+    if (game.collection.leftOpen) return false;
+    const LineRead read = game.lineIndex.Read(path, number, line);
+    game.collection.leftOpen = read != LineRead::NotOpened;
+    return read == LineRead::Done && MayBeRecord(line);
 }
 
 /// Puts the puzzle of the record on the board, or as much of it as there is; true when it is whole.
@@ -45,7 +36,7 @@ bool StartAfresh(Game& game, const std::string& record) {
 
 bool LoadPuzzle(Game& game, const std::string& path, int number) {
     std::string record;
-    const bool opened = OpenAt(game.collection, path, number, record);
+    const bool opened = OpenAt(game, path, number, record);
     // Whatever comes onto the board now, it is no longer the line that was loaded before.
     if (opened) game.collection.loadedLine.clear();
     const bool loaded = opened && StartAfresh(game, record);
@@ -55,9 +46,9 @@ bool LoadPuzzle(Game& game, const std::string& path, int number) {
         return false;
     }
     game.job.TakeBackCancel();
+    game.collection.CollectionPath = path;
     game.collection.PuzzleCount = CountPuzzles(game, path);
     game.collection.PuzzleNumber = number;
-    game.collection.CollectionPath = path;
     game.collection.loadedLine = record;
     game.collection.importedFrom.clear();
     game.window.SetText(WindowText::PuzzleNumber, NumText(number));
@@ -94,7 +85,8 @@ void CloseFiles(Game& game) {
 
 int CountPuzzles(Game& game, const std::string& path) {
     CloseFiles(game);
-    return CountLines(path);
+    // The places of the open collection's lines stay known while another one is counted.
+    return path == game.collection.CollectionPath ? game.lineIndex.Count(path) : CountLines(path);
 }
 
 }  // namespace tidewalk

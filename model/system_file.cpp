@@ -6,10 +6,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <limits>
 #include <thread>
 #include <utility>
 
@@ -23,7 +25,12 @@ namespace {
 constexpr mode_t kUsualRights = 0666;
 constexpr mode_t kOwnRights = 0600;
 
-constexpr std::size_t kInputBytes = 128 * 1024;
+/// A time of the system in nanoseconds. One so far away that it does not fit is no time that a change is given.
+std::int64_t NanosecondsOf(const timespec& time) {
+    constexpr std::int64_t kPerSecond = 1'000'000'000;
+    constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max() / kPerSecond - 1;
+    return std::clamp<std::int64_t>(time.tv_sec, -kMost, kMost) * kPerSecond + time.tv_nsec;
+}
 
 int FlagsOf(SystemFile::Mode mode) {
     switch (mode) {
@@ -86,6 +93,17 @@ std::uint64_t SystemFile::Size() const {
     return fstat(descriptor_, &status) == 0 ? static_cast<std::uint64_t>(status.st_size) : 0;
 }
 
+std::optional<FileState> SystemFile::State() const {
+    struct stat status {};
+    if (fstat(descriptor_, &status) != 0) return std::nullopt;
+    return FileState{S_ISREG(status.st_mode),
+                     status.st_dev,
+                     status.st_ino,
+                     static_cast<std::uint64_t>(status.st_size),
+                     NanosecondsOf(status.st_mtim),
+                     NanosecondsOf(status.st_ctim)};
+}
+
 bool SystemFile::IsAt(const std::string& path) const {
     struct stat own {};
     struct stat named {};
@@ -106,17 +124,22 @@ bool SystemFile::TryLockPlace(int number) {
     return fcntl(descriptor_, F_OFD_SETLK, &place) == 0 || KnowsNoLocks(errno);
 }
 
-std::string SystemFile::Read(std::uint64_t from, std::size_t most) const {
-    std::string bytes(most, '\0');
+std::optional<std::size_t> SystemFile::ReadInto(std::uint64_t from, std::span<char> bytes) const {
     std::size_t filled = 0;
-    while (filled < most) {
+    while (filled < bytes.size()) {
         const ssize_t count =
-            pread(descriptor_, bytes.data() + filled, most - filled, static_cast<off_t>(from + filled));
+            pread(descriptor_, bytes.data() + filled, bytes.size() - filled, static_cast<off_t>(from + filled));
         if (count < 0 && errno == EINTR) continue;
-        if (count <= 0) break;
+        if (count < 0) return std::nullopt;
+        if (count == 0) break;
         filled += static_cast<std::size_t>(count);
     }
-    bytes.resize(filled);
+    return filled;
+}
+
+std::string SystemFile::Read(std::uint64_t from, std::size_t most) const {
+    std::string bytes(most, '\0');
+    bytes.resize(ReadInto(from, bytes).value_or(0));
     return bytes;
 }
 
@@ -158,18 +181,15 @@ void SyncFolderOf(const std::string& path) {
     if (auto opened = SystemFile::Open(folder.empty() ? "." : folder.string(), SystemFile::Mode::Read)) opened->Sync();
 }
 
-FileInput::FileInput(const SystemFile& file, std::string name)
-    : file_(file), name_(std::move(name)), buffer_(kInputBytes) {}
+FileInput::FileInput(const SystemFile& file, std::string name, std::uint64_t from, std::size_t most)
+    : file_(file), name_(std::move(name)), position_(from), buffer_(most) {}
 
 FileInput::int_type FileInput::underflow() {
-    ssize_t count = 0;
-    do {
-        count = pread(file_.Descriptor(), buffer_.data(), buffer_.size(), static_cast<off_t>(position_));
-    } while (count < 0 && errno == EINTR);
-    if (count < 0) Fail(name_, errno);
-    if (count == 0) return traits_type::eof();
-    position_ += static_cast<std::uint64_t>(count);
-    setg(buffer_.data(), buffer_.data(), buffer_.data() + count);
+    const auto count = file_.ReadInto(position_, buffer_);
+    if (!count) Fail(name_, errno);
+    if (*count == 0) return traits_type::eof();
+    position_ += *count;
+    setg(buffer_.data(), buffer_.data(), buffer_.data() + *count);
     return traits_type::to_int_type(*gptr());
 }
 

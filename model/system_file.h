@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <streambuf>
 #include <string>
 #include <string_view>
@@ -20,6 +21,18 @@ using MayWait = std::function<bool()>;
 inline bool WaitOn() {
     return true;
 }
+
+/// Which file it is, and what changes when somebody changes it.
+struct FileState {
+    bool regular = false;
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;  ///< which of the device's files
+    std::uint64_t size = 0;
+    std::int64_t written = 0;  ///< when its bytes changed last, in nanoseconds since 1970; anybody may set it
+    std::int64_t changed = 0;  ///< when it changed in any way, the same; the system alone sets it
+
+    bool operator==(const FileState&) const = default;
+};
 
 /// An open file of the system, closed with the object.
 class SystemFile {
@@ -44,6 +57,8 @@ class SystemFile {
 
     bool IsRegular() const;
     std::uint64_t Size() const;
+    /// Nothing when the system does not tell.
+    std::optional<FileState> State() const;
     /// True when `path` stands for this very file now.
     bool IsAt(const std::string& path) const;
 
@@ -53,6 +68,9 @@ class SystemFile {
     /// The same for the `number`-th place of the file alone, counted from 0.
     bool TryLockPlace(int number);
 
+    /// Fills the span with what the file holds from a place on, and tells how much that was: less than the span at the
+    /// end alone. Nothing when the system refuses; its reason is in `errno`.
+    std::optional<std::size_t> ReadInto(std::uint64_t from, std::span<char> bytes) const;
     /// Reads up to so many bytes from a place on; fewer at the end.
     std::string Read(std::uint64_t from, std::size_t most) const;
     bool Append(std::string_view bytes);
@@ -74,11 +92,13 @@ class SystemFile {
 /// Brings the names in the folder of `path` to the disk, after a file there was made, renamed or removed.
 void SyncFolderOf(const std::string& path);
 
-/// A stream buffer that reads a file from its beginning, wherever the file itself stands.
+/// A stream buffer that reads a file from a place on, wherever the file itself stands.
 class FileInput final : public std::streambuf {
  public:
-    /// The file has to live as long. Messages call it `name`.
-    FileInput(const SystemFile& file, std::string name);
+    static constexpr std::size_t kUsualBytes = 128 * 1024;
+
+    /// The file has to live as long. Messages call it `name`; `most` bytes are read at a time.
+    FileInput(const SystemFile& file, std::string name, std::uint64_t from = 0, std::size_t most = kUsualBytes);
 
  protected:
     /// Throws FileError when the system cannot read.
@@ -87,7 +107,7 @@ class FileInput final : public std::streambuf {
  private:
     const SystemFile& file_;
     std::string name_;
-    std::uint64_t position_ = 0;
+    std::uint64_t position_;
     std::vector<char> buffer_;
 };
 

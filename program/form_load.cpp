@@ -74,7 +74,7 @@ std::optional<std::string> Form_Load(Game& game, const StartRequest& request) {
         game.collection.PuzzleNumber = 1;
     }
     // The collection may have become shorter since, or end in a line that is none.
-    const int last = LastPuzzleUpTo(game.collection.CollectionPath, game.collection.PuzzleNumber);
+    const int last = LastPuzzleUpTo(game.lineIndex, game.collection.CollectionPath, game.collection.PuzzleNumber);
     if (last > 0) game.collection.PuzzleNumber = last;
     if (!LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber)) MakeFirstCollection(game);
     return std::nullopt;

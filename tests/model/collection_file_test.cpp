@@ -14,6 +14,7 @@
 
 #include "model/convert_layout.h"
 #include "model/file_error.h"
+#include "model/line_index.h"
 #include "model/line_reader.h"
 #include "support/board_text.h"
 #include "support/temp_folder.h"
@@ -83,8 +84,9 @@ TEST(Collection, CountsItsLinesAndGivesTheirPuzzles) {
     const TempFolder folder;
     const std::string path = folder.Write("a", kByteOrderMark + Record({"1-1"}) + "\r\nno record\n" + Record({"2=2"}));
     EXPECT_EQ(CountLines(path), 3);
-    EXPECT_EQ(LastPuzzleUpTo(path, 2) * 10 + LastPuzzleUpTo(path, 99), 13);
-    EXPECT_EQ(LastPuzzleUpTo(folder.Path("missing"), 1), 0);
+    LineIndex index;
+    EXPECT_EQ(LastPuzzleUpTo(index, path, 2) * 10 + LastPuzzleUpTo(index, path, 99), 13);
+    EXPECT_EQ(LastPuzzleUpTo(index, folder.Path("missing"), 1), 0);
     EXPECT_EQ(CountLines(folder.Write("b", "1\n")), 1);
     EXPECT_EQ(CountLines(folder.Write("b", kByteOrderMark)), 0);
     EXPECT_EQ(CountLines(folder.Path("missing")) + CountLines(folder.Path("")), 0);
