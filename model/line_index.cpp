@@ -50,7 +50,7 @@ bool IsSettled(const FileState& state, std::int64_t now) {
     constexpr std::int64_t kSecond = 1000 * kMillisecond;
     // Whole seconds come from file systems that know no parts of them, and some of these count only every other one.
     const std::int64_t tick = state.changed % kSecond == 0 ? 5 * kSecond / 2 : 50 * kMillisecond;
-    if (state.changed > now - tick) return false;
+    if (state.changed >= now - tick) return false;
     // Where the system keeps no time of its own a change brings the present. One that was set to the future is another.
     return state.written < now - tick || state.written > now + tick;
 }
