@@ -43,7 +43,7 @@ tidewalk_layer(solver ON model FILES
 
 tidewalk_layer(techniques ON solver FILES
     techniques/counting techniques/cutting_off techniques/deducer techniques/deduction techniques/explain
-    techniques/grade techniques/groups techniques/hint techniques/named_rule techniques/position
+    techniques/grade techniques/groups techniques/hint techniques/named_rule techniques/position techniques/puzzle_filter
     techniques/sentences techniques/supposing)
 
 tidewalk_layer(generator ON techniques FILES

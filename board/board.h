@@ -23,7 +23,7 @@ struct Board {
     BoardLayout layout;
     double magnification = 1;  ///< of the layout, on the screen; 1 where 96 pixels show an inch
     bool fits = true;          ///< the magnification is such that the board fills its container
-    int FittedCellSize = 0;  ///< the cell size with which the last loaded puzzle fitted its container, 0 before that
+    int FittedCellSize = 0;    ///< the cell size with which the last loaded puzzle fitted its container, 0 before that
 
     BridgeTable BridgeState;
     PairMarks Marks;
@@ -40,11 +40,12 @@ struct Board {
     int DragOffsetX = 0;  ///< the pointer less the board's corner when the left button went down, in twips
     int DragOffsetY = 0;
 
-    bool solved = false;       ///< the player's bridges are a true solution
-    bool focusShows = false;   ///< the last move on the board was made with a key
-    bool dragging = false;     ///< the offsets are those of the button that is down now
-    bool pressIsOver = false;  ///< the left button is still down, but what it began was called off
-    bool otherIsOver = false;  ///< another button is down that called it off, and does nothing else
+    bool startsAfresh = false;  ///< the puzzle that comes next comes without what was played on it
+    bool solved = false;        ///< the player's bridges are a true solution
+    bool focusShows = false;    ///< the last move on the board was made with a key
+    bool dragging = false;      ///< the offsets are those of the button that is down now
+    bool pressIsOver = false;   ///< the left button is still down, but called off or moving the board: no click
+    bool otherIsOver = false;   ///< another button is down that called it off, and does nothing else
 
     /// A press of the left button on an island, which may become a bridge drawn to another one.
     struct {

@@ -73,13 +73,10 @@ void mnucheckpoint_Click(Game& game) {
 
 void mnubacktocheckpoint_Click(Game& game) {
     if (game.job.BusyFlag()) return;
-    const std::uint64_t revision = game.board.history.Revision();
     if (const auto moment = game.board.history.BackToCheckpoint()) {
         GoToMoment(game, *moment);
     } else {
         game.window.SetText(WindowText::Status, "There is no checkpoint to go back to");
-        const bool gaveOneUp = game.board.history.Revision() != revision;
-        if (gaveOneUp) KeepPlay(game);
     }
 }
 
@@ -117,12 +114,13 @@ void mnupuzreset_Click(Game& game) {
     const int answer = game.prompts.Show("Reset?", "vbYesNo");
     game.events.DoEvents();
     if (answer != kYes) return;
-    ForgetPlay(game);
+    game.board.startsAfresh = true;
     if (game.collection.importedFrom.empty()) {
         LoadPuzzle(game, game.collection.CollectionPath, game.collection.PuzzleNumber);
     } else {
         ShowAgain(game, PuzzleShown(game));
     }
+    game.board.startsAfresh = false;
     game.window.SetText(WindowText::Status, "");
 }
 

@@ -77,6 +77,7 @@ void PressLeft(Game& game, Point cursor) {
         return;
     }
     board.dragging = true;
+    board.press.at = cursor;
     board.DragOffsetX = RoundHalfEven(cursor.x - board.layout.Picture1.left);
     board.DragOffsetY = RoundHalfEven(cursor.y - board.layout.Picture1.top);
 }
@@ -146,6 +147,7 @@ void Picture1_MouseMove(Game& game, bool leftHeld, Point point, Point cursor) {
         game.pictures.ShowOverlay();
     }
     if (leftHeld && board.dragging) {
+        if (IsFarFrom(cursor, board.press.at, game.pictures.DragDistance())) board.pressIsOver = true;
         board.layout.Picture1.left = cursor.x - board.DragOffsetX;
         board.layout.Picture1.top = cursor.y - board.DragOffsetY;
         game.pictures.PlacePicture();

@@ -22,7 +22,6 @@ MarkDrawing::MarkDrawing(Surface& picture, const Board& board, const Options& op
 
 void MarkDrawing::DrawMarkedPairs() {
     if (board_.Marks.All().empty()) return;
-    picture_.SetDrawWidth(2 * board_.layout.LineWidth);
     for (const auto& [a, b] : board_.Marks.All())
         DrawCross(PlaceOfMark(board_.At(a), board_.At(b)));
     picture_.SetDrawWidth(board_.layout.LineWidth);
@@ -42,9 +41,15 @@ Point MarkDrawing::PlaceOfMark(Point from, Point to) const {
 void MarkDrawing::DrawCross(Point middle) {
     constexpr double kArm = 0.13;
     const double arm = kArm * board_.layout.CellSize;
-    const Colour colour = LegibleOn(options_.BoardBackground(), options_.ChainColour, kShapeContrast);
-    picture_.Line(middle.x - arm, middle.y - arm, middle.x + arm, middle.y + arm, colour);
-    picture_.Line(middle.x - arm, middle.y + arm, middle.x + arm, middle.y - arm, colour);
+    const auto draw = [&](int width, Colour colour) {
+        picture_.SetDrawWidth(width);
+        picture_.Line(middle.x - arm, middle.y - arm, middle.x + arm, middle.y + arm, colour);
+        picture_.Line(middle.x - arm, middle.y + arm, middle.x + arm, middle.y - arm, colour);
+    };
+    // Between islands that touch it lies on these.
+    const int pen = 2 * board_.layout.LineWidth;
+    draw(pen + 2, options_.BoardBackground());
+    draw(pen, LegibleOn(options_.BoardBackground(), options_.ChainColour, kShapeContrast));
 }
 
 void MarkDrawing::DrawMistakes() {

@@ -77,10 +77,11 @@ void History::SetCheckpoint() {
 }
 
 std::optional<int> History::BackToCheckpoint() {
+    const auto here = std::lower_bound(checkpoints_.begin(), checkpoints_.end(), done_);
+    if (here == checkpoints_.begin()) return std::nullopt;
+    const int moment = *std::prev(here);
     if (std::erase(checkpoints_, done_) > 0) ++revision_;
-    const auto next = std::lower_bound(checkpoints_.begin(), checkpoints_.end(), done_);
-    if (next == checkpoints_.begin()) return std::nullopt;
-    return *std::prev(next);
+    return moment;
 }
 
 }  // namespace tidewalk

@@ -73,7 +73,7 @@ class History {
     /// Remembers this moment. A second checkpoint at the same moment is none.
     void SetCheckpoint();
     /// The moment to go back to: that of the newest checkpoint before this one. A checkpoint at this very moment has
-    /// been gone back to already and is given up. Nothing when there is none.
+    /// been gone back to already and is given up then. Nothing when there is none to go back to.
     std::optional<int> BackToCheckpoint();
 
     /// Changes with every change of the history, so that a window knows when to show it anew.

@@ -2,6 +2,7 @@
 #include "board/keep_play.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "board/mistakes.h"
 #include "board/place_bridge.h"
@@ -70,7 +71,15 @@ std::string TimeText(int seconds) {
 void BringBackPlay(Game& game) {
     Board& board = game.board;
     std::optional<KeptPlay> kept;
-    if (game.options.KeepPlay && board.puzzle.IslandCount() > 0) kept = game.plays.Find(board.puzzle);
+    if (std::exchange(board.startsAfresh, false)) {
+        game.plays.Forget(board.puzzle);
+    } else if (board.puzzle.IslandCount() > 0) {
+        if (game.options.KeepPlay) {
+            kept = game.plays.Find(board.puzzle);
+        } else {
+            game.plays.LeaveUnseen(board.puzzle);
+        }
+    }
     game.playTime.Begin(kept ? kept->seconds : 0, game.clock.Milliseconds());
     TellTrouble(game);
     if (!kept || (kept->history.Count() == 0 && kept->history.Checkpoints().empty())) return;
@@ -96,10 +105,6 @@ void TellTrouble(Game& game) {
     if (trouble.empty()) return;
     game.board.playNote = trouble;
     game.window.SetText(WindowText::Status, trouble);
-}
-
-void ForgetPlay(Game& game) {
-    game.plays.Forget(game.board.puzzle);
 }
 
 }  // namespace tidewalk

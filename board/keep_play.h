@@ -20,7 +20,8 @@ void Form_Activate(Game& game, bool active);
 /// The time spent, as "4:07" or "1:04:07".
 std::string TimeText(int seconds);
 
-/// Brings back what was kept of the puzzle that has just come onto the board, and says so in the status line. Moves
+/// Brings back what was kept of the puzzle that has just come onto the board, and says so in the status line; or
+/// forgets it, if the board starts afresh. Moves
 /// that cannot have been made on it are left out with all that follow.
 void BringBackPlay(Game& game);
 
@@ -29,8 +30,5 @@ std::string AndPlayNote(const Game& game, const std::string& text);
 
 /// Says in the status line what went wrong in keeping, if anything did since it was told last.
 void TellTrouble(Game& game);
-
-/// Forgets what was kept of the puzzle on the board.
-void ForgetPlay(Game& game);
 
 }  // namespace tidewalk

@@ -27,6 +27,9 @@ class PlayStore {
     /// What was kept; nothing when that is nothing.
     virtual std::optional<KeptPlay> Find(const Puzzle& puzzle) = 0;
 
+    /// What is kept of the puzzle is not asked for: until it is found, nothing takes its place.
+    virtual void LeaveUnseen(const Puzzle& puzzle) = 0;
+
     /// Keeps the moves in the place of those that were kept before, within a second. A puzzle that was solved stays so.
     virtual void Keep(const Puzzle& puzzle, const History& history, bool solved) = 0;
 

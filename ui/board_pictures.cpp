@@ -242,6 +242,11 @@ BoardContainer::BoardContainer(Handlers& handlers, QWidget* parent)
     // Of the board's touches, too: two fingers may be on both.
     setAttribute(Qt::WA_AcceptTouchEvents);
     connect(board_, &BoardView::FocusChanged, overlay_, qOverload<>(&QWidget::update));
+    connect(&handlers_, &Handlers::Changed, this, [this] {
+        // Less lies over the board while a job runs.
+        const bool busy = handlers_.game()->job.BusyFlag();
+        if (std::exchange(busy_, busy) != busy) overlay_->update();
+    });
 }
 
 QSize BoardContainer::sizeHint() const {

@@ -100,6 +100,7 @@ class BoardContainer final : public QWidget {
     BoardView* board_;
     BoardOverlay* overlay_;
     BoardTouch* touch_;
+    bool busy_ = false;  ///< a job ran when the game was last looked at
 };
 
 /// The seam to both, and to the timer that takes the marker away.

@@ -2,12 +2,12 @@
 #include "ui/qt_play_store.h"
 
 #include <QCryptographicHash>
-#include <QDateTime>
 #include <QFile>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
+#include <QtEndian>
 #include <algorithm>
 #include <functional>
 #include <limits>
@@ -40,10 +40,8 @@ struct Refusal {
     int code;
 };
 
-/// The file is not one of this version. Later ones are another program's business.
-struct OtherVersion {
-    bool later;
-};
+/// The file is not one of this version.
+struct OtherVersion {};
 
 /// The query's answer to `text`, with its values.
 QSqlQuery Ask(const QSqlDatabase& database, const QString& text, const QVariantList& values = {}) {
@@ -65,7 +63,7 @@ bool HasTable(const QSqlDatabase& database) {
     const int version = answer.value(0).toInt();
     const bool empty = answer.value(1).toInt() == 0;
     if (version == 0 && empty) return false;
-    if (version != kVersion) throw OtherVersion{version > kVersion};
+    if (version != kVersion) throw OtherVersion();
     return true;
 }
 
@@ -75,6 +73,18 @@ QByteArray KeyOf(const Puzzle& puzzle) {
     for (CellNumber id = 1; id <= puzzle.CellCount(); ++id)
         text += static_cast<char>('0' + puzzle.IslandAt(id));
     return QCryptographicHash::hash(text, QCryptographicHash::Sha256);
+}
+
+/// A history is a tenth to a third as long packed, and a little longer at worst.
+constexpr qint64 kLongestPacked = static_cast<qint64>(kLongestHistoryText) + 1024;
+
+/// The history of packed moves, which in the file can be anything; then there is none.
+History Unpacked(const QByteArray& packed) {
+    // The first four bytes tell how much there will be.
+    constexpr qsizetype kHeader = 4;
+    if (packed.size() < kHeader || qFromBigEndian<quint32>(packed.constData()) > kLongestHistoryText) return {};
+    const QByteArray text = qUncompress(packed);
+    return ParseHistory({text.constData(), static_cast<std::size_t>(text.size())}).value_or(History());
 }
 
 /// A sum of seconds, which in the file can be anything.
@@ -97,7 +107,7 @@ class PlayFile {
     enum class Outcome { Done, Busy, Failed };
 
     /// What the player is to know of the file.
-    enum class Trouble { None, Damaged, Later, NotWritten, Held };
+    enum class Trouble { None, PutAside, NotWritten, NotRead, NotReplaced };
 
     explicit PlayFile(const QString& folder) : path_(folder + "/play.db") {}
     ~PlayFile() {
@@ -111,16 +121,23 @@ class PlayFile {
     Outcome Find(const QByteArray& key, std::optional<KeptPlay>& found) {
         if (!QFile::exists(path_)) return Outcome::Done;
         const Outcome outcome = Use(kPatience, [&] { found = Read(key); });
-        if (outcome == Outcome::Busy) trouble_ = Trouble::Held;
+        if (outcome != Outcome::Done) trouble_ = Trouble::NotRead;
         return outcome;
     }
 
-    /// Makes all changes, or none.
-    Outcome Write(const Changes& changes, int patience) {
+    /// Reads what the file holds about all puzzles in short.
+    PlayStates States() {
+        PlayStates found;
+        if (QFile::exists(path_)) Use(kPatience, [&] { found = ReadStates(); });
+        return found;
+    }
+
+    /// Makes all changes, or none. What was unseen and is nothing is unseen no more.
+    Outcome Write(Changes& changes, int patience) {
         const auto work = [&] {
             Ask(database_, "BEGIN IMMEDIATE");
             MakeTable();
-            for (const auto& [key, change] : changes)
+            for (auto& [key, change] : changes)
                 Write(key, change);
             Ask(database_, "COMMIT");
         };
@@ -133,20 +150,21 @@ class PlayFile {
     Trouble TakeTrouble() { return std::exchange(trouble_, Trouble::None); }
 
  private:
-    /// Opens the file for a piece of work on it. A damaged file is put aside, and the work is done on a new one.
+    /// Opens the file for a piece of work on it. A file that is damaged or of another version is put
+    /// aside, and the work is done on a new one.
     Outcome Use(int patience, const std::function<void()>& work) {
         if (!FindDriver()) return Outcome::Failed;
         database_.setConnectOptions("QSQLITE_BUSY_TIMEOUT=" + QString::number(patience));
         std::optional<Outcome> outcome = Try(work);
         if (!outcome) {
             usable_ = MakeRoom();
-            trouble_ = usable_ ? Trouble::Damaged : Trouble::NotWritten;
+            trouble_ = usable_ ? Trouble::PutAside : Trouble::NotWritten;
             if (usable_) outcome = Try(work);
         }
         return outcome.value_or(Outcome::Failed);
     }
 
-    /// Nothing when the file is damaged.
+    /// Nothing when the file is damaged or of another version.
     std::optional<Outcome> Try(const std::function<void()>& work) {
         if (!database_.open()) return Outcome::Failed;
         std::optional<Outcome> outcome = Outcome::Done;
@@ -156,14 +174,8 @@ class PlayFile {
             outcome = Outcome::Failed;
             if (refusal.code == Refusal::kBusy) outcome = Outcome::Busy;
             if (refusal.code == Refusal::kCorrupt || refusal.code == Refusal::kNoDatabase) outcome.reset();
-        } catch (const OtherVersion& other) {
+        } catch (const OtherVersion&) {
             outcome.reset();
-            // Whoever made it will come back to it.
-            if (other.later) {
-                usable_ = false;
-                trouble_ = Trouble::Later;
-                outcome = Outcome::Failed;
-            }
         }
         // What was begun and not finished is taken back.
         database_.close();
@@ -191,8 +203,8 @@ class PlayFile {
     void MakeTable() {
         if (HasTable(database_)) return;
         Ask(database_,
-            "CREATE TABLE play (key BLOB NOT NULL PRIMARY KEY, moves BLOB, seconds INTEGER NOT NULL, "
-            "solved INTEGER NOT NULL, changed INTEGER NOT NULL)");
+            "CREATE TABLE play (key BLOB NOT NULL PRIMARY KEY, moves BLOB, begun INTEGER NOT NULL, "
+            "seconds INTEGER NOT NULL, solved INTEGER NOT NULL)");
         Ask(database_, "PRAGMA user_version = " + QString::number(kVersion));
     }
 
@@ -202,36 +214,51 @@ class PlayFile {
         QSqlQuery row = Ask(database_,
                             "SELECT CASE WHEN typeof(moves) = 'blob' AND length(moves) <= ? THEN moves END, seconds, "
                             "solved FROM play WHERE key = ?",
-                            {static_cast<qint64>(kLongestHistoryText), key});
+                            {kLongestPacked, key});
         if (!row.next()) {
             if (row.lastError().isValid()) throw Refusal(row.lastError());
             return std::nullopt;
         }
-        const QByteArray moves = row.value(0).toByteArray();
         KeptPlay play;
-        play.history = ParseHistory({moves.data(), static_cast<std::size_t>(moves.size())}).value_or(History());
+        play.history = Unpacked(row.value(0).toByteArray());
         play.seconds = Seconds(row.value(1).toLongLong());
         play.solved = row.value(2).toInt() != 0;
         return play;
     }
 
-    static constexpr const char* kReplaceMoves = "coalesce(excluded.moves, moves)";
-    static constexpr const char* kKeepMoves = "coalesce(moves, excluded.moves)";
+    PlayStates ReadStates() {
+        PlayStates states;
+        if (!HasTable(database_)) return states;
+        QSqlQuery row = Ask(database_, "SELECT key, seconds, solved, begun FROM play");
+        while (row.next()) {
+            const PlayState unsolved = row.value(3).toInt() != 0 ? PlayState::Begun : PlayState::Untouched;
+            const PlayState state = row.value(2).toInt() != 0 ? PlayState::Solved : unsolved;
+            states.byKey_.insert(row.value(0).toByteArray(), {state, Seconds(row.value(1).toLongLong())});
+        }
+        if (row.lastError().isValid()) throw Refusal(row.lastError());
+        return states;
+    }
 
-    void Write(const QByteArray& key, const Change& change) {
+    bool HasMoves(const QByteArray& key) {
+        return Ask(database_, "SELECT 1 FROM play WHERE key = ? AND begun != 0", {key}).next();
+    }
+
+    void Write(const QByteArray& key, Change& change) {
         if (change.forgets) Ask(database_, "DELETE FROM play WHERE key = ?", {key});
-        const std::string text = change.history ? HistoryText(*change.history) : "";
         if (!change.history && change.seconds == 0) return;
+        change.unseen = change.unseen && HasMoves(key);
+        if (change.unseen && change.history) trouble_ = Trouble::NotReplaced;
+        const std::string text = change.history && !change.unseen ? HistoryText(*change.history) : "";
         // Without moves, or with more than can be read again, those that are there stay.
         const bool keeps = !text.empty() && text.size() <= kLongestHistoryText;
+        const bool begun = keeps && change.history->Count() > 0;
         Ask(database_,
-            "INSERT INTO play (key, moves, seconds, solved, changed) VALUES (?, ?, ?, ?, ?) ON CONFLICT (key) DO "
-            "UPDATE SET moves = " +
-                QString(change.unseen ? kKeepMoves : kReplaceMoves) +
-                ", seconds = seconds + excluded.seconds, solved = max(solved, excluded.solved), "
-                "changed = excluded.changed",
-            {key, keeps ? QByteArray::fromStdString(text) : QVariant(), change.seconds, change.solved ? 1 : 0,
-             QDateTime::currentSecsSinceEpoch()});
+            "INSERT INTO play (key, moves, begun, seconds, solved) VALUES (?, ?, ?, ?, ?) ON CONFLICT (key) DO UPDATE "
+            "SET begun = CASE WHEN excluded.moves IS NULL THEN begun ELSE excluded.begun END, "
+            "moves = coalesce(excluded.moves, moves), seconds = seconds + excluded.seconds, "
+            "solved = max(solved, excluded.solved)",
+            {key, keeps ? qCompress(QByteArray::fromStdString(text)) : QVariant(), begun ? 1 : 0, change.seconds,
+             change.solved ? 1 : 0});
     }
 
     QString path_;
@@ -241,6 +268,10 @@ class PlayFile {
     bool failed_ = false;  ///< at the last write
     Trouble trouble_ = Trouble::None;
 };
+
+PlayedSoFar PlayStates::Of(const Puzzle& puzzle) const {
+    return byKey_.isEmpty() ? PlayedSoFar() : byKey_.value(KeyOf(puzzle));
+}
 
 QtPlayStore::QtPlayStore() {
     write_.setSingleShot(true);
@@ -279,12 +310,16 @@ std::optional<KeptPlay> QtPlayStore::Find(const Puzzle& puzzle) {
 std::optional<KeptPlay> QtPlayStore::FindInFile(const QByteArray& key) {
     std::optional<KeptPlay> play;
     if (!file_) return play;
-    if (file_->Find(key, play) == PlayFile::Outcome::Busy) {
-        unseen_.insert(key);
-    } else {
+    if (file_->Find(key, play) == PlayFile::Outcome::Done) {
         unseen_.erase(key);
+    } else {
+        unseen_.insert(key);
     }
     return play;
+}
+
+void QtPlayStore::LeaveUnseen(const Puzzle& puzzle) {
+    unseen_.insert(KeyOf(puzzle));
 }
 
 void QtPlayStore::Keep(const Puzzle& puzzle, const History& history, bool solved) {
@@ -308,17 +343,22 @@ void QtPlayStore::Flush() {
     Write(kPatience);
 }
 
+PlayStates QtPlayStore::States() {
+    Flush();
+    return file_ ? file_->States() : PlayStates();
+}
+
 std::string QtPlayStore::TakeTrouble() {
     using Trouble = PlayFile::Trouble;
     switch (file_ ? file_->TakeTrouble() : Trouble::None) {
-        case Trouble::Damaged:
-            return "\"play.db\" was damaged and has another name now: what you play is kept in a new one";
-        case Trouble::Later:
-            return "\"play.db\" is of a later version: what you play is not kept";
+        case Trouble::PutAside:
+            return "\"play.db\" was damaged or of another version, and has another name now: play is kept in a new one";
         case Trouble::NotWritten:
             return "\"play.db\" cannot be written: what you play is not kept";
-        case Trouble::Held:
-            return "\"play.db\" is in use: what you played before stays as it is, out of sight";
+        case Trouble::NotRead:
+            return "\"play.db\" cannot be read now: what you played before is out of sight";
+        case Trouble::NotReplaced:
+            return "What you play now is not kept, as there is play from before: open the puzzle again to see it";
         case Trouble::None:
             break;
     }
@@ -335,7 +375,11 @@ void QtPlayStore::Write(int patience) {
     write_.stop();
     if (!file_ || waiting_.empty()) return;
     const PlayFile::Outcome outcome = file_->Write(waiting_, patience);
-    if (outcome == PlayFile::Outcome::Done) waiting_.clear();
+    if (outcome == PlayFile::Outcome::Done) {
+        for (const auto& [key, change] : std::exchange(waiting_, {})) {
+            if (!change.unseen) unseen_.erase(key);
+        }
+    }
     // A disk that is full or a folder that cannot be written stays so: then the next move is time enough.
     if (outcome == PlayFile::Outcome::Busy) write_.start();
 }

@@ -13,6 +13,7 @@
 #include "board/place_bridge.h"
 #include "board/show_board.h"
 #include "game/job.h"
+#include "model/load_puzzle.h"
 #include "program/escape.h"
 #include "support/test_game.h"
 
@@ -154,6 +155,19 @@ TEST(Mouse, ALeftDragMovesTheBoardAndNoOtherDoes) {
     EXPECT_EQ(game.board.layout.Picture1, before);
 }
 
+TEST(Mouse, ADragThatMovesTheBoardIsNoClickOnTheBridgeWhereItBegins) {
+    Play game;
+    game << "1-4";
+    const Point bridge = game.board.At(2);
+    for (const auto& [distance, bridges] : {std::pair{2000.0, 1}, {1.0, 2}}) {
+        game.Run(Picture1_MouseDown, MouseButton::Left, bridge, bridge);
+        game.Run(Picture1_MouseMove, true, bridge, Point{bridge.x + distance, bridge.y});
+        game.Run(Picture1_MouseUp, MouseButton::Left, false, bridge);
+        game.Run(Picture1_Click);
+        EXPECT_EQ(game.board.BridgeState(1, 4), bridges);
+    }
+}
+
 TEST(Mouse, ADragBetweenIslandsLaysAndNeverMovesTheBoard) {
     Play game;
     const Frame before = game.board.layout.Picture1;
@@ -228,8 +242,8 @@ TEST(History, AgreesWithAListOfMomentsThroughThousandsOfMoves) {
     std::size_t longest = 0;
     std::set<std::size_t> checkpoints;
     for (int step = 0; step < 4000; ++step) {
-        const int what = draw(10);
-        if (what < 5) {
+        const int what = draw(12);
+        if (what < 7) {
             const int from = islands[draw(6)];
             const int to = islands[draw(6)];
             if (from == to) continue;
@@ -240,20 +254,21 @@ TEST(History, AgreesWithAListOfMomentsThroughThousandsOfMoves) {
             moments.resize(++at);
             moments.push_back(now());
             std::erase_if(checkpoints, [&](std::size_t moment) { return moment >= at; });
-        } else if (what < 7) {
+        } else if (what < 9) {
             game << "u";
             at -= at > 0 ? 1 : 0;
-        } else if (what == 7) {
+        } else if (what == 9) {
             game << "r";
             at += at + 1 < moments.size() ? 1 : 0;
-        } else if (what == 8) {
+        } else if (what == 10) {
             game << "c";
             checkpoints.insert(at);
         } else {
             game << "b";
-            checkpoints.erase(at);
-            const auto next = checkpoints.lower_bound(at);
-            if (next != checkpoints.begin()) at = *std::prev(next);
+            const auto here = checkpoints.lower_bound(at);
+            if (here == checkpoints.begin()) continue;
+            const std::size_t outer = *std::prev(here);
+            checkpoints.erase(std::exchange(at, outer));
         }
         longest = std::max(longest, moments.size());
         ASSERT_EQ(now(), moments[at]) << "step " << step;
@@ -455,6 +470,24 @@ TEST(Kept, PlayComesBackWithItsPuzzleAndSaysSo) {
     game.Load(1);
     EXPECT_EQ(game.State(), "1-4*1 ; 1, 4, 0") << "from the move on that cannot be";
     EXPECT_EQ(game.board.history.Checkpoints(), std::vector<int>{1});
+}
+
+TEST(Kept, AResetThatFailsForgetsNothing) {
+    Play game;
+    game << "1-4";
+    game.world.Expect("Reset?", "vbYesNo", kYes);
+    game.world.Expect("puzzle 1 not found", "vbinformation+vbok");
+    std::filesystem::rename(game.PathOfCollection(), game.folder.Path("away"));
+    game.Run(mnupuzreset_Click);
+    std::filesystem::rename(game.folder.Path("away"), game.PathOfCollection());
+    game.Run(CloseFiles);
+    EXPECT_EQ(game.world.plays.size(), 1U);
+    game.board.history = {};
+    game.options.KeepPlay = false;
+    game.world.leftUnseen = 0;
+    game.Load(1);
+    EXPECT_EQ(game.State(), "");
+    EXPECT_EQ(game.world.leftUnseen, 1) << "and is not to be replaced when the player wants to keep play again";
 }
 
 TEST(Kept, WhatGoesWrongIsSaidOnce) {

@@ -125,6 +125,8 @@ class World final : public Prompts,
     void AddTime(const Puzzle& puzzle, int seconds) override { plays[PlainGrid(puzzle)].seconds += seconds; }
     void Forget(const Puzzle& puzzle) override { plays.erase(PlainGrid(puzzle)); }
     void Flush() override { ++flushes; }
+    void LeaveUnseen(const Puzzle&) override { ++leftUnseen; }
+    int leftUnseen = 0;
     std::string TakeTrouble() override { return std::exchange(trouble, ""); }
     std::string trouble;
     std::map<std::vector<std::string>, KeptPlay> plays;  ///< by the rows of the puzzle, as `PlainGrid` has them

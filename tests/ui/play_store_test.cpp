@@ -151,10 +151,17 @@ TEST(PlayStore, WaitsForAnotherWindowThatWrites) {
     {
         Store store;
         EXPECT_EQ(store.Found(), "nothing");
-        EXPECT_EQ(store->TakeTrouble(), "\"play.db\" is in use: what you played before stays as it is, out of sight");
+        EXPECT_EQ(store->Find(kOther), std::nullopt);
+        EXPECT_EQ(store->TakeTrouble(), "\"play.db\" cannot be read now: what you played before is out of sight");
         EXPECT_TRUE(QSqlQuery(holder).exec("COMMIT"));
         store.KeepNow(kMoves);
         EXPECT_EQ(Store().Found(), "1 moves, 0 s") << "what could not be read is not replaced";
+        EXPECT_EQ(store->TakeTrouble().substr(0, 29), "What you play now is not kept");
+        for (const History& history : {kMove, kMoves}) {
+            store->Keep(kOther, history, false);
+            store->Flush();
+            EXPECT_EQ(Store()->Find(kOther)->history, history) << "where there was nothing, play goes on";
+        }
         EXPECT_EQ(store.Found(), "1 moves, 0 s");
         store.KeepNow(kMoves);
         EXPECT_EQ(Store().Found(), "3 moves, 0 s");
@@ -171,8 +178,10 @@ TEST(PlayStore, PutsADamagedFileAside) {
     std::fill(torn.begin() + 4096, torn.end(), 'x');
     std::string foreign = good;
     std::fill(foreign.begin() + 60, foreign.begin() + 64, '\0');
+    std::string later = good;
+    later[63] = 99;
     int aside = 0;
-    for (const std::string& bytes : {std::string("This is no database."), std::string(5000, 'x'), torn, foreign}) {
+    for (const std::string& bytes : {std::string("This is no database."), std::string(5000, 'x'), torn, foreign, later}) {
         folder.Write("play.db", bytes);
         folder.Write("play.db-journal", "of another time");
         Store store;
@@ -185,19 +194,8 @@ TEST(PlayStore, PutsADamagedFileAside) {
     }
 }
 
-TEST(PlayStore, LeavesALaterVersionAloneAndGoesOnWithoutAFile) {
+TEST(PlayStore, GoesOnWithoutAFile) {
     const TempFolder folder;
-    Store().KeepNow();
-    Sql("PRAGMA user_version = 2");
-    const std::string later = folder.Read("play.db");
-    Store store;
-    EXPECT_EQ(store.Found(), "nothing");
-    EXPECT_EQ(store->TakeTrouble(), "\"play.db\" is of a later version: what you play is not kept");
-    store.KeepNow(kMove);
-    EXPECT_EQ(store->TakeTrouble(), "") << "said once";
-    EXPECT_EQ(store.Found(), "1 moves, 0 s") << "as long as the program runs";
-    EXPECT_EQ(folder.Read("play.db"), later);
-    EXPECT_EQ(folder.Entries(), 1);
     Store nowhere(folder.Path("nowhere"));
     nowhere.KeepNow();
     EXPECT_EQ(nowhere.Found(), "3 moves, 0 s");
@@ -225,10 +223,46 @@ TEST(PlayStore, WritesWhatADiskThatWasFullDidNotTake) {
     EXPECT_EQ(folder.Entries(), 1);
 }
 
+TEST(PlayStore, NeverReplacesWhatItHasNotSeen) {
+    const TempFolder folder;
+    Store().KeepNow();
+    std::filesystem::rename("play.db", "away");
+    std::filesystem::create_directory("play.db");
+    Store store;
+    EXPECT_EQ(store.Found(), "nothing");
+    std::filesystem::remove("play.db");
+    std::filesystem::rename("away", "play.db");
+    store->AddTime(kOne, 3);
+    store.KeepNow(kMove);
+    EXPECT_EQ(Store().Found(), "3 moves, 3 s");
+    Store other;
+    other->LeaveUnseen(kOne);
+    other.KeepNow(kMove, true);
+    EXPECT_EQ(Store().Found(), "3 moves, 3 s, solved");
+    other->Forget(kOne);
+    other.KeepNow(kMove);
+    EXPECT_EQ(Store().Found(), "1 moves, 0 s");
+}
+
+TEST(PlayStore, TellsHowFarAllPuzzlesArePlayed) {
+    const TempFolder folder;
+    Store store;
+    store.KeepNow();
+    store->AddTime(kOther, 7);
+    const PlayStates states = store->States();
+    EXPECT_EQ(states.Of(kOne).state, PlayState::Begun);
+    EXPECT_EQ(states.Of(kOther).state, PlayState::Untouched);
+    EXPECT_EQ(states.Of(kOther).seconds, 7);
+    store->Keep(kOne, History(), true);
+    EXPECT_EQ(store->States().Of(kOne).state, PlayState::Solved);
+}
+
 TEST(PlayStore, TakesARowForNoMoreThanItIsGoodFor) {
     const TempFolder folder;
     Store().KeepNow();
     Sql("UPDATE play SET moves = zeroblob(20000000), seconds = 9000000000");
+    EXPECT_EQ(Store().Found(), "0 moves, 2147483647 s");
+    Sql("UPDATE play SET moves = x'7fffffff789c'");
     EXPECT_EQ(Store().Found(), "0 moves, 2147483647 s");
     Sql("UPDATE play SET moves = 'text', seconds = 'x', solved = 1");
     EXPECT_EQ(Store().Found(), "0 moves, 0 s, solved");
