@@ -76,6 +76,9 @@ class Questions {
     /// Asks for puzzles to print, beginning with `request`. True when OK was accepted.
     virtual bool AskPrint(PrintRequest& request) = 0;
 
+    /// Asks for a puzzle of the open collection. Its number; 0 when the player thinks better of it.
+    virtual int ChoosePuzzle() = 0;
+
     /// Shows solutions until the player has seen enough.
     virtual void ShowSolutions(const FoundSolutions& found) = 0;
 };

@@ -51,6 +51,12 @@ void PuzNumNow_KeyPress(Game& game, int key) {
     LoadOrGoBack(game, number, game.collection.PuzzleNumber);
 }
 
+void mnuchoose_Click(Game& game) {
+    if (RefuseWhileBusy(game) || game.collection.PuzzleNumber == 0) return;
+    const int number = game.questions.ChoosePuzzle();
+    if (number > 0 && !game.job.Ending()) LoadOrGoBack(game, number, game.collection.PuzzleNumber);
+}
+
 bool OpenCollection(Game& game, const std::string& path, int number) {
     if (!IsOlderLayout(path)) return LoadPuzzle(game, path, number);
     const std::string to = ConvertedPath(path);

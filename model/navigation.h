@@ -17,6 +17,9 @@ void arrows_Click(Game& game, int index, MouseButton button);
 /// Enter in the number box loads the puzzle of that number; numbers out of range do nothing.
 void PuzNumNow_KeyPress(Game& game, int key);
 
+/// Asks which puzzle of the collection to open, by their pictures.
+void mnuchoose_Click(Game& game);
+
 /// Opens the collection at `path` at puzzle `number`. One of the older layout is named, and converted if the player
 /// wants that; the converted copy is then opened. True when a puzzle was loaded.
 bool OpenCollection(Game& game, const std::string& path, int number);

@@ -43,7 +43,7 @@ Program::Program()
                      handler(*this, click);
                  });
              }),
-      questions_(handlers_, form1_),
+      questions_(handlers_, form1_, plays_),
       help_(&form1_),
       prompts_(handlers_),
       filePicker_(handlers_),

@@ -2,6 +2,7 @@
 // The windows that a command waits for.
 #pragma once
 
+#include "ui/chooser.h"
 #include "ui/form3.h"
 #include "ui/form5.h"
 #include "ui/solutions_window.h"
@@ -11,12 +12,16 @@ namespace tidewalk {
 /// Asks in `Form3`, which keeps what was typed, and in a new window of the others each time.
 class QtQuestions final : public Questions {
  public:
-    QtQuestions(Handlers& handlers, QWidget& mainWindow)
-        : handlers_(handlers), mainWindow_(mainWindow), form3_(handlers, &mainWindow) {}
+    QtQuestions(Handlers& handlers, QWidget& mainWindow, QtPlayStore& plays)
+        : handlers_(handlers), mainWindow_(mainWindow), plays_(plays), form3_(handlers, &mainWindow) {}
 
     bool AskBatch(BatchRequest& request) override { return form3_.Ask(request); }
     bool AskPrint(PrintRequest& request) override {
         return Form5(handlers_, request, &mainWindow_).exec() == QDialog::Accepted;
+    }
+    int ChoosePuzzle() override {
+        Chooser chooser(*handlers_.game(), plays_.States(), &mainWindow_);
+        return chooser.exec() == QDialog::Accepted ? chooser.Chosen() : 0;
     }
     void ShowSolutions(const FoundSolutions& found) override {
         SolutionsWindow(found, handlers_.game()->options, &mainWindow_).exec();
@@ -25,6 +30,7 @@ class QtQuestions final : public Questions {
  private:
     Handlers& handlers_;
     QWidget& mainWindow_;
+    QtPlayStore& plays_;
     Form3 form3_;
 };
 

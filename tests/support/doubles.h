@@ -71,6 +71,8 @@ class World final : public Prompts,
     std::string Pick(const FileRequest& request) override;
     bool AskBatch(BatchRequest& request) override { return Note("batch?"), std::exchange(batch, nullptr)(request); }
     void ShowSolutions(const FoundSolutions& found) override { Note("solutions"), solutions = found; }
+    int ChoosePuzzle() override { return Note("puzzle?"), chosen; }
+    int chosen = 0;
     bool AskPrint(PrintRequest& request) override { return Note("print?"), std::exchange(print, nullptr)(request); }
 
     std::string Text(WindowText which) const override { return texts.count(which) == 0 ? "" : texts.at(which); }

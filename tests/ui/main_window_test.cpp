@@ -78,7 +78,7 @@ TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
         "|mnuoptset=Form2|mnuoptsave=status Options saved|mnueditor=Form6|cmdzoom0=cells 567|cmdzoom1=cells 693|"
         "cmdzoom2=cells 700|mnufit=cells 700|mnuactual=view 1|mnufullscreen=frame gone|mnuhelp=help open|mnuabout=About|mnuexit=Exit?|mnuloadpuz=file: Tidewalk|"
         "mnuappend=file: Add Puzzle to File|mnudelete=Delete current puzzle from file:\r\n|arrows0=puzzle 2|"
-        "arrows2=puzzle 4|arrows0right=puzzle 1|arrows2right=puzzle 5|arrows1=puzzle 2|"
+        "arrows2=puzzle 4|arrows0right=puzzle 1|arrows2right=puzzle 5|arrows1=puzzle 2|mnuchoose=Chooser|cmdchoose=Chooser|"
         "mnunewpuzx=works: Creating 7x7 puzzle ...|mnucreatemany=Form3|mnustopbatch=|mnupuzreset=Reset?|"
         "mnuexport=file: Export Puzzle|mnuimport=file: Select a grid file|mnupastepuzzle=status Error importing puzzle|"
         "Command3=This collection is not of the older layout:\r\n|Command4=works:|Command5=system: "
