@@ -76,7 +76,7 @@ tidewalk_layer(commands ON game FILES
     generator/batch generator/new_puzzle generator/shuffle
     model/collection_commands model/configuration model/import_grid model/load_puzzle model/navigation
     model/number_grid
-    options/colour_scheme options/options_form options/window_colours
+    options/colour_scheme options/options_form options/scheme_file options/window_colours
     solver/auto_solve solver/show_solutions
     techniques/assess_board techniques/explain_board techniques/give_hint techniques/show_guide)
 

@@ -81,8 +81,8 @@ Colour BoardDrawing::DrawIslandShape(CellNumber id) {
     return pale;
 }
 
-/// A number in nearly the colour of its island would be invisible, and the default options make both black. On the pale
-/// inside of a finished island hardly any of the players' colours can be read.
+/// A number in nearly the colour of its island would be invisible, and nothing keeps a player from choosing the same
+/// for both. On the pale inside of a finished island hardly any of the players' colours can be read.
 Colour BoardDrawing::NumberColour(Colour under) const {
     constexpr double kTold = 1.2;  // below that even the large digits cannot be told from their island
     if (under != options_.NodeColour) return LegibleOn(under, options_.NodeColour, kShapeContrast);

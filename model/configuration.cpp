@@ -33,11 +33,9 @@ std::string PathOf(const Game& game) {
 }
 
 Configuration Defaults() {
-    constexpr Colour kDarkRed = Rgb(128, 0, 0);
-    constexpr Colour kLightGrey = Rgb(192, 192, 192);
     return {"xp.col",
-            {1, 0, 250, 12, static_cast<int>(kDefaultNodeColour), static_cast<int>(kWhite), static_cast<int>(kDarkRed),
-             static_cast<int>(kLightGrey), 1, 0},
+            {1, 0, 250, 12, static_cast<int>(kDefaultNodeColour), static_cast<int>(kFirstGivenColour),
+             static_cast<int>(kFirstChainColour), static_cast<int>(kFirstGridColour), 1, 0},
             "puzzles.txt"};
 }
 

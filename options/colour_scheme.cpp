@@ -55,14 +55,18 @@ bool ReadScheme(const std::string& path, const std::string& name, Colour& backCo
 }
 
 /// What "default.col" does before the windows are painted: the desktop's colours, and the board's own.
-void TakeDesktopColours(Game& game) {
-    game.options.SchemeColours[kBackgroundEntry] = game.window.Desktop(DesktopColour::WindowFace);
-    game.options.SchemeColours[kOutlineEntry] = game.window.Desktop(DesktopColour::ListBackground);
-    game.options.SchemeColours[kFaceEntry] = kWhite;
-    game.options.ChainColour = BoardDefaultsOn(game.options.SchemeColours[kBackgroundEntry]).chain;
+void TakeDesktopColours(Options& options, const MainWindow& desktop) {
+    options.SchemeColours[kBackgroundEntry] = desktop.Desktop(DesktopColour::WindowFace);
+    options.SchemeColours[kOutlineEntry] = desktop.Desktop(DesktopColour::ListBackground);
+    options.SchemeColours[kFaceEntry] = kWhite;
+    options.ChainColour = BoardDefaultsOn(options.SchemeColours[kBackgroundEntry]).chain;
 }
 
 }  // namespace
+
+bool IsColourLine(std::string_view line) {
+    return ReadColour(line).has_value();
+}
 
 bool IsDefaultScheme(std::string_view name) {
     return LowerCase(name) == kDefaultName;
@@ -87,12 +91,11 @@ void LoadColourScheme(Game& game, const std::string& Name, Colour& BackColour) {
     ReadColourScheme(game, Name, BackColour, game.options);
 }
 
-void ApplyColourScheme(Game& game) {
-    Options& options = game.options;
+void WearColourScheme(Options& options, const MainWindow& desktop) {
     const bool isDefault = IsDefaultScheme(options.ColourSchemeName);
     auto& colours = options.SchemeColours;
     options.AdjustIndex = static_cast<int>(kFaceEntry);
-    if (isDefault) TakeDesktopColours(game);
+    if (isDefault) TakeDesktopColours(options, desktop);
     if (colours[kAdjustedEntry] == 0) colours[kAdjustedEntry] = colours[kFaceEntry];
     if (colours[kAdjustedEntry] > 0) colours[kFaceEntry] = colours[kAdjustedEntry];
     if (isDefault) {
@@ -102,6 +105,10 @@ void ApplyColourScheme(Game& game) {
         // Numbers that were chosen for dark islands are lost on light ones.
         if (defaults.node != kDefaultNodeColour) options.GivenColour = LegibleOn(defaults.node, options.GivenColour);
     }
+}
+
+void ApplyColourScheme(Game& game) {
+    WearColourScheme(game.options, game.window);
     game.window.ApplyColours();
 }
 

@@ -9,6 +9,12 @@
 
 namespace tidewalk {
 
+/// What the line with a scheme's name ends in.
+inline constexpr std::string_view kSchemeEnding = ".col";
+
+/// True for a line "red;green;blue", an entry of a scheme.
+bool IsColourLine(std::string_view line);
+
 /// True for "default.col" in any letter case, the scheme that follows the desktop and is in no file.
 bool IsDefaultScheme(std::string_view name);
 
@@ -23,6 +29,10 @@ void ReadColourScheme(Game& game, const std::string& Name, Colour& BackColour, O
 
 /// Gives the loaded scheme to the main window, the board's picture and the message box. The board is not redrawn.
 void ApplyColourScheme(Game& game);
+
+/// What applying does to the options themselves: "default.col" takes the desktop's colours, the player's own version of
+/// the face takes the place of the scheme's.
+void WearColourScheme(Options& options, const MainWindow& desktop);
 
 /// The colours of islands and bridges that go with "default.col" on a board of this background.
 struct BoardDefaults {

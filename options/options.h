@@ -18,6 +18,11 @@ inline constexpr Colour kDefaultGivenColour = kWhite;
 inline constexpr Colour kDefaultChainColour = Rgb(200, 9, 9);
 inline constexpr Colour kDefaultGridColour = Rgb(200, 200, 10);
 
+// The board's colours at a first start, and again after "Reset". The islands are the same as above.
+inline constexpr Colour kFirstGivenColour = kWhite;
+inline constexpr Colour kFirstChainColour = Rgb(128, 0, 0);
+inline constexpr Colour kFirstGridColour = Rgb(192, 192, 192);
+
 // What the entries of a scheme are for; 11 and 12 are spare.
 inline constexpr std::size_t kFaceTextEntry = 0;        ///< text on buttons, frames and labels
 inline constexpr std::size_t kBoxTextEntry = 1;         ///< text in text boxes and lists

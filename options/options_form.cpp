@@ -5,6 +5,8 @@
 
 #include "board/show_board.h"
 #include "drawing/contrast.h"
+#include "game/file_work.h"
+#include "model/file_error.h"
 #include "model/numbers.h"
 #include "options/colour_scheme.h"
 
@@ -12,25 +14,44 @@ namespace tidewalk {
 
 namespace {
 
-constexpr std::string_view kEnding = ".col";
-
 std::string WithoutEnding(const std::string& name) {
-    return name.substr(0, LowerCase(name).find(kEnding));
+    return name.substr(0, LowerCase(name).find(kSchemeEnding));
 }
 
-bool TakePicked(Colour& swatch, std::optional<Colour> picked) {
-    if (picked) swatch = *picked;
+/// What the file is to hold of the scheme that the window shows. The board's colours are its suggestions; the spare
+/// entries look like what lies beside them, as they do in the schemes that come with the program.
+SchemeEntries EntriesOf(const OptionsForm& form) {
+    SchemeEntries entries{};
+    std::copy_n(form.draft.SchemeColours.begin(), entries.size(), entries.begin());
+    entries[kGridEntry] = form.Line2;
+    entries[kChainEntry] = form.Line1;
+    entries[kGivenEntry] = form.Label1;
+    entries[kNodeEntry] = form.Label2;
+    entries[11] = entries[kFaceEntry];
+    entries[12] = entries[kBackgroundEntry];
+    return entries;
+}
+
+/// A scheme of the player's own follows what is changed while it is chosen.
+void NoteEdit(OptionsForm& form) {
+    if (!IsOwnScheme(form)) return;
+    form.draft.ColourSchemeName = form.Combo1 + std::string(kSchemeEnding);
+    form.edits[form.Combo1] = EntriesOf(form);
+}
+
+bool TakePicked(OptionsForm& form, Colour OptionsForm::*swatch, std::optional<Colour> picked) {
+    if (picked) SetBoardColour(form, swatch, *picked);
     return picked.has_value();
 }
 
-/// A scheme made elsewhere may keep anything in these entries.
-bool SuggestsLegibleBoard(const Options& options) {
+/// The options with the board's colours as the scheme suggests them.
+Options WithSuggestedBoard(Options options) {
     const auto& colours = options.SchemeColours;
-    const Colour background = colours[kBackgroundEntry];
-    return Contrast(colours[kGridEntry], background) >= kShapeContrast &&
-           Contrast(colours[kChainEntry], background) >= kShapeContrast &&
-           Contrast(colours[kNodeEntry], background) >= kShapeContrast &&
-           Contrast(colours[kGivenEntry], colours[kNodeEntry]) >= kTextContrast;
+    options.GridColour = colours[kGridEntry];
+    options.ChainColour = colours[kChainEntry];
+    options.GivenColour = colours[kGivenEntry];
+    options.NodeColour = colours[kNodeEntry];
+    return options;
 }
 
 void ShowSuggestedBoard(OptionsForm& form) {
@@ -40,7 +61,8 @@ void ShowSuggestedBoard(OptionsForm& form) {
         form.Line1 = defaults.chain;
         form.Line2 = form.Label2 = defaults.node;
         form.Label1 = LegibleOn(defaults.node, kDefaultGivenColour);
-    } else if (SuggestsLegibleBoard(form.draft)) {
+    } else if (HardToSee(WithSuggestedBoard(form.draft)).empty()) {
+        // A scheme made elsewhere may keep anything in these entries.
         form.Line1 = colours[kChainEntry];
         form.Line2 = colours[kGridEntry];
         form.Label1 = colours[kGivenEntry];
@@ -52,11 +74,35 @@ void ShowSuggestedBoard(OptionsForm& form) {
 /// scheme; "default.col" has no colour of its own to keep.
 void TakeScheme(Game& game, OptionsForm& form, const std::string& name) {
     form.draft.ColourSchemeName = name;
-    Colour backColour = 0;
-    ReadColourScheme(game, name, backColour, form.draft);
+    const auto edit = form.edits.find(WithoutEnding(name));
+    if (edit != form.edits.end() && edit->second) {
+        std::copy(edit->second->begin(), edit->second->end(), form.draft.SchemeColours.begin());
+    } else {
+        Colour backColour = 0;
+        ReadColourScheme(game, name, backColour, form.draft);
+    }
     const bool isDefault = IsDefaultScheme(form.draft.ColourSchemeName);
     form.draft.SchemeColours[kAdjustedEntry] = isDefault ? 0 : form.AdjustedColour();
     form.Combo1 = WithoutEnding(form.draft.ColourSchemeName);
+}
+
+/// Brings the schemes that were edited into the file and the list of names; false when the file cannot be written.
+bool SaveSchemes(Game& game, const SchemeEdits& edits) {
+    if (edits.empty()) return true;
+    try {
+        WriteSchemes(game.ColourListPath, edits, WaitingFor(game, game.ColourListPath));
+    } catch (const FileError& error) {
+        game.prompts.SystemBox(std::string("The colour schemes could not be saved.\r\n") + error.what(),
+                               SystemButtons::Ok);
+        return false;
+    }
+    std::vector<std::string>& names = game.options.schemeNames;
+    for (const auto& [name, entries] : edits) {
+        const auto at = std::find(names.begin(), names.end(), name);
+        if (entries && at == names.end()) names.push_back(name);
+        if (!entries && at != names.end()) names.erase(at);
+    }
+    return true;
 }
 
 }  // namespace
@@ -81,33 +127,92 @@ OptionsForm OpenOptions(const Game& game) {
 }
 
 WindowColours FormColours(const Game& game, const OptionsForm& form) {
-    return ColoursOfWindows(form.draft, game.window);
+    return ColoursOfWindows(AppliedOptions(game, form), game.window);
+}
+
+std::string HardToSee(const Options& options) {
+    constexpr double kFaintContrast = 1.5;  // thin lines lie behind everything else, and may be faint
+    const Colour background = options.BoardBackground();
+    std::string all;
+    const auto look = [&](const char* what, Colour front, Colour behind, double needed) {
+        if (Contrast(front, behind) < needed) all += (all.empty() ? "" : ", ") + std::string(what);
+    };
+    look("thin lines", options.GridColour, background, kFaintContrast);
+    look("bridges", options.ChainColour, background, kShapeContrast);
+    look("islands", options.NodeColour, background, kShapeContrast);
+    look("numbers", options.GivenColour, options.NodeColour, kTextContrast);
+    return all.empty() ? all : "Hard to see: " + all;
 }
 
 void Combo1_Click(Game& game, OptionsForm& form, const std::string& name) {
-    TakeScheme(game, form, name + std::string(kEnding));
+    TakeScheme(game, form, name + std::string(kSchemeEnding));
     ShowSuggestedBoard(form);
 }
 
 void cmdadjust4_Click(OptionsForm& form, int index) {
     AdjustBrightness(form.draft, index);
+    NoteEdit(form);
 }
 
 bool cmdgridcol_Click(OptionsForm& form, std::optional<Colour> picked) {
-    return TakePicked(form.Line2, picked);
+    return TakePicked(form, &OptionsForm::Line2, picked);
 }
 bool cmdchaincol_Click(OptionsForm& form, std::optional<Colour> picked) {
-    return TakePicked(form.Line1, picked);
+    return TakePicked(form, &OptionsForm::Line1, picked);
 }
 bool cmdgivenfg_Click(OptionsForm& form, std::optional<Colour> picked) {
-    return TakePicked(form.Label1, picked);
+    return TakePicked(form, &OptionsForm::Label1, picked);
 }
 bool cmdnodecol_Click(OptionsForm& form, std::optional<Colour> picked) {
-    return TakePicked(form.Label2, picked);
+    return TakePicked(form, &OptionsForm::Label2, picked);
 }
 
-void command1_Click(Game& game, const OptionsForm& form) {
-    Options& options = game.options;
+bool IsOwnScheme(const OptionsForm& form) {
+    return !IsShippedScheme(form.Combo1) && LowerCase(form.Combo1).find("default") == std::string::npos;
+}
+
+std::string AddScheme(const Game& game, OptionsForm& form, const std::string& name) {
+    std::string refusal = WhyNoSchemeName(name, form.schemes);
+    if (!refusal.empty()) return refusal;
+    const Options shown = AppliedOptions(game, form);
+    const WindowColours windows = ColoursOfWindows(shown, game.window);
+    form.Combo1 = name;
+    form.schemes.push_back(name);
+    form.draft.SchemeColours = shown.SchemeColours;
+    auto& colours = form.draft.SchemeColours;
+    // What follows the desktop is in no entry, and text whose entry cannot be read is seen in another colour.
+    colours[kFaceTextEntry] = windows.faceText;
+    colours[kBoxTextEntry] = windows.boxText;
+    colours[kFaceEntry] = colours[kAdjustedEntry] = windows.face;
+    colours[kHighlightEntry] = windows.highlight;
+    colours[kHighlightTextEntry] = windows.highlightText;
+    form.Line1 = shown.ChainColour;
+    form.Line2 = shown.GridColour;
+    form.Label1 = shown.GivenColour;
+    form.Label2 = shown.NodeColour;
+    NoteEdit(form);
+    return "";
+}
+
+void DeleteScheme(Game& game, OptionsForm& form) {
+    form.edits[form.Combo1] = std::nullopt;
+    form.schemes.erase(std::remove(form.schemes.begin(), form.schemes.end(), form.Combo1), form.schemes.end());
+    Combo1_Click(game, form, "xp");
+}
+
+void SetSchemePart(OptionsForm& form, std::size_t entry, Colour colour) {
+    form.draft.SchemeColours[entry] = colour;
+    if (entry == kFaceEntry) form.draft.SchemeColours[kAdjustedEntry] = colour;
+    NoteEdit(form);
+}
+
+void SetBoardColour(OptionsForm& form, Colour OptionsForm::*swatch, Colour colour) {
+    form.*swatch = colour;
+    NoteEdit(form);
+}
+
+Options AppliedOptions(const Game& game, const OptionsForm& form) {
+    Options options = game.options;
     options.ColourSchemeName = form.draft.ColourSchemeName;
     options.SchemeColours = form.draft.SchemeColours;
     options.ChainColour = form.Line1;
@@ -116,14 +221,22 @@ void command1_Click(Game& game, const OptionsForm& form) {
     options.NodeColour = form.Label2;
     options.NodeShape = form.Option2 ? 1 : 0;
     options.ShowLines = form.Check1 ? 1 : 0;
-    for (const auto& [name, value] : kKeptOptions) {
+    for (const auto& [name, value] : kKeptOptions)
         options.*value = form.draft.*value;
-        game.choices.Set(name, options.*value ? "1" : "0");
-    }
     const int width = RoundedVal(form.Text3);
     if (width >= 1) options.PrintLineWidth = std::min(width, kWidestPrintLine);
+    WearColourScheme(options, game.window);
+    return options;
+}
+
+bool command1_Click(Game& game, const OptionsForm& form) {
+    if (!SaveSchemes(game, form.edits)) return false;
+    game.options = AppliedOptions(game, form);
+    for (const auto& [name, value] : kKeptOptions)
+        game.choices.Set(name, game.options.*value ? "1" : "0");
     ApplyColourScheme(game);
     if (!game.job.BusyFlag()) RedrawBoard(game, false);
+    return true;
 }
 
 void mnulines_Click(Game& game) {
@@ -139,15 +252,19 @@ void ReadChoices(Game& game) {
         game.options.*value = RoundedVal(game.choices.Get(name, Options().*value ? "1" : "0")) == 1;
 }
 
-void reset_Click(Game& game, OptionsForm& form) {
+bool reset_Click(Game& game, OptionsForm& form) {
     TakeScheme(game, form, "xp.col");
     form.Text3 = "4";
-    form.Line1 = form.Line2 = form.Label1 = form.Label2 = kBlack;
+    // One colour for all four, as it was once, made bridges and thin lines alike.
+    form.Line1 = kFirstChainColour;
+    form.Line2 = kFirstGridColour;
+    form.Label1 = kFirstGivenColour;
+    form.Label2 = kDefaultNodeColour;
     form.Option2 = false;
     form.Check1 = true;
     for (const auto& [name, value] : kKeptOptions)
         form.draft.*value = Options().*value;
-    command1_Click(game, form);
+    return command1_Click(game, form);
 }
 
 }  // namespace tidewalk

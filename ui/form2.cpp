@@ -5,14 +5,20 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QInputDialog>
 #include <QIntValidator>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QToolTip>
 
 #include "options/colour_scheme.h"
+#include "ui/colour_preview.h"
 #include "ui/colours.h"
 #include "ui/tool_tip.h"
 
@@ -23,6 +29,34 @@ namespace {
 constexpr int kDarker = 1;
 constexpr int kLighter = 2;
 constexpr Colour kNearlyWhite = Rgb(254, 254, 254);  ///< a button's white, where white itself stands for no colour
+
+/// A part of a scheme that is no colour of the board.
+struct SchemePart {
+    const char* name;  ///< of its swatch
+    const char* text;
+    std::size_t entry;
+    Colour WindowColours::*seen;    ///< the colour as the windows wear it
+    Colour WindowColours::*behind;  ///< what lies behind it there
+    Swatch::Shape shape;
+    bool startsColumn;
+};
+
+constexpr SchemePart kParts[] = {
+    {"PartFace", QT_TRANSLATE_NOOP("Form2", "Windows and buttons"), kFaceEntry, &WindowColours::face,
+     &WindowColours::face, Swatch::Shape::Fill, true},
+    {"PartFaceText", QT_TRANSLATE_NOOP("Form2", "Text on them"), kFaceTextEntry, &WindowColours::faceText,
+     &WindowColours::face, Swatch::Shape::Text, false},
+    {"PartBackground", QT_TRANSLATE_NOOP("Form2", "Board and boxes"), kBackgroundEntry, &WindowColours::box,
+     &WindowColours::box, Swatch::Shape::Fill, true},
+    {"PartBoxText", QT_TRANSLATE_NOOP("Form2", "Text in boxes"), kBoxTextEntry, &WindowColours::boxText,
+     &WindowColours::box, Swatch::Shape::Text, false},
+    {"PartOutline", QT_TRANSLATE_NOOP("Form2", "Cell outlines"), kOutlineEntry, &WindowColours::outline,
+     &WindowColours::box, Swatch::Shape::Outline, false},
+    {"PartHighlight", QT_TRANSLATE_NOOP("Form2", "Selection"), kHighlightEntry, &WindowColours::highlight,
+     &WindowColours::highlight, Swatch::Shape::Fill, true},
+    {"PartHighlightText", QT_TRANSLATE_NOOP("Form2", "Selected text"), kHighlightTextEntry,
+     &WindowColours::highlightText, &WindowColours::highlight, Swatch::Shape::Text, false},
+};
 
 }  // namespace
 
@@ -38,24 +72,71 @@ Form2::Form2(Handlers& handlers, QWidget* parent)
       text3_(new QLineEdit),
       option1_(new QRadioButton("S&quare")),
       option2_(new QRadioButton("&Circle")),
-      check1_(new QCheckBox("Sho&w")) {
+      check1_(new QCheckBox("Sho&w")),
+      partsNote_(new QLabel),
+      preview_(new ColourPreview),
+      previewNote_(new QLabel) {
     setObjectName("Form2");
     setWindowTitle("Tide Options");
-    auto* const small = new QHBoxLayout;
+    auto* const all = new QGridLayout(this);
+    all->addWidget(settings_ = Settings(), 0, 0);
+    all->addLayout(PreviewColumn(), 0, 1);
+    all->addLayout(ButtonRow(), 1, 0, 1, 2);
+    all->setColumnStretch(0, 1);
+    connect(&handlers_, &Handlers::Ending, this, &QDialog::reject);
+    connect(colPik1_, &ColPik::Picked, this, &Form2::ChangeInPicker);
+    for (QAbstractButton* const button : settings_->findChildren<QAbstractButton*>()) {
+        if (qobject_cast<QCheckBox*>(button) == nullptr) continue;
+        connect(button, &QAbstractButton::clicked, this, [this] {
+            TakeControls();
+            ShowForm();
+        });
+    }
+}
+
+QBoxLayout* Form2::FoldingRow() {
+    folding_.push_back(new QHBoxLayout);
+    return folding_.back();
+}
+
+/// Everything that is set, scrolled where the screen is too small for it.
+QScrollArea* Form2::Settings() {
+    auto* const page = new QWidget;
+    auto* const all = new QVBoxLayout(page);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addWidget(SchemeBox());
+    all->addWidget(ColoursBox());
+    all->addWidget(PartsBox());
+    auto* const small = FoldingRow();
     small->addWidget(NodeShapeBox());
     small->addWidget(LinesBox());
     small->addWidget(PrintBox());
-    auto* const all = new QVBoxLayout(this);
-    all->addWidget(SchemeBox());
-    all->addWidget(ColoursBox());
     all->addLayout(small);
-    auto* const play = new QHBoxLayout;
+    auto* const play = FoldingRow();
     play->addWidget(MistakesBox());
     play->addWidget(PlayBox());
     all->addLayout(play);
     all->addStretch();
-    all->addLayout(ButtonRow());
-    connect(&handlers_, &Handlers::Ending, this, &QDialog::reject);
+    auto* const area = new QScrollArea;
+    area->setWidget(page);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    return area;
+}
+
+/// It stays in sight wherever the settings are scrolled to.
+QLayout* Form2::PreviewColumn() {
+    auto* const column = new QVBoxLayout;
+    column->addWidget(preview_);
+    previewNote_->setObjectName("PreviewNote");
+    previewNote_->setWordWrap(true);
+    previewNote_->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    // The preview alone says how wide the column is.
+    previewNote_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    column->addWidget(previewNote_);
+    column->addStretch();
+    return column;
 }
 
 QPushButton* Form2::AddButton(const char* name, const QString& text, const QString& toolTip) {
@@ -68,11 +149,14 @@ QPushButton* Form2::AddButton(const char* name, const QString& text, const QStri
 
 QWidget* Form2::SchemeBox() {
     auto* const box = new QGroupBox(tr("Colo&ur scheme"));
-    auto* const row = new QHBoxLayout(box);
+    auto* const row = FoldingRow();
+    box->setLayout(row);
     combo1_->setObjectName("Combo1");
     GiveToolTip(*combo1_, tr("Colour scheme|The colours of the windows"));
     combo1_->setAccessibleName(tr("Colour scheme"));
     row->addWidget(combo1_, 1);
+    auto* const brightness = new QHBoxLayout;
+    row->addLayout(brightness);
     for (const int index : {kDarker, kLighter}) {
         const bool lighter = index == kLighter;
         auto* const button =
@@ -80,45 +164,108 @@ QWidget* Form2::SchemeBox() {
                       lighter ? tr("Make buttons and frames lighter") : tr("Make buttons and frames darker"));
         button->setAutoRepeat(true);
         connect(button, &QPushButton::clicked, this, [this, index] { AdjustBrightness(index); });
-        row->addWidget(button);
+        brightness->addWidget(button);
     }
+    auto* const make = AddButton("cmdnewscheme", tr("N&ew ..."),
+                                 tr("New colour scheme|Make one of your own that looks like the chosen one"));
+    deleteScheme_ =
+        AddButton("cmddeletescheme", tr("Dele&te"), tr("Delete colour scheme|Only schemes of your own can be deleted"));
+    auto* const own = new QHBoxLayout;
+    own->addWidget(make);
+    own->addWidget(deleteScheme_);
+    row->addLayout(own);
+    connect(make, &QPushButton::clicked, this, &Form2::MakeScheme);
+    connect(deleteScheme_, &QPushButton::clicked, this, &Form2::RemoveScheme);
     connect(combo1_, &QComboBox::textActivated, this, &Form2::ChooseScheme);
     return box;
 }
 
 QWidget* Form2::ColoursBox() {
     auto* const box = new QGroupBox(tr("Board colours"));
-    auto* const layout = new QGridLayout(box);
+    auto* const both = FoldingRow();
+    box->setLayout(both);
+    auto* const layout = new QGridLayout;
     AddColourRow(layout, AddButton("cmdgridcol", tr("&Grid"), "Set grid colour|Select colour first"), line2_,
-                 cmdgridcol_Click);
+                 &OptionsForm::Line2, cmdgridcol_Click);
     AddColourRow(layout, AddButton("cmdchaincol", tr("C&hain"), "Set chain colour|Select colour first"), line1_,
-                 cmdchaincol_Click);
+                 &OptionsForm::Line1, cmdchaincol_Click);
     AddColourRow(layout,
                  AddButton("cmdgivenfg", tr("Gi&ven numbers"), "Set colour of given numbers|Select colour first"),
-                 label1_, cmdgivenfg_Click);
+                 label1_, &OptionsForm::Label1, cmdgivenfg_Click);
     AddColourRow(layout, AddButton("cmdnodecol", tr("&Nodes"), "Set node colour|Select colour first"), label2_,
-                 cmdnodecol_Click);
+                 &OptionsForm::Label2, cmdnodecol_Click);
     colPik1_->setObjectName("ColPik1");
-    layout->setColumnMinimumWidth(2, 16);
-    layout->addWidget(colPik1_, 0, 3, 4, 1);
-    layout->setColumnStretch(3, 1);
+    both->addLayout(layout);
+    both->addSpacing(16);
+    both->addWidget(colPik1_, 1);
     return box;
 }
 
-void Form2::AddColourRow(QGridLayout* layout, QPushButton* button, Swatch* swatch, ColourButton routine) {
+void Form2::AddColourRow(QGridLayout* layout, QPushButton* button, Swatch* swatch, Colour OptionsForm::*colour,
+                         ColourButton routine) {
     const int row = layout->rowCount() - (layout->count() == 0 ? 1 : 0);
-    swatch->setToolTip(tr("Take this colour into the picker"));
-    swatch->setAccessibleName(button->text().remove('&'));
     layout->addWidget(button, row, 0);
     layout->addWidget(swatch, row, 1);
-    connect(swatch, &Swatch::clicked, this, [this, swatch] { colPik1_->Select(swatch->Value()); });
+    AddSample(swatch, button->text().remove('&'), [this, colour](Colour to) { SetBoardColour(form_, colour, to); });
     connect(button, &QPushButton::clicked, this, [this, button, routine] {
         TakeControls();
+        GiveToPicker(nullptr);
         if (!routine(form_, colPik1_->Selected())) {
             QToolTip::showText(button->mapToGlobal(button->rect().bottomLeft()), button->toolTip(), button);
         }
         ShowForm();
     });
+}
+
+void Form2::AddSample(Swatch* swatch, const QString& name, std::function<void(Colour)> change) {
+    GiveToolTip(*swatch, tr("Change this colour with the picker"));
+    swatch->setAccessibleName(name);
+    samples_.push_back({swatch, std::move(change)});
+    connect(swatch, &Swatch::clicked, this, [this, swatch] { GiveToPicker(swatch); });
+}
+
+/// From now on the picker changes this swatch, and has the keyboard for it; none with nullptr.
+void Form2::GiveToPicker(const Swatch* swatch) {
+    for (const Sample& sample : samples_)
+        sample.swatch->setChecked(sample.swatch == swatch);
+    if (swatch == nullptr) return;
+    colPik1_->Select(swatch->Value());
+    colPik1_->setFocus();
+}
+
+void Form2::ChangeInPicker(Colour colour) {
+    for (const Sample& sample : samples_) {
+        if (!sample.swatch->isChecked()) continue;
+        TakeControls();
+        sample.change(colour);
+        return ShowForm();
+    }
+}
+
+/// The parts of the scheme beside the board's colours.
+QWidget* Form2::PartsBox() {
+    auto* const box = new QGroupBox(tr("Window colours"));
+    auto* const all = new QVBoxLayout(box);
+    auto* const columns = FoldingRow();
+    all->addLayout(columns);
+    QGridLayout* column = nullptr;
+    for (const SchemePart& part : kParts) {
+        if (column == nullptr || part.startsColumn) columns->addLayout(column = new QGridLayout, 1);
+        auto* const swatch = new Swatch(part.shape, part.name);
+        auto* const label = new QLabel(tr(part.text));
+        const int row = column->count() / 2;
+        column->addWidget(swatch, row, 0);
+        column->addWidget(label, row, 1);
+        column->setColumnStretch(1, 1);
+        AddSample(swatch, label->text(), [this, entry = part.entry](Colour to) { SetSchemePart(form_, entry, to); });
+        parts_.push_back(swatch);
+    }
+    for (QGridLayout* const grid : box->findChildren<QGridLayout*>())
+        grid->setRowStretch(grid->rowCount(), 1);
+    partsNote_->setObjectName("PartsNote");
+    partsNote_->setWordWrap(true);
+    all->addWidget(partsNote_);
+    return box;
 }
 
 QWidget* Form2::NodeShapeBox() {
@@ -161,7 +308,7 @@ QWidget* Form2::MistakesBox() {
     auto* const layout = new QVBoxLayout(box);
     AddKept(layout, "Check2", &Options::ShowFinished, tr("&Finished islands paler"),
             tr("Show islands with all their bridges paler"));
-    AddKept(layout, "ShowOverfull", &Options::ShowOverfull, tr("Too &many bridges"),
+    AddKept(layout, "ShowOverfull", &Options::ShowOverfull, tr("Too many &bridges"),
             tr("Put a box around an island with more bridges than its number"));
     AddKept(layout, "ShowCrossings", &Options::ShowCrossings, tr("Cro&ssings"),
             tr("Put a diamond where bridges cross or run over an island"));
@@ -198,7 +345,7 @@ QWidget* Form2::PrintBox() {
 
 QLayout* Form2::ButtonRow() {
     auto* const row = new QHBoxLayout;
-    auto* const reset = AddButton("reset", tr("Rese&t"), "Apply default options and exit");
+    auto* const reset = AddButton("reset", tr("&Reset"), "Apply default options and exit");
     auto* const apply = AddButton("command1", tr("&Apply"), tr("Apply the options and close"));
     auto* const close = AddButton("command2", tr("Cl&ose"), tr("Close and leave the options as they were"));
     apply->setDefault(true);
@@ -209,14 +356,18 @@ QLayout* Form2::ButtonRow() {
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     connect(apply, &QPushButton::clicked, this, [this] {
         TakeControls();
-        handlers_.Run([this](Game& game) { command1_Click(game, form_); });
-        accept();
+        Leave([](Game& game, OptionsForm& form) { return command1_Click(game, form); });
     });
-    connect(reset, &QPushButton::clicked, this, [this] {
-        handlers_.Run([this](Game& game) { reset_Click(game, form_); });
-        accept();
-    });
+    connect(reset, &QPushButton::clicked, this, [this] { Leave(reset_Click); });
     return row;
+}
+
+/// Closes the window when `routine` has done what it should.
+void Form2::Leave(bool (*routine)(Game&, OptionsForm&)) {
+    bool done = true;
+    handlers_.Run([&](Game& game) { done = routine(game, form_); });
+    if (done) return accept();
+    ShowForm();
 }
 
 void Form2::AdjustBrightness(int index) {
@@ -233,6 +384,39 @@ void Form2::AdjustBrightness(int index) {
 void Form2::ChooseScheme(const QString& name) {
     TakeControls();
     handlers_.Run([&](Game& game) { Combo1_Click(game, form_, name.toStdString()); });
+    GiveToPicker(nullptr);
+    ShowForm();
+}
+
+/// Asks for a name until there is one that will do, or the player thinks better of it.
+void Form2::MakeScheme() {
+    TakeControls();
+    QInputDialog dialog(this);
+    dialog.setObjectName("SchemeName");
+    dialog.setWindowTitle(tr("New Colour Scheme"));
+    dialog.setLabelText(tr("A scheme of your own, which looks like the chosen one at first.\n\nName:"));
+    connect(&handlers_, &Handlers::Ending, &dialog, &QDialog::reject);
+    while (dialog.exec() == QDialog::Accepted) {
+        std::string refusal;
+        handlers_.Run([&](Game& game) {
+            refusal = AddScheme(game, form_, dialog.textValue().trimmed().toStdString());
+            if (!refusal.empty()) game.prompts.Show(refusal, "vbinformation+vbok");
+        });
+        if (refusal.empty()) break;
+    }
+    GiveToPicker(nullptr);
+    ShowSchemes();
+    ShowForm();
+}
+
+void Form2::RemoveScheme() {
+    TakeControls();
+    handlers_.Run([&](Game& game) {
+        const std::string question = "Delete the colour scheme \"" + form_.Combo1 + "\"?";
+        if (game.prompts.Show(question, "vbYesNo+vbtrash") == kYes) DeleteScheme(game, form_);
+    });
+    GiveToPicker(nullptr);
+    ShowSchemes();
     ShowForm();
 }
 
@@ -255,24 +439,75 @@ void Form2::ShowForm() {
     check1_->setChecked(form_.Check1);
     for (const auto& [box, value] : kept_)
         box->setChecked(form_.draft.*value);
-    const Colour background = form_.draft.BoardBackground();
+    if (const Game* const game = handlers_.game()) ShowColours(*game);
+}
+
+void Form2::ShowSchemes() {
+    combo1_->clear();
+    for (const std::string& name : form_.schemes)
+        combo1_->addItem(QString::fromStdString(name));
+}
+
+/// The window wears the scheme that is chosen, before the others do, and shows the board as it would be.
+void Form2::ShowColours(const Game& game) {
+    const Options applied = AppliedOptions(game, form_);
+    const WindowColours windows = ColoursOfWindows(applied, game.window);
+    const Colour background = applied.BoardBackground();
     line1_->Show(form_.Line1, background, form_.Label2, form_.Option2);
     line2_->Show(form_.Line2, background, form_.Label2, form_.Option2);
     label1_->Show(form_.Label1, background, form_.Label2, form_.Option2);
     label2_->Show(form_.Label2, background, form_.Label2, form_.Option2);
-    // The window wears the scheme that is chosen, before the others do.
-    if (const Game* const game = handlers_.game()) ColourFrame(*this, FormColours(*game, form_));
+    const bool own = IsOwnScheme(form_);
+    for (std::size_t i = 0; i < parts_.size(); ++i) {
+        const SchemePart& part = kParts[i];
+        parts_[i]->Show(own ? form_.draft.SchemeColours[part.entry] : windows.*part.seen, windows.*part.behind, 0,
+                        false);
+        parts_[i]->setEnabled(own);
+    }
+    partsNote_->setText(own ? tr("Click on a colour to change it with the picker.")
+                            : tr("This scheme stays as it is. \"New ...\" makes one of your own from it."));
+    deleteScheme_->setEnabled(own);
+    preview_->Show(applied);
+    previewNote_->setText(IsDefaultScheme(form_.draft.ColourSchemeName)
+                              ? tr("\"default\" chooses thin lines, bridges and islands that go with your desktop.")
+                              : QString::fromStdString(HardToSee(applied)));
+    ColourFrame(*this, windows);
+}
+
+/// As large as everything in it, where the screen is large enough. Where it is too narrow the preview becomes small,
+/// and if that is not enough rows become columns.
+void Form2::FitToScreen() {
+    constexpr QSize kFrame(20, 40);  // what a window's frame and the desktop's bars may take, in pixels
+    constexpr std::pair<int, QBoxLayout::Direction> kWays[] = {
+        {230, QBoxLayout::LeftToRight}, {160, QBoxLayout::LeftToRight}, {160, QBoxLayout::TopToBottom}};
+    const QSize most = screen()->availableSize() - kFrame;
+    const int bar = settings_->verticalScrollBar()->sizeHint().width();
+    QSize wanted;
+    for (const auto& [side, direction] : kWays) {
+        preview_->setFixedSize(side, side);
+        for (QBoxLayout* const row : folding_)
+            row->setDirection(direction);
+        // Before a window is shown for the first time nobody else tells its layouts that something has changed.
+        for (QLayout* const stale : {settings_->widget()->layout(), layout()}) {
+            stale->invalidate();
+            stale->activate();
+        }
+        wanted = layout()->sizeHint() - settings_->sizeHint() + settings_->widget()->sizeHint();
+        if (wanted.height() > most.height()) wanted.rwidth() += bar;
+        if (wanted.width() <= most.width()) break;
+    }
+    resize(wanted.boundedTo(most));
 }
 
 void Form2::Open() {
     const Game* const game = handlers_.game();
     if (game == nullptr || isVisible()) return;
     form_ = OpenOptions(*game);
-    combo1_->clear();
-    for (const std::string& name : form_.schemes)
-        combo1_->addItem(QString::fromStdString(name));
+    ShowSchemes();
+    GiveToPicker(nullptr);
     colPik1_->Clear();
     ShowForm();
+    FitToScreen();
     exec();
 }
 

@@ -3,20 +3,16 @@
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <algorithm>
 #include <utility>
 
-#include "board/drawing.h"
 #include "drawing/contrast.h"
-#include "model/numbers.h"
 #include "ui/qt_surface.h"
+#include "ui/whole_board.h"
 
 namespace tidewalk {
 
 namespace {
 
-constexpr double kScreenPixelsPerInch = 96;
-constexpr double kMargin = 0.15;    ///< around the cells, in cells
 constexpr int kSmallestSide = 200;  ///< in pixels
 constexpr int kUsualCell = 26;      ///< in pixels
 constexpr double kPen = 2;          ///< in pixels
@@ -24,20 +20,11 @@ constexpr double kChosenPen = 4;    ///< in pixels
 constexpr double kOutline = 3;      ///< what is seen of the background beside a ring, in pixels
 constexpr int kTint = 70;           ///< of 255, inside the chosen ring
 
-/// Large cells with the same margin on all sides; the picture is fitted to the widget in the end.
-BoardLayout LayoutOf(BoardSize size) {
-    BoardLayout layout = LayoutBoard(size, kLargestCell, {});
-    const double cell = layout.CellSize;
-    layout.OriginX = layout.OriginY = RoundHalfEven(kMargin * cell) + layout.HalfCell;
-    layout.Picture1 = {0, 0, (size.cols + 2 * kMargin) * cell, (size.rows + 2 * kMargin) * cell};
-    return layout;
-}
-
 /// A board that holds the bridges of the puzzle's links as if they had been laid.
 Board BoardWith(const Puzzle& solution) {
     Board board;
     board.puzzle = WithoutLinks(solution);
-    board.layout = LayoutOf(solution.Size());
+    board.layout = WholeBoardLayout(solution.Size());
     for (const Link& link : solution.LinkList)
         board.BridgeState.Set(link.first, link.second, link.Bridges());
     return board;
@@ -64,30 +51,16 @@ void SolutionView::Choose(int difference) {
 }
 
 void SolutionView::paintEvent(QPaintEvent*) {
-    const QSizeF whole(Pixels(board_.layout.Picture1.width), Pixels(board_.layout.Picture1.height));
-    const double scale = std::min(width() / whole.width(), height() / whole.height());
-    const QPixmap drawn = Drawn(scale);
+    const double scale = ScaleInto(board_, size());
+    const QPixmap drawn = DrawWholeBoard(board_, options_, scale, devicePixelRatioF());
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QSizeF size = drawn.deviceIndependentSize();
-    painter.translate(qRound((width() - size.width()) / 2), qRound((height() - size.height()) / 2));
+    const QSizeF taken = drawn.deviceIndependentSize();
+    painter.translate(qRound((width() - taken.width()) / 2), qRound((height() - taken.height()) / 2));
     painter.drawPixmap(0, 0, drawn);
     painter.scale(scale, scale);
     for (std::size_t i = 0; i < differences_.size(); ++i)
         Mark(painter, differences_[i], static_cast<int>(i) == chosen_);
-}
-
-/// The board at this scale, in the screen's own pixels.
-QPixmap SolutionView::Drawn(double scale) const {
-    const QSizeF whole(Pixels(board_.layout.Picture1.width), Pixels(board_.layout.Picture1.height));
-    const double ratio = devicePixelRatioF();
-    QPixmap drawn((whole * scale * ratio).toSize().expandedTo({1, 1}));
-    drawn.setDevicePixelRatio(ratio);
-    QtSurface surface(kScreenPixelsPerInch * scale, kTwipsPerPixel);
-    surface.SetTarget(&drawn);
-    BoardDrawing(surface, board_, options_).RedrawBoard(false);
-    surface.SetTarget(nullptr);
-    return drawn;
 }
 
 void SolutionView::Mark(QPainter& painter, const Difference& difference, bool chosen) const {

@@ -28,7 +28,6 @@ class SolutionView final : public QWidget {
     void paintEvent(QPaintEvent* event) override;
 
  private:
-    QPixmap Drawn(double scale) const;
     void Mark(QPainter& painter, const Difference& difference, bool chosen) const;
 
     Board board_;

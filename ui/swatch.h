@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The samples of the board's colours in the options window.
+// The samples of colours in the options window.
 #pragma once
 
 #include <QAbstractButton>
@@ -8,19 +8,20 @@
 
 namespace tidewalk {
 
-/// A piece of the board that shows one of its colours. It can be clicked.
+/// A piece of the board or of a window that shows one of its colours. It can be clicked, and wears a ring while the
+/// picker changes it, which is while it is checked.
 class Swatch final : public QAbstractButton {
     Q_OBJECT
 
  public:
-    enum class Shape { ThinLine, Bridge, Island, Number };
+    enum class Shape { ThinLine, Bridge, Island, Number, Fill, Text, Outline };
 
     Swatch(Shape shape, const QString& name, QWidget* parent = nullptr);
 
     /// The colour that the swatch stands for.
     Colour Value() const { return value_; }
 
-    /// Shows `value` on a board of the colour `background`; `node` is the islands' colour.
+    /// Shows `value` on something of the colour `background`; `node` is the islands' colour.
     void Show(Colour value, Colour background, Colour node, bool circle);
 
     QSize sizeHint() const override;
@@ -29,7 +30,9 @@ class Swatch final : public QAbstractButton {
     void paintEvent(QPaintEvent* event) override;
 
  private:
+    void PaintSample(QPainter& painter) const;
     void PaintIsland(QPainter& painter, Colour colour) const;
+    void PaintFrame(QPainter& painter) const;
 
     Shape shape_;
     Colour value_ = 0;

@@ -4,6 +4,8 @@
 #include <random>
 
 #include "drawing/contrast.h"
+#include "model/file_error.h"
+#include "options/scheme_file.h"
 #include "options/window_colours.h"
 #include "support/test_game.h"
 
@@ -153,6 +155,40 @@ TEST(WindowColours, AreLegibleOnAnySchemeThatAFileMayHold) {
     }
 }
 
+TEST(SchemeFile, IsChangedInThoseSchemesAloneAndOtherwiseKeepsEveryByte) {
+    SchemeEntries entries;
+    entries.fill(Rgb(0, 80, 255));
+    const auto written = [&](std::string name) {
+        name += ".col\r\n";
+        for (std::size_t i = 0; i < kReadEntries; ++i)
+            name += "0;80;255\r\n";
+        return name;
+    };
+    const std::string foreign = std::string("\xEF\xBB\xBF# \xFF\0 1;2;3\n\n", 14);
+    const std::string cut = "a.col\n1;2;3\n4;5;6\n";
+    const SchemeGame game(foreign + cut + "a note\r\n" + Scheme("b.col", 100) + "7;7;7\nc.col\n9;9;9");
+    const std::string& path = game.ColourListPath;
+    const SchemeEdits edits{{"a", entries}, {"b", std::nullopt}, {"gone", std::nullopt}, {"new", entries}};
+    const std::string before = game.folder.Read("all.col");
+    auto holder = SystemFile::Open(path, SystemFile::Mode::Change);
+    ASSERT_TRUE(holder && holder->TryLock());
+    EXPECT_THROW(WriteSchemes(path, edits, [] { return false; }), FileError);
+    EXPECT_EQ(game.folder.Read("all.col"), before);
+    holder.reset();
+    WriteSchemes(path, edits, WaitOn);
+    EXPECT_EQ(game.folder.Read("all.col"),
+              foreign + written("a") + "a note\r\n7;7;7\nc.col\n9;9;9\r\n" + written("new"));
+}
+
+TEST(SchemeFile, RefusesNamesThatItOrTheConfigurationCouldNotHold) {
+    const std::vector<std::string> taken{"xp", "Mine"};
+    for (const char* const name : {"", " ", " a", "a\t", "a\nb", "a\rb", "a,b", "1;2;3", "a.col", "b.COLOUR", "DEFAULT",
+                                   "my default", "mine", "XP", "01234567890123456789012345678901234567890"})
+        EXPECT_NE(WhyNoSchemeName(name, taken), "") << name;
+    for (const char* const name : {"a", "mine 2", "Müller's #1", "äöüäöüäöüäöüäöüäöüäöüäöüäöüäöüäöüäöüäöüä"})
+        EXPECT_EQ(WhyNoSchemeName(name, taken), "") << name;
+}
+
 TEST(ShippedSchemes, AreCompleteAndLegible) {
     TestGame game;
     const Lines lines = LinesOf(game.folder.Read(game.ColourListPath = TIDEWALK_DATA_DIR "/all.col"));
@@ -162,6 +198,7 @@ TEST(ShippedSchemes, AreCompleteAndLegible) {
     for (std::size_t at = 0; at < lines.size(); at += 14) {
         SCOPED_TRACE(lines[at]);
         EXPECT_TRUE(lines[at].ends_with(".col"));
+        EXPECT_TRUE(IsShippedScheme(lines[at].substr(0, lines[at].size() - 4)));
         for (std::size_t i = 1; i < 14; ++i)
             EXPECT_EQ(std::count(lines[at + i].begin(), lines[at + i].end(), ';'), 2);
         Options options;

@@ -95,9 +95,9 @@ TEST_F(OptionsWindow, ApplyChangesTheBoardAtOnceAndResetGoesBackToTheDefaults) {
     game.Run(reset_Click, form);
     EXPECT_EQ(options.ColourSchemeName, "xp.col");
     EXPECT_EQ(form.Combo1, "xp");
-    EXPECT_EQ(options.SchemeColours[kFaceEntry], Rgb(236, 233, 216));
-    EXPECT_EQ(options.SchemeColours[kAdjustedEntry], Rgb(236, 233, 216));
-    EXPECT_EQ(Board(), (Colours{kBlack, kBlack, kBlack, kBlack}));
+    EXPECT_EQ(options.SchemeColours[kFaceEntry], Rgb(242, 243, 245));
+    EXPECT_EQ(options.SchemeColours[kAdjustedEntry], Rgb(242, 243, 245));
+    EXPECT_EQ(Board(), (Colours{Rgb(128, 0, 0), Rgb(192, 192, 192), kWhite, Rgb(20, 20, 20)}));
     EXPECT_EQ(Checked(), "001");
     EXPECT_EQ(options.PrintLineWidth, 4);
 }
@@ -140,10 +140,73 @@ TEST_F(OptionsWindow, BoardColoursAreSuggestedIfTheyCanBeRead) {
         EXPECT_EQ(Swatches() == before, chain != "90;0;0\n");
     }
     EXPECT_EQ(Swatches(), (Colours{Rgb(90, 0, 0), Rgb(0, 0, 90), Rgb(250, 250, 250), Rgb(0, 90, 0)}));
+    EXPECT_EQ(HardToSee(AppliedOptions(game, form)), "");
     game.world.Expect("Color Scheme: gone.col not found", "vbcritical+vbok");
     game.Run(Combo1_Click, form, "gone");
     EXPECT_EQ(form.Combo1, "default") << "a scheme that went missing falls back to the desktop";
     EXPECT_EQ(Swatches(), (Colours{kDefaultChainColour, kDefaultNodeColour, kDefaultGivenColour, kDefaultNodeColour}));
+}
+
+TEST_F(OptionsWindow, WhatIsShownBeforeIsWhatIsAppliedAfterwards) {
+    for (const char* const name : {"default", "dusk"}) {
+        game.Run(Combo1_Click, form, name);
+        SetBoardColour(form, &OptionsForm::Line1, Rgb(1, 2, 3));
+        const Options before = AppliedOptions(game, form);
+        const WindowColours worn = FormColours(game, form);
+        game.Run(command1_Click, form);
+        EXPECT_EQ(Board(), (Colours{before.ChainColour, before.GridColour, before.GivenColour, before.NodeColour}));
+        EXPECT_EQ(game.options.SchemeColours, before.SchemeColours);
+        EXPECT_EQ(worn.box, ColoursOfWindows(game.options, game.world).box);
+    }
+}
+
+TEST_F(OptionsWindow, ASchemeOfOnesOwnIsACopyThatCanBeChangedAndDeleted) {
+    const std::string shipped = game.folder.Read(game.ColourListPath);
+    game.ColourListPath = game.folder.Write("all.col", shipped);
+    game.Run(Combo1_Click, form, "default");
+    const WindowColours desktop = FormColours(game, form);
+    EXPECT_FALSE(IsOwnScheme(form));
+    EXPECT_NE(AddScheme(game, form, "dusk"), "");
+    EXPECT_EQ(AddScheme(game, form, "mine"), "");
+    EXPECT_TRUE(IsOwnScheme(form));
+    EXPECT_EQ(form.schemes.back() + form.Combo1 + form.draft.ColourSchemeName, "mineminemine.col");
+    EXPECT_EQ(FormColours(game, form).face, desktop.face) << "as the desktop, and from now on for itself";
+    EXPECT_EQ(FormColours(game, form).highlight, desktop.highlight);
+    SetSchemePart(form, kFaceEntry, Rgb(10, 20, 30));
+    SetSchemePart(form, kBackgroundEntry, Rgb(250, 240, 230));
+    cmdadjust4_Click(form, 2);
+    EXPECT_TRUE(cmdchaincol_Click(form, Rgb(90, 0, 0)));
+    game.Run(Combo1_Click, form, "dusk");
+    cmdadjust4_Click(form, 2);
+    game.Run(Combo1_Click, form, "mine");
+    EXPECT_EQ(form.Line1, Rgb(90, 0, 0)) << "what was changed waits to be applied";
+    EXPECT_EQ(game.folder.Read("all.col"), shipped);
+    EXPECT_TRUE(game.Run(command1_Click, form));
+    const std::string text = game.folder.Read("all.col");
+    EXPECT_EQ(text.substr(0, shipped.size()), shipped);
+    EXPECT_EQ(text.substr(shipped.size(), 8), "mine.col");
+    EXPECT_EQ(game.options.schemeNames.back(), "mine");
+    form = OpenOptions(game);
+    game.Run(Combo1_Click, form, "mine");
+    EXPECT_EQ(FormColours(game, form).face, Rgb(20, 30, 40)) << "with its brightness";
+    EXPECT_EQ(FormColours(game, form).box, Rgb(250, 240, 230));
+    EXPECT_EQ(form.Line1, Rgb(90, 0, 0));
+    game.Run(DeleteScheme, form);
+    EXPECT_EQ(form.Combo1, "xp");
+    EXPECT_EQ(game.folder.Read("all.col"), text);
+    EXPECT_TRUE(game.Run(command1_Click, form));
+    EXPECT_EQ(game.folder.Read("all.col"), shipped);
+    EXPECT_EQ(game.options.schemeNames, (Lines{"xp", "default", "dusk"}));
+}
+
+TEST_F(OptionsWindow, SchemesThatCannotBeWrittenLeaveEverythingAsItWas) {
+    EXPECT_EQ(AddScheme(game, form, "mine"), "");
+    game.ColourListPath = game.folder.Path("");
+    game.world.Expect("The colour schemes could not be saved.\r\n" + game.ColourListPath + ": Is a directory",
+                      "system ok");
+    EXPECT_FALSE(game.Run(command1_Click, form));
+    EXPECT_EQ(game.options.ColourSchemeName, "xp.col");
+    EXPECT_EQ(game.options.schemeNames.size(), 3U);
 }
 
 }  // namespace

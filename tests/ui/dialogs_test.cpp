@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Message boxes, file dialogs, and the windows beside the main one.
+#include <QColorDialog>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QInputDialog>
 #include <QLabel>
 #include <QListWidget>
 #include <QScrollBar>
@@ -136,6 +138,15 @@ TEST(Form2, EachControlDoesItsPartAndOnlyWhatIsAppliedShows) {
         }
         Press(form2, "Line2");
         EXPECT_EQ(Get(form2, "red green blue swatch"), "200 100 0 #c86400") << "a swatch is taken into the picker";
+        const auto preview = [&] { return Of(form2, "Preview").grab().toImage(); };
+        QImage board = preview();
+        Set(form2, "blue=9");
+        EXPECT_EQ(Of<Swatch>(form2, "Line2").Value(), Rgb(200, 100, 9)) << "and from then on it follows the bars";
+        EXPECT_NE(std::exchange(board, preview()), preview());
+        Press(form2, "Finished islands paler");
+        EXPECT_NE(board, preview());
+        Press(form2, "Finished islands paler");
+        Set(form2, "blue=0");
         for (const char* const button : {"Show", "Circle", "Finished islands paler"})
             Press(form2, button);
         Set(form2, "Text3=7");
@@ -173,6 +184,56 @@ TEST(Form2, EachControlDoesItsPartAndOnlyWhatIsAppliedShows) {
     window.Expect("Form2", Answer("reset"));
     window.Trigger("mnuoptset");
     EXPECT_EQ(options.ColourSchemeName + std::to_string(options.NodeShape), "xp.col0");
+}
+
+TEST(Form2, ASchemeOfOnesOwnIsNamedAndColouredPartByPart) {
+    WindowGame window;
+    const auto name = [](const char* text) {
+        return [text](QDialog& dialog) {
+            dynamic_cast<QInputDialog&>(dialog).setTextValue(text);
+            dialog.accept();
+        };
+    };
+    const auto choose = [&](const char* colour, bool take) {
+        window.Expect("ColourDialog", [=](QDialog& dialog) {
+            dynamic_cast<QColorDialog&>(dialog).setCurrentColor(QColor(colour));
+            take ? dialog.accept() : dialog.reject();
+        });
+    };
+    window.Expect("Form2", [&](QDialog& form2) {
+        const auto part = [&] { return Of<Swatch>(form2, "PartFace").Value(); };
+        EXPECT_FALSE(Of(form2, "PartFace").isEnabled() || Of(form2, "cmddeletescheme").isEnabled());
+        window.Expect("SchemeName", name(" XP "));
+        window.Expect("There is a colour scheme \"XP\" already.", Answer("Ok"));
+        window.Expect("SchemeName", name(" mine "));
+        Press(form2, "cmdnewscheme");
+        EXPECT_EQ(Get(form2, "Combo1"), "mine");
+        const Colour before = part();
+        const auto gone = [&] { return form2.findChild<QColorDialog*>() == nullptr; };
+        Press(form2, "PartFace");
+        choose("#123456", false);
+        Press(form2, "cmdmorecolours");
+        EXPECT_TRUE(QTest::qWaitFor(gone));
+        EXPECT_EQ(part(), before);
+        choose("#203040", true);
+        QTest::mouseClick(&Of(form2, "swatch"), Qt::LeftButton);
+        EXPECT_TRUE(QTest::qWaitFor(gone));
+        EXPECT_EQ(part(), Rgb(0x20, 0x30, 0x40));
+        EXPECT_EQ(form2.palette().color(QPalette::Window), QColor("#203040"));
+        Press(form2, "command1");
+    });
+    window.Trigger("mnuoptset");
+    EXPECT_EQ(window.game.options.ColourSchemeName, "mine.col");
+    window.Expect("Form2", [&](QDialog& form2) {
+        window.Expect("Delete the colour scheme \"mine\"?", Answer("No"));
+        Press(form2, "cmddeletescheme");
+        EXPECT_EQ(Get(form2, "Combo1"), "mine");
+        window.Expect("Delete the colour scheme \"mine\"?", Answer("Yes"));
+        Press(form2, "cmddeletescheme");
+        EXPECT_EQ(Of<QComboBox>(form2, "Combo1").findText("mine"), -1);
+    });
+    window.Trigger("mnuoptset");
+    EXPECT_NE(window.folder.Read("all.col").find("\r\nmine.col\r\n"), std::string::npos) << "it was not applied";
 }
 
 TEST(Form2, OnADarkDesktopDarkerMakesDarkerAndLighterLighter) {
