@@ -242,7 +242,7 @@ bool Chooser::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     const bool digit = key->text().size() == 1 && key->text().at(0).isDigit();
-    if (watched == table_ && digit && key->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier) == false) {
+    if (watched == table_ && digit && !key->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier)) {
         number_->setText(key->text());
         number_->setFocus();
         GoToTyped();

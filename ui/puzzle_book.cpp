@@ -20,8 +20,12 @@ constexpr int kLater = 2000;      ///< the same for one that is known
 
 }  // namespace
 
-PuzzleBook::PuzzleBook(std::string path, const LineIndex& index, const Options& options, PlayStates states)
-    : path_(std::move(path)), index_(index), options_(options), states_(std::move(states)), cards_(kMostCards) {
+PuzzleBook::PuzzleBook(std::string path, LineIndex index, Options options, PlayStates states)
+    : path_(std::move(path)),
+      index_(std::move(index)),
+      options_(std::move(options)),
+      states_(std::move(states)),
+      cards_(kMostCards) {
     // Small pictures are clearer without the lines that would join all islands.
     options_.ShowLines = 0;
     finding_.setSingleShot(true);

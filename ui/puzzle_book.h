@@ -31,7 +31,7 @@ class PuzzleBook final : public QObject {
 
  public:
     /// What is known already of the file's lines comes with the index.
-    PuzzleBook(std::string path, const LineIndex& index, const Options& options, PlayStates states);
+    PuzzleBook(std::string path, LineIndex index, Options options, PlayStates states);
 
     const std::string& Path() const { return path_; }
     const PlayStates& States() const { return states_; }

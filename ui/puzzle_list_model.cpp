@@ -13,7 +13,6 @@ QString CardText(int number, const PuzzleCard* card, const Assessment* assessmen
     QString text = QObject::tr("Puzzle %1").arg(number);
     if (card == nullptr) return text;
     if (!card->isPuzzle) return text + QObject::tr(", not a puzzle");
-    const Assessment unknown;
     text += ", " + (assessment == nullptr ? QString("%1x%2").arg(card->size.rows).arg(card->size.cols)
                                           : QString::fromStdString(AssessmentText(card->size, *assessment)));
     if (card->played.state == PlayState::Begun) text += QObject::tr(", begun");
