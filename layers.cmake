@@ -66,7 +66,7 @@ tidewalk_layer(board ON drawing FILES
 tidewalk_layer(game ON board generator FILES
     game/background game/choices game/clock game/file_work game/game game/guidance game/job game/job_state game/list_box
     game/main_window game/messages game/order_choices game/output game/pick_file game/play_store game/play_time
-    game/questions)
+    game/questions game/recent_files)
 
 # The handlers of menus, buttons, mouse and keys, each beside its subject.
 

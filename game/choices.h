@@ -17,6 +17,9 @@ class Choices {
 
     /// Keeps the value at once. One that cannot be written is forgotten at the end of the run.
     virtual void Set(std::string_view name, const std::string& value) = 0;
+
+    /// Takes in what other windows have kept since.
+    virtual void Refresh() = 0;
 };
 
 }  // namespace tidewalk

@@ -6,6 +6,7 @@
 #include "game/file_work.h"
 #include "game/job.h"
 #include "game/pick_file.h"
+#include "game/recent_files.h"
 #include "model/collection_file.h"
 #include "model/convert_layout.h"
 #include "model/file_error.h"
@@ -81,7 +82,7 @@ void mnuappend_Click(Game& game) {
             SayNotWritten(game, error);
             return;
         }
-        LoadPuzzle(game, path, appended.number);
+        if (LoadPuzzle(game, path, appended.number)) RememberOpened(game, path);
     }
     game.prompts.Show("Puzzle#" + NumText(appended.number) + " appended to file " + path, "vbinformation+vbok");
     if (appended.cutTail) game.window.SetText(WindowText::Status, TornRecordText(path));

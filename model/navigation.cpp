@@ -2,10 +2,12 @@
 #include "model/navigation.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
 
 #include "game/job.h"
 #include "game/pick_file.h"
+#include "game/recent_files.h"
 #include "model/convert_layout.h"
 #include "model/file_error.h"
 #include "model/load_puzzle.h"
@@ -24,6 +26,13 @@ std::optional<int> ArrowTarget(Game& game, int index, MouseButton button, int ol
     if (index == 2 && button == MouseButton::Left) return old + 1 > count ? 1 : old + 1;
     if (index == 2 && button == MouseButton::Right) return count;
     return std::nullopt;
+}
+
+/// Loads what the player wants to have open, and remembers that.
+bool LoadAndRemember(Game& game, const std::string& path, int number) {
+    if (!LoadPuzzle(game, path, number)) return false;
+    RememberOpened(game, path);
+    return true;
 }
 
 /// Goes to puzzle `number`, or back to `old` when that fails. What the status line said was about the puzzle before.
@@ -58,7 +67,7 @@ void mnuchoose_Click(Game& game) {
 }
 
 bool OpenCollection(Game& game, const std::string& path, int number) {
-    if (!IsOlderLayout(path)) return LoadPuzzle(game, path, number);
+    if (!IsOlderLayout(path)) return LoadAndRemember(game, path, number);
     const std::string to = ConvertedPath(path);
     const std::string isOlder = "This collection is of the older layout:\r\n" + path + "\r\n\r\n";
     if (to.empty()) {
@@ -77,15 +86,26 @@ bool OpenCollection(Game& game, const std::string& path, int number) {
                                SystemButtons::Ok);
         return false;
     }
-    return LoadPuzzle(game, to, number);
+    return LoadAndRemember(game, to, number);
 }
 
 void OpenChosen(Game& game, const std::string& path) {
+    OpenChosenAt(game, path, 1);
+}
+
+void OpenChosenAt(Game& game, const std::string& path, int number) {
     if (RefuseWhileBusy(game)) return;
     const BusyPointer busy(game);
     CloseFiles(game);
-    OpenCollection(game, path, 1);
+    OpenCollection(game, path, number);
     game.window.SetText(WindowText::Status, game.board.playNote);
+}
+
+void OpenRecent(Game& game, const std::string& path) {
+    if (RefuseWhileBusy(game)) return;
+    OpenChosen(game, path);
+    std::error_code error;
+    if (!std::filesystem::exists(path, error) && !error) ForgetOpened(game, path);
 }
 
 void mnuloadpuz_Click(Game& game) {

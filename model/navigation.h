@@ -27,6 +27,12 @@ bool OpenCollection(Game& game, const std::string& path, int number);
 /// Opens the file that was chosen, or dropped on the window, at its first puzzle. A failed load before it is forgotten.
 void OpenChosen(Game& game, const std::string& path);
 
+/// The same at puzzle `number`.
+void OpenChosenAt(Game& game, const std::string& path, int number);
+
+/// Opens a collection of the recent files. One that is no longer there leaves the list.
+void OpenRecent(Game& game, const std::string& path);
+
 /// Asks for a collection file and loads its first puzzle.
 void mnuloadpuz_Click(Game& game);
 void cmdload_Click(Game& game);

@@ -14,8 +14,10 @@
 #include "ui/command_line.h"
 #include "ui/end_signals.h"
 #include "ui/file_name.h"
+#include "ui/hand_over.h"
 #include "ui/icons.h"
 #include "ui/program.h"
+#include "ui/running_window.h"
 #include "ui/save_file.h"
 
 namespace tidewalk {
@@ -30,8 +32,6 @@ void Say(FILE* where, const QString& text) {
 }
 
 CommandLine ReadCommandLine(int argc, char** argv) {
-    // Help and complaints must work without a display.
-    const QCoreApplication forTheNames(argc, argv);
     // Qt's own list of them has lost the bytes that are not UTF-8.
     QStringList arguments;
     for (int i = 0; i < argc; ++i)
@@ -110,9 +110,25 @@ StartRequest RequestOf(const CommandLine& line, const AppFolderChoice& choice, c
     return request;
 }
 
-int RunWindows(const CommandLine& line) {
+Summons SummonsOf(const CommandLine& line) {
+    Summons summons;
+    summons.collection = FileNameBytes(line.collection);
+    summons.puzzleNumber = line.puzzleNumber.value_or(1);
+    // Older desktops know the second name alone.
+    summons.token =
+        qEnvironmentVariable("XDG_ACTIVATION_TOKEN", qEnvironmentVariable("DESKTOP_STARTUP_ID")).toStdString();
+    return summons;
+}
+
+/// Looks for a window that can take what the command line asks for.
+Arrival LookForWindow(const CommandLine& line, const AppFolderChoice& choice) {
+    // A window that is to be seen elsewhere, or by nobody, is not for later starts either.
+    if (!choice.error.isEmpty() || line.screenshot || line.namesPlatform) return {};
+    return Arrive(MeetingPlace(choice.folder), line.ownWindow ? std::nullopt : std::optional(SummonsOf(line)));
+}
+
+int RunWindows(const CommandLine& line, const AppFolderChoice& choice, std::optional<LocalSocket> listener) {
     const bool unattended = line.screenshot.has_value();
-    const AppFolderChoice choice = ChooseAppFolder(line.folder, SystemPlaces());
     if (!choice.error.isEmpty()) return Fail(choice.error, unattended);
     if (!QDir::setCurrent(choice.folder)) return Fail("The folder cannot be entered: " + choice.folder, unattended);
 
@@ -123,9 +139,12 @@ int RunWindows(const CommandLine& line) {
     // QApplication::quit would ask every window first; here the decision is made.
     QObject::connect(&program.handlers(), &Handlers::Ended, qApp, [] { QCoreApplication::exit(0); });
     const EndSignals ends(program.handlers());
+    std::optional<RunningWindow> running;
+    if (listener) running.emplace(std::move(*listener), program.handlers(), program.form1());
     const auto fatal = program.Start(RequestOf(line, choice, window));
     if (fatal) return Fail(QString::fromStdString(*fatal), unattended);
     EndFirstStart(choice);
+    if (running) running->BeginToTake();
     if (unattended && !line.collection.isEmpty() &&
         program.game().collection.CollectionPath != FileNameBytes(line.collection)) {
         return Fail("The puzzle could not be opened: " + line.collection, unattended);
@@ -147,21 +166,30 @@ int RunOutput(int argc, char** argv, const OutputOrder& order) {
 }  // namespace
 
 int RunApplication(int argc, char** argv) {
+    // Help, complaints and a window that is open already need no display here.
+    auto plain = std::make_unique<QCoreApplication>(argc, argv);
     const CommandLine line = ReadCommandLine(argc, argv);
     if (const auto answer = AnswerAtOnce(line)) return *answer;
-    if (line.output) return RunOutput(argc, argv, *line.output);
+    if (line.output) {
+        plain.reset();
+        return RunOutput(argc, argv, *line.output);
+    }
     if (!FindDisplay(line)) {
         Say(stderr,
             "There is no display to show a window on. Use tidewalk --screenshot FILE.png for a picture of the window,\n"
             "or the console program tidewalk-cli.");
         return kFailed;
     }
+    const AppFolderChoice choice = ChooseAppFolder(line.folder, SystemPlaces());
+    Arrival arrival = LookForWindow(line, choice);
+    if (arrival.isTaken) return 0;
+    plain.reset();
     QApplication app(argc, argv);
     QApplication::setApplicationName("tidewalk");
     QApplication::setDesktopFileName("tidewalk");
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
-    return RunWindows(line);
+    return RunWindows(line, choice, std::move(arrival.listener));
 }
 
 }  // namespace tidewalk

@@ -10,6 +10,8 @@ namespace tidewalk {
 
 namespace {
 
+constexpr const char* kQtOptions[] = {"platform", "style", "stylesheet", "qwindowgeometry", "display"};
+
 struct Arguments {
     QCommandLineParser parser;
     QCommandLineOption help{{"h", "help"}, "Show this help and end."};
@@ -20,14 +22,15 @@ struct Arguments {
                                "file.png"};
     QCommandLineOption solution{"solution", "With --picture: draw the solution."};
     QCommandLineOption pdf{"pdf", "Print puzzles of the collection, such as 3-7, into <file.pdf> and end.", "file.pdf"};
-    QCommandLineOption seed{"seed", "Make random draws reproducible.", "number"};
+    QCommandLineOption seed{"seed", "Make random draws reproducible, in a window of their own.", "number"};
+    QCommandLineOption newWindow{"new-window", "Open another window in place of handing over to one that is open."};
 
     Arguments() {
         parser.setApplicationDescription("Play, solve and make bridges puzzles.");
         parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-        parser.addOptions({help, version, folder, screenshot, picture, solution, pdf, seed});
+        parser.addOptions({help, version, folder, screenshot, picture, solution, pdf, seed, newWindow});
         // Qt takes these for itself later; until then they must not look like mistakes.
-        for (const char* const name : {"platform", "style", "stylesheet", "qwindowgeometry", "display"}) {
+        for (const char* const name : kQtOptions) {
             QCommandLineOption option(name, {}, "value");
             option.setFlags(QCommandLineOption::HiddenFromHelp);
             parser.addOption(option);
@@ -117,7 +120,11 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     if (!positional.isEmpty()) line.collection = Absolute(positional.at(0));
     if (parser.isSet(known.folder)) line.folder = Absolute(parser.value(known.folder));
     if (parser.isSet(known.screenshot)) line.screenshot = Absolute(parser.value(known.screenshot));
-    line.namesPlatform = parser.isSet("platform");
+    line.namesPlatform = parser.isSet("platform") || parser.isSet("display");
+    // They speak of a window that is not there yet.
+    line.ownWindow = parser.isSet(known.newWindow) || line.seed || line.screenshot;
+    for (const char* const name : kQtOptions)
+        line.ownWindow = line.ownWindow || parser.isSet(name);
     const QString strange = StrangeName(line);
     return strange.isEmpty() ? line : Wrong("Only a collection may have a name that is not in UTF-8: " + strange);
 }

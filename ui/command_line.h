@@ -23,6 +23,7 @@ struct CommandLine {
     std::optional<int> puzzleNumber;
     std::optional<OutputOrder> output;  ///< a file to write in place of showing a window; its paths are absolute
     bool namesPlatform = false;         ///< Qt was told where to show its windows
+    bool ownWindow = false;             ///< a window is to be opened, whichever are open already
 };
 
 /// Reads the arguments, the program's name first, each a `FileNameText`. Paths are made absolute from the current

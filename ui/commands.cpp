@@ -7,6 +7,7 @@
 #include "board/board_commands.h"
 #include "board/copy_and_print.h"
 #include "board/magnify.h"
+#include "game/recent_files.h"
 #include "generator/batch.h"
 #include "generator/new_puzzle.h"
 #include "generator/shuffle.h"
@@ -201,6 +202,11 @@ std::vector<Command> PuzzleCommands() {
          .icon = "open",
          .keys = Keys(QKeySequence::Open),
          .handler = Do<mnuloadpuz_Click>},
+        {.menu = "Puzzle/Recent Files",
+         .name = "mnuclearrecent",
+         .text = "&Clear List",
+         .handler = Do<mnuclearrecent_Click>,
+         .available = HasRecentFiles},
         {.menu = kMenu,
          .name = "mnuappend",
          .text = "&Add Puzzle to File",
@@ -255,7 +261,7 @@ std::vector<Command> PuzzleCommands() {
         {.menu = kMenu,
          .name = "arrows",
          .index = 1,
-         .text = "&Random Puzzle",
+         .text = "Rand&om Puzzle",
          .bar = 2,
          .word = "Random",
          .icon = "random",

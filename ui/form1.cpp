@@ -33,6 +33,7 @@
 #include "ui/lines_view.h"
 #include "ui/mnemonic.h"
 #include "ui/order_popup.h"
+#include "ui/recent_menu.h"
 #include "ui/time_label.h"
 #include "ui/tool_tip.h"
 
@@ -117,6 +118,7 @@ void Form1::AddMenus() {
     for (const Command& command : Commands()) {
         if (*command.menu != '\0') AddMenuCommand(command);
     }
+    FillWhenOpened(*MenuAt("Puzzle/Recent Files"), handlers_);
 }
 
 /// The menu at a path such as "Puzzle/Maintenance", made if need be.

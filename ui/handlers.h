@@ -19,6 +19,9 @@ class Handlers final : public QObject {
     void Detach() { game_ = nullptr; }
     Game* game() const { return game_; }
 
+    /// One is on its way, and may have let events through.
+    bool AreRunning() const { return depth_ > 0; }
+
     /// Runs `routine` and announces what may have changed. Nothing runs once the program is ending.
     void Run(const std::function<void(Game&)>& routine);
 

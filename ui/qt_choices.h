@@ -28,6 +28,10 @@ class QtChoices final : public Choices {
         settings_->sync();
     }
 
+    void Refresh() override {
+        if (settings_ != nullptr) settings_->sync();
+    }
+
  private:
     static QString KeyOf(std::string_view name) {
         return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));

@@ -49,6 +49,9 @@ void UndoAndRedo(TestGame& game) {
 void Choose(TestGame& game) {
     game.Run(OpenChosen, game.PathOfCollection());
 }
+void Recent(TestGame& game) {
+    game.Run(OpenRecent, game.PathOfCollection());
+}
 void UseNumbers(TestGame& game) {
     EXPECT_FALSE(game.Run(UseNumberGrid, NumberGrid())) << "the editor stays open";
 }
@@ -68,6 +71,7 @@ const Command kRefuse[] = {Do<arrows_Click, 0, kLeft>,
                            Do<mnuloadpuz_Click>,
                            Do<cmdload_Click>,
                            Choose,
+                           Recent,
                            Do<mnuappend_Click>,
                            Do<mnuexport_Click>,
                            Do<mnuimport_Click>,

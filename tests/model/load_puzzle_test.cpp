@@ -4,6 +4,7 @@
 
 #include "board/after_move.h"
 #include "board/place_bridge.h"
+#include "game/recent_files.h"
 #include "model/navigation.h"
 #include "support/test_game.h"
 
@@ -213,6 +214,24 @@ TEST(OpenFile, OfTheOlderLayoutOffersToConvertIt) {
         kInformation);
     game.folder.Write("old", bytes);
     EXPECT_FALSE(game.Run(OpenCollection, "old", 1));
+}
+
+TEST(RecentFiles, AreTenTheNewestFirstWithoutTheWorkFile) {
+    TestGame game({kSmallPuzzle});
+    Lines paths;
+    for (int i = 1; i <= 12; ++i) {
+        paths.insert(paths.begin(),
+                     game.folder.Write("f" + std::to_string(i) + " \x01\xFF%.tdw", kSmallPuzzle + std::string("\n")));
+        game.Run(OpenChosen, paths.front());
+    }
+    game.Run(OpenChosen, paths.back());
+    game.Run(OpenChosen, game.folder.Write("temp.txt", kSmallPuzzle));
+    Lines wanted(paths.begin(), paths.begin() + 9);
+    wanted.insert(wanted.begin(), paths.back());
+    EXPECT_EQ(RecentFiles(game), wanted);
+    game.choices.Set("RecentFiles", "x /a%2 /b%20c  /d%00 /e%zz");
+    EXPECT_EQ(RecentFiles(game), Lines{"/b c"}) << "somebody has written into the file";
+    EXPECT_EQ(ShortNames({"/a/x", "/b/x", "/b/y", "/c/a/x", "/x"}), Lines({"/a/x", "/b/x", "y", "a/x", "/x"}));
 }
 
 }  // namespace

@@ -88,6 +88,7 @@ class World final : public Prompts,
         return found == choices.end() ? otherwise : found->second;
     }
     void Set(std::string_view name, const std::string& value) override { choices[std::string(name)] = value; }
+    void Refresh() override {}
     std::map<std::string, std::string, std::less<>> choices;
     void ApplyColours() override { Note("colours"); }
     Colour Desktop(DesktopColour colour) const override { return desktop.at(colour); }

@@ -13,6 +13,7 @@
 
 #include "drawing/contrast.h"
 #include "game/job.h"
+#include "game/recent_files.h"
 #include "model/numbers.h"
 #include "options/colour_scheme.h"
 #include "ui/colours.h"
@@ -76,9 +77,11 @@ std::string EffectOf(const std::function<void(WindowGame&)>& give) {
 TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
     const QString effects =
         "|mnuoptset=Form2|mnuoptsave=status Options saved|mnueditor=Form6|cmdzoom0=cells 567|cmdzoom1=cells 693|"
-        "cmdzoom2=cells 700|mnufit=cells 700|mnuactual=view 1|mnufullscreen=frame gone|mnuhelp=help open|mnuabout=About|mnuexit=Exit?|mnuloadpuz=file: Tidewalk|"
+        "cmdzoom2=cells 700|mnufit=cells 700|mnuactual=view 1|mnufullscreen=frame gone|mnuhelp=help "
+        "open|mnuabout=About|mnuexit=Exit?|mnuloadpuz=file: Tidewalk|"
         "mnuappend=file: Add Puzzle to File|mnudelete=Delete current puzzle from file:\r\n|arrows0=puzzle 2|"
-        "arrows2=puzzle 4|arrows0right=puzzle 1|arrows2right=puzzle 5|arrows1=puzzle 2|mnuchoose=Chooser|cmdchoose=Chooser|"
+        "arrows2=puzzle 4|arrows0right=puzzle 1|arrows2right=puzzle 5|arrows1=puzzle "
+        "2|mnuchoose=Chooser|cmdchoose=Chooser|"
         "mnunewpuzx=works: Creating 7x7 puzzle ...|mnucreatemany=Form3|mnustopbatch=|mnupuzreset=Reset?|"
         "mnuexport=file: Export Puzzle|mnuimport=file: Select a grid file|mnupastepuzzle=status Error importing puzzle|"
         "Command3=This collection is not of the older layout:\r\n|Command4=works:|Command5=system: "
@@ -432,6 +435,31 @@ TEST(Window, AFileThatIsDroppedIsOpenedWhateverTheBytesOfItsName) {
         QApplication::sendEvent(&window.form, event);
     QCoreApplication::processEvents();
     EXPECT_EQ(window.game.collection.CollectionPath, path);
+}
+
+TEST(Window, ListsRecentFilesAsTheyWereOpened) {
+    WindowGame window;
+    auto* const menu = qobject_cast<QMenu*>(Of<QAction>(window.form, "mnuclearrecent").parent());
+    const auto entries = [&] {
+        emit menu->aboutToShow();
+        QStringList texts;
+        for (const QAction* const entry : menu->actions())
+            texts += entry->text();
+        return texts.join('|').toStdString();
+    };
+    const std::string odd = window.folder.Write("k\xE4 & %.tdw", kSmallPuzzle + std::string("\n"));
+    for (const std::string& path : {odd, window.folder.Path("missing.tdw")})
+        RememberOpened(window.game, path);
+    EXPECT_EQ(entries(), "&1 missing.tdw|&2 k\uFFFD && %.tdw|&3 collection.tdw||&Clear List");
+    window.Expect("puzzle 1 not found");
+    menu->actions().at(0)->trigger();
+    entries();
+    menu->actions().at(0)->trigger();
+    EXPECT_EQ(window.game.collection.CollectionPath, odd);
+    EXPECT_EQ(entries(), "&1 k\uFFFD && %.tdw|&2 collection.tdw||&Clear List");
+    window.Trigger("mnuclearrecent");
+    EXPECT_EQ(entries(), "No file was opened yet|&Clear List");
+    EXPECT_FALSE(Of<QAction>(window.form, "mnuclearrecent").isEnabled());
 }
 
 TEST(Window, StartsWithTheBoardInFocusAndTabGoesAllTheWayRound) {

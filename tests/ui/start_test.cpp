@@ -5,11 +5,16 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QProcess>
+#include <chrono>
 #include <filesystem>
+#include <future>
 
+#include "game/job.h"
 #include "ui/app_folder.h"
 #include "ui/command_line.h"
 #include "ui/file_name.h"
+#include "ui/hand_over.h"
+#include "ui/running_window.h"
 #include "window_game.h"
 
 namespace tidewalk::test {
@@ -46,6 +51,101 @@ TEST(CommandLine, ACollectionMayHaveANameOfAnyBytesAndWhatIsWrittenMayNot) {
         EXPECT_EQ(FileNameBytes(ParseCommandLine({"tidewalk", FileNameText(name)}).collection), name);
     const CommandLine line = ParseCommandLine({"tidewalk", "--pdf", FileNameText("a\xE4.pdf"), "x", "1"});
     EXPECT_EQ(line.wish, CommandLine::Wish::Wrong);
+}
+
+TEST(CommandLine, ThatSpeaksOfAWindowGetsOneOfItsOwn) {
+    for (const char* const option : {"--new-window", "--seed 1", "--screenshot a", "-style x", "--platform y"})
+        EXPECT_TRUE(ParseCommandLine(("tidewalk x 3 " + QString(option)).split(' ')).ownWindow) << option;
+    EXPECT_FALSE(ParseCommandLine({"tidewalk", "--folder", "here", "x", "3"}).ownWindow);
+}
+
+TEST(Summons, AreReadAsTheyWereWrittenAndNothingElseIs) {
+    const std::string nothing(1, '\0');
+    const Summons summons{"/k\xE4se\n.tdw", 12, "token"};
+    EXPECT_EQ(ParseSummons(SummonsText(summons)), summons);
+    EXPECT_EQ(ParseSummons(SummonsText({"", 1, "no token"})), Summons());
+    for (const Summons& wrong : {Summons{"relative", 1, ""}, Summons{"/x", 0, ""}, Summons{"/x", -1, ""}})
+        EXPECT_EQ(ParseSummons(SummonsText(wrong)), std::nullopt);
+    const std::string text = SummonsText({"/x", 1, ""});
+    for (const std::string& wrong : {std::string(), nothing, text + nothing, text.substr(0, text.size() - 1),
+                                     text + "x", "tidewalk 2" + text.substr(10), GreetingText(1)})
+        EXPECT_EQ(ParseSummons(wrong), std::nullopt);
+    EXPECT_EQ(ParseGreeting(GreetingText(7)), 7);
+    EXPECT_EQ(ParseGreeting(text), std::nullopt);
+}
+
+/// A window that hears of later starts, and what those hand to it.
+struct OpenWindow : WindowGame {
+    OpenWindow() : WindowGame({kSmallPuzzle, kSmallPuzzle}) {
+        running.emplace(std::move(*Arrive(place, std::nullopt).listener), program.handlers(), form);
+        running->BeginToTake();
+    }
+    /// Another start. It would need a window of its own when this is false.
+    std::future<bool> Start(int number, const std::string& path) {
+        return std::async(std::launch::async, [=, this] { return Arrive(place, Summons{path, number, ""}).isTaken; });
+    }
+    std::future<bool> Start(int number) { return Start(number, folder.Path("collection.tdw")); }
+    bool IsTaken(std::future<bool> start) {
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return start.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }));
+        return start.get();
+    }
+    const std::string place = MeetingPlace(QString::fromStdString(folder.Path("")));
+    std::optional<RunningWindow> running;
+};
+
+TEST(SecondStart, HandsItsFileToTheWindowWhichOpensItAsItsMenuWould) {
+    OpenWindow window;
+    EXPECT_TRUE(window.IsTaken(window.Start(2)));
+    EXPECT_EQ(window.game.collection.PuzzleNumber, 2);
+    EXPECT_TRUE(window.IsTaken(window.Start(1, "")));
+    EXPECT_EQ(window.game.collection.PuzzleNumber, 2) << "without a file there is nothing to open";
+    window.Expect("puzzle 9 not found");
+    EXPECT_TRUE(window.IsTaken(window.Start(9)));
+    const Job job(window.game, "AutoSolve");
+    window.Expect("Cancel Autosolve first");
+    EXPECT_TRUE(window.IsTaken(window.Start(1)));
+}
+
+TEST(SecondStart, WaitsWhileABoxIsOpenAndOpensItsFileItselfWhenTheWindowEnds) {
+    OpenWindow window;
+    std::future<bool> first;
+    window.Expect("Exit?", [&](QDialog& box) {
+        first = window.Start(2);
+        EXPECT_FALSE(QTest::qWaitFor([&] { return window.game.collection.PuzzleNumber == 2; }, 300));
+        Press(box, "No");
+    });
+    window.Trigger("mnuexit");
+    EXPECT_TRUE(window.IsTaken(std::move(first)));
+    EXPECT_EQ(window.game.collection.PuzzleNumber, 2);
+    std::future<bool> second;
+    window.Expect("Exit?", [&](QDialog& box) {
+        second = window.Start(1);
+        QTest::qWait(100);
+        Press(box, "Yes");
+    });
+    window.Trigger("mnuexit");
+    EXPECT_FALSE(window.IsTaken(std::move(second)));
+    EXPECT_EQ(window.game.collection.PuzzleNumber, 2);
+}
+
+TEST(SecondStart, LeavesAWindowAloneThatHangsOrSpeaksAnotherLanguage) {
+    const TempFolder folder;
+    const std::string place = MeetingPlace(".");
+    const auto hung = LocalSocket::Listen(place + "-0");
+    const auto other = LocalSocket::Listen(place + "-1");
+    EXPECT_FALSE(LocalSocket::Listen(place + "-0")) << "a place is for one";
+    auto start = std::async(std::launch::async, [&] { return Arrive(place, Summons{"/x", 1, ""}); });
+    std::optional<LocalSocket> line;
+    while (!(line = other->Answer()))
+        QTest::qWait(1);
+    line->Send("tidewalk 2 window");
+    const Arrival arrival = start.get();
+    EXPECT_TRUE(!arrival.isTaken && arrival.listener);
+    EXPECT_EQ(line->Hear().what, LocalSocket::Heard::What::End) << "nothing was told to it";
+    EXPECT_TRUE(LocalSocket::Call(place + "-2"));
+    QFile::link(".", "link");
+    EXPECT_EQ(MeetingPlace("link"), place);
 }
 
 /// Where a program folder may be chosen.
