@@ -66,7 +66,9 @@ bool FindDisplay(const CommandLine& line) {
 
 int Fail(const QString& text, bool unattended) {
     Say(stderr, text);
-    if (!unattended) QMessageBox::critical(nullptr, QString::fromUtf8(AppTitle.data(), AppTitle.size()), text);
+    if (unattended) return kFailed;
+    QApplication::setWindowIcon(ProgramIcon());
+    QMessageBox::critical(nullptr, QString::fromUtf8(AppTitle.data(), AppTitle.size()), text);
     return kFailed;
 }
 
@@ -187,7 +189,6 @@ int RunApplication(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName("tidewalk");
     QApplication::setDesktopFileName("tidewalk");
-    QApplication::setWindowIcon(ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     return RunWindows(line, choice, std::move(arrival.listener));
 }

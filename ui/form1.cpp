@@ -85,18 +85,15 @@ Form1::Form1(Handlers& handlers, OnCommand onCommand)
       gridSize_(new QLineEdit),
       assessment_(new QLabel),
       tried_(new QLabel),
-      time_(new TimeLabel(handlers)),
-      order_(new OrderPopup(handlers, this)) {
+      time_(new TimeLabel(handlers)) {
     setObjectName("Form1");
     setWindowTitle(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
-    setWindowIcon(ProgramIcon());
     // The right button is a click on many controls here; a menu of tool bars must not come in between.
     setContextMenuPolicy(Qt::NoContextMenu);
     AddNumberBox();
     AddSizeBox();
     AddMenus();
     AddToolBar();
-    AddOrder();
     setCentralWidget(container_);
     AddDocks();
     AddStatusLine();
@@ -232,14 +229,14 @@ void Form1::AddSizeBox() {
     FitWidth(gridSize_, "25x25");
 }
 
-void Form1::AddOrder() {
-    auto* const make = findChild<BoxControl*>("cmdnew1");
-    connect(order_, &OrderPopup::SizeTyped, gridSize_, &QLineEdit::setText);
-    connect(order_, &OrderPopup::Create, make, &BoxControl::click);
-}
-
 void Form1::OpenOrder() {
-    order_->OpenAt(*findChild<BoxControl*>("cmdnew1"), gridSize_->text());
+    auto* const make = findChild<BoxControl*>("cmdnew1");
+    if (order_ == nullptr) {
+        order_ = new OrderPopup(handlers_, this);
+        connect(order_, &OrderPopup::SizeTyped, gridSize_, &QLineEdit::setText);
+        connect(order_, &OrderPopup::Create, make, &BoxControl::click);
+    }
+    order_->OpenAt(*make, gridSize_->text());
 }
 
 /// The tip of the button tells what it would make.

@@ -69,7 +69,6 @@ class Form1 final : public QMainWindow {
     QWidget* BarButton(const Command& command);
     void AddNumberBox();
     void AddSizeBox();
-    void AddOrder();
     void TellOrder();
     void AddDocks();
     QDockWidget* AddDock(QWidget* list, const QString& caption);
@@ -100,9 +99,9 @@ class Form1 final : public QMainWindow {
     QLabel* assessment_;
     QLabel* tried_;
     TimeLabel* time_;
-    OrderPopup* order_;
-    QAction* words_ = nullptr;  ///< ticked while the tool bar's buttons have words
-    bool statusIsNew_ = false;  ///< it says something that was not announced yet
+    OrderPopup* order_ = nullptr;  ///< none before it is opened for the first time
+    QAction* words_ = nullptr;     ///< ticked while the tool bar's buttons have words
+    bool statusIsNew_ = false;     ///< it says something that was not announced yet
 };
 
 }  // namespace tidewalk

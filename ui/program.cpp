@@ -5,9 +5,11 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QTimer>
 #include <QWindow>
 
 #include "game/job.h"
+#include "ui/icons.h"
 
 namespace tidewalk {
 
@@ -24,11 +26,14 @@ void LeaveDialogs() {
 /// Waits, but not for long, until the window is on the screen. A window manager gives it its place and size only then.
 void WaitUntilShown(const QWidget& window) {
     constexpr int kPatience = 500;  // in milliseconds
-    constexpr int kStep = 20;
+    constexpr int kStep = 20;       // in milliseconds
     QElapsedTimer waited;
     waited.start();
+    // Looking without a pause would take the processor from the display that is waited for.
+    QTimer wake;
+    wake.start(kStep);
     while (!window.windowHandle()->isExposed() && !waited.hasExpired(kPatience))
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, kStep);
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
@@ -44,14 +49,11 @@ Program::Program()
                  });
              }),
       questions_(handlers_, form1_, plays_),
-      help_(&form1_),
       prompts_(handlers_),
       filePicker_(handlers_),
       window_(form1_, handlers_),
       pictures_(form1_.Container(), handlers_),
       events_(handlers_),
-      form2_(handlers_, &form1_),
-      form6_(handlers_, &form1_),
       printers_(handlers_),
       background_(handlers_),
       game_(std::make_unique<Game>(Seams{.prompts = prompts_,
@@ -70,7 +72,6 @@ Program::Program()
     filePicker_.SetMainWindow(&form1_);
     clipboard_.SetMainWindow(&form1_);
     printers_.SetMainWindow(&form1_);
-    QObject::connect(&handlers_, &Handlers::Ending, &help_, &QWidget::close);
     // What was played is safe wherever the player goes next.
     QObject::connect(&handlers_, &Handlers::Ending, &form1_, [this] { plays_.Flush(); });
     QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &form1_, [this] { plays_.Flush(); });
@@ -84,6 +85,24 @@ Program::~Program() {
     handlers_.Detach();
 }
 
+Form2& Program::form2() {
+    if (!form2_) form2_.emplace(handlers_, &form1_);
+    return *form2_;
+}
+
+Form6& Program::form6() {
+    if (!form6_) form6_.emplace(handlers_, &form1_);
+    return *form6_;
+}
+
+HelpWindow& Program::help() {
+    if (!help_) {
+        help_.emplace(&form1_);
+        QObject::connect(&handlers_, &Handlers::Ending, &*help_, &QWidget::close);
+    }
+    return *help_;
+}
+
 std::optional<std::string> Program::Start(const StartRequest& request) {
     const QString folder = QFile::decodeName(request.appFolder.c_str());
     choices_.UseFolder(folder);
@@ -93,6 +112,8 @@ std::optional<std::string> Program::Start(const StartRequest& request) {
     form1_.show();
     // The first puzzle is fitted to the container, and messages lie over the window's middle.
     WaitUntilShown(form1_);
+    // For the icon of a window it is drawn in several sizes at once, which the first paint need not wait for.
+    QApplication::setWindowIcon(ProgramIcon());
     std::optional<std::string> fatal;
     handlers_.Run([&](Game& game) { fatal = Form_Load(game, request); });
     if (fatal) form1_.hide();

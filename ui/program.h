@@ -25,8 +25,8 @@
 
 namespace tidewalk {
 
-/// Owns everything and ties it together. Side windows are members here, made once, next to `form1`; a command opens
-/// them from its handler, which gets this object.
+/// Owns everything and ties it together. Side windows are members here, made once, when a command opens
+/// them for the first time from its handler, which gets this object; they stay to the end.
 class Program final {
  public:
     Program();
@@ -36,10 +36,10 @@ class Program final {
 
     Game& game() { return *game_; }
     Form1& form1() { return form1_; }
-    Form2& form2() { return form2_; }
-    Form6& form6() { return form6_; }
+    Form2& form2();
+    Form6& form6();
     Handlers& handlers() { return handlers_; }
-    HelpWindow& help() { return help_; }
+    HelpWindow& help();
     QtPrompts& prompts() { return prompts_; }
 
     /// Shows the main window and runs `Form_Load`, whose text is returned if the program cannot start.
@@ -49,7 +49,6 @@ class Program final {
     Handlers handlers_;
     Form1 form1_;
     QtQuestions questions_;
-    HelpWindow help_;
     QtPrompts prompts_;
     QtFilePicker filePicker_;
     QtMainWindow window_;
@@ -58,8 +57,10 @@ class Program final {
     SystemClock clock_;
     QtChoices choices_;
     QtClipboard clipboard_;
-    Form2 form2_;
-    Form6 form6_;
+    // Made when they are opened for the first time.
+    std::optional<HelpWindow> help_;
+    std::optional<Form2> form2_;
+    std::optional<Form6> form6_;
     QtPrinters printers_;
     QtBackground background_;
     QtPlayStore plays_;

@@ -2,6 +2,8 @@
 // The windows that a command waits for.
 #pragma once
 
+#include <optional>
+
 #include "ui/chooser.h"
 #include "ui/form3.h"
 #include "ui/form5.h"
@@ -13,9 +15,12 @@ namespace tidewalk {
 class QtQuestions final : public Questions {
  public:
     QtQuestions(Handlers& handlers, QWidget& mainWindow, QtPlayStore& plays)
-        : handlers_(handlers), mainWindow_(mainWindow), plays_(plays), form3_(handlers, &mainWindow) {}
+        : handlers_(handlers), mainWindow_(mainWindow), plays_(plays) {}
 
-    bool AskBatch(BatchRequest& request) override { return form3_.Ask(request); }
+    bool AskBatch(BatchRequest& request) override {
+        if (!form3_) form3_.emplace(handlers_, &mainWindow_);
+        return form3_->Ask(request);
+    }
     bool AskPrint(PrintRequest& request) override {
         return Form5(handlers_, request, &mainWindow_).exec() == QDialog::Accepted;
     }
@@ -31,7 +36,7 @@ class QtQuestions final : public Questions {
     Handlers& handlers_;
     QWidget& mainWindow_;
     QtPlayStore& plays_;
-    Form3 form3_;
+    std::optional<Form3> form3_;  ///< none before the first question
 };
 
 }  // namespace tidewalk

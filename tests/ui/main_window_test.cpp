@@ -172,7 +172,10 @@ TEST(Window, EveryMenuAndWindowCanBeUsedWithAltAndALetter) {
     for (const QMenu* const menu : window.form.findChildren<QMenu*>())
         if (!menu->title().isEmpty()) ExpectLetterForEach(TextsOf(menu->actions()));
     ExpectLetterForEach(TextsOf(window.program.help()));
-    ExpectLetterForEach(TextsOf(Of(window.form, "NewOrder")));
+    window.form.OpenOrder();
+    auto& order = Of<QDialog>(window.form, "NewOrder");
+    ExpectLetterForEach(TextsOf(order));
+    order.reject();
     const Act look = [](QDialog& open) { ExpectLetterForEach(TextsOf(open)); };
     for (const auto& [command, dialog] : {std::pair{"mnuoptset", "Form2"},
                                           {"mnucreatemany", "Form3"},
@@ -319,13 +322,15 @@ TEST(Window, TheTimeShowsWhenWantedAndTicksWhileTheWindowIsActive) {
 
 TEST(Window, ANewPuzzleIsOrderedAtItsButton) {
     WindowGame window;
-    auto& popup = Of<QDialog>(window.form, "NewOrder");
     auto& make = Of<BoxControl>(window.form, "cmdnew1");
     const auto tip = [&] { return make.accessibleDescription().section('.', 0, 0).toStdString(); };
     EXPECT_EQ(tip(), "Any grade, one solution");
     make.findChild<QTimer*>()->setInterval(1);
     QTest::mousePress(&make, Qt::LeftButton);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return popup.isVisible(); })) << "a long press";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.form.findChild<QDialog*>("NewOrder") != nullptr; }))
+        << "a long press";
+    auto& popup = Of<QDialog>(window.form, "NewOrder");
+    EXPECT_TRUE(popup.isVisible());
     QTest::mouseRelease(&make, Qt::LeftButton);
     EXPECT_EQ(window.game.collection.CollectionPath, window.folder.Path("collection.tdw")) << "and no click";
     EXPECT_EQ(Get(popup, "OrderSize Grade0 OrderOneSolution"), "7x7 true true");
@@ -417,6 +422,11 @@ TEST(Window, TheBarsCanBeReadWhereButtonsAreUnlikeTheWindow) {
     QPainter painter(&sharp);
     QSvgRenderer(QString(":/icons/tidewalk.svg")).render(&painter);
     EXPECT_EQ(ProgramIcon().pixmap(36).toImage(), sharp) << "at a ratio of 1.5: not scaled from another size";
+    const auto drawn = [](QIcon::Mode mode, int side) { return ProgramIcon().pixmap(side, mode).toImage(); };
+    EXPECT_EQ(drawn(QIcon::Normal, 36), sharp) << "the second time, too";
+    EXPECT_LT(drawn(QIcon::Disabled, 36).pixelColor(18, 18).alpha(), 128) << "paler where it cannot be chosen";
+    EXPECT_EQ(drawn(QIcon::Normal, 24).size(), QSize(24, 24));
+    EXPECT_TRUE(MakeIcon("no such picture", QPalette()).isNull());
     for (QWidget* const bar : {&Of(window.form, "ToolBar"), static_cast<QWidget*>(window.form.menuBar())}) {
         const Colour back = ToColour(bar->palette().color(QPalette::Window));
         for (const QPalette::ColorRole text : {QPalette::ButtonText, QPalette::WindowText})
