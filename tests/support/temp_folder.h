@@ -2,6 +2,9 @@
 // A folder of its own for each test.
 #pragma once
 
+#include <sys/resource.h>
+
+#include <csignal>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -27,6 +30,26 @@ class TempFolder {
  private:
     std::filesystem::path path_;
     std::filesystem::path before_;
+};
+
+/// Files cannot grow beyond some bytes for as long as it lives, as on a disk that is full.
+class NoSpace {
+ public:
+    NoSpace() : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit few{5, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &few);
+    }
+    ~NoSpace() {
+        ::setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, handler_);
+    }
+    NoSpace(const NoSpace&) = delete;
+    NoSpace& operator=(const NoSpace&) = delete;
+
+ private:
+    void (*handler_)(int);
+    rlimit before_{};
 };
 
 /// What is said when the work fails at a file, or "done".

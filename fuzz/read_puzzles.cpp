@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
+// The readers of the engine.
 #include <algorithm>
 
 #include "fuzz/targets.h"
 #include "model/collection_file.h"
+#include "model/convert_layout.h"
+#include "model/plain_grid.h"
 #include "model/puzzle_record.h"
 #include "solver/count_solutions.h"
 #include "solver/solve_puzzle.h"
@@ -59,6 +62,34 @@ void ReadCollection(std::string_view bytes) {
         DemandWhole(*puzzle);
         DemandOneAnswer(*puzzle);
     }
+}
+
+void ReadGrid(std::string_view bytes) {
+    constexpr int kMost = 3;
+    const test::TempFolder folder;
+    const std::string path = folder.Write("grid.txt", std::string(bytes));
+    for (int number = 0; number <= kMost; ++number) {
+        Puzzle puzzle;
+        if (ReadGridFrom(path, number, puzzle) != GridResult::Read) continue;
+        Demand(number >= 1 && puzzle.CellCount() >= 1 && puzzle.LinkCount() == 0, "a grid out of nothing");
+        // What is written is a grid that the reader takes without a change.
+        Puzzle again;
+        const std::string written = folder.Write("again.grd", MarkedGrid(puzzle));
+        Demand(ReadGridFrom(written, 1, again) == GridResult::Read, "a grid of our own is not read");
+        Demand(again == puzzle, "a grid of our own comes back as another");
+    }
+}
+
+void ReadOldLayout(std::string_view bytes) {
+    const test::TempFolder folder;
+    const std::string from = folder.Write("old.txt", std::string(bytes));
+    const std::string to = folder.Path("old-newformat.txt");
+    ConvertCollection(from, to);
+    // A puzzle of the older layout takes its kind, its header and an end; what is read is none of its business.
+    const int records = CountLines(to);
+    Demand(records <= CountLines(from) / 2, "more puzzles than there can be");
+    for (int number = 1; number <= records && number <= 3; ++number)
+        ReadPuzzle(to, number);
 }
 
 }  // namespace tidewalk::fuzz
