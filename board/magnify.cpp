@@ -67,6 +67,10 @@ Surface::Extent RoomOf(const Game& game) {
     return {extent.width / game.board.magnification, extent.height / game.board.magnification};
 }
 
+void BoundMagnification(Game& game) {
+    if (!game.board.fits) game.board.magnification = Reasonable(game, game.board.magnification);
+}
+
 void FitMagnification(Game& game, int cellSize) {
     Board& board = game.board;
     if (!board.fits) return;

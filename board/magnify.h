@@ -14,6 +14,9 @@ Surface::Extent RoomOf(const Game& game);
 /// Nothing is laid out.
 void FitMagnification(Game& game, int cellSize);
 
+/// Brings the magnification of a board that has been laid out down to what is reasonable for it.
+void BoundMagnification(Game& game);
+
 /// The container has another size: the board is fitted anew if it is to fill its room, and lies in the middle.
 void Picture5_Resize(Game& game);
 

@@ -15,7 +15,9 @@ void RedrawBoard(Game& game, bool showSolution) {
 }
 
 void ZoomBoard(Game& game, int cellSize) {
-    game.board.layout = LayoutBoard(game.board.puzzle.Size(), cellSize, RoomOf(game));
+    game.board.layout = LayoutBoard(game.board.puzzle.Size(), cellSize, {});
+    BoundMagnification(game);
+    CentreBoard(game.board.layout, RoomOf(game));
     game.pictures.PlacePicture();
 }
 

@@ -175,6 +175,7 @@ LineIndex::Progress LineIndex::Advance(const std::string& path, const MayGoOn& m
         std::error_code ignored;
         return {0, std::filesystem::file_size(path, ignored) == 0, edition_};
     } catch (const FileError&) {
+        Forget();
         return {0, true, edition_};
     }
 }

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/fit_on_screen.h"
 #include "ui/icons.h"
 
 namespace tidewalk {
@@ -64,6 +65,7 @@ AboutBox::AboutBox(QWidget* parent) : QDialog(parent) {
     all->setSizeConstraint(QLayout::SetFixedSize);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(aboutQt, &QPushButton::clicked, this, [this] { QMessageBox::aboutQt(this); });
+    FitOnScreen(*this);
 }
 
 }  // namespace tidewalk

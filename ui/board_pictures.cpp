@@ -24,7 +24,7 @@ namespace {
 
 constexpr double kScreenPixelsPerInch = 96;
 constexpr int kContainerSide = 680;          ///< in pixels, where nothing else asks for another size
-constexpr int kSmallestContainerSide = 280;  ///< in pixels
+constexpr int kSmallestContainerSide = 120;  ///< in pixels
 constexpr int kTimer1Milliseconds = 1000;
 
 std::optional<MouseButton> ButtonOf(Qt::MouseButton button) {

@@ -19,6 +19,7 @@
 #include <utility>
 
 #include "game/order_choices.h"
+#include "ui/fit_on_screen.h"
 #include "ui/puzzle_card.h"
 
 namespace tidewalk {
@@ -67,6 +68,7 @@ Chooser::Chooser(const Game& game, PlayStates states, QWidget* parent)
     const QSize usual(kColumns * card.width() + table_->verticalScrollBar()->sizeHint().width(), kRows * card.height());
     const QSize around = sizeHint() - table_->sizeHint();
     resize((usual + QSize(around.width(), around.height())).boundedTo(screen()->availableSize() * kScreenShare / 100));
+    FitOnScreen(*this);
     table_->setFocus();
     Filter();
 }
@@ -199,16 +201,15 @@ int Chooser::Chosen() const {
 
 void Chooser::Select(int number) {
     const QModelIndex at = model_.IndexOf(number);
-    wanted_ = at.isValid() ? 0 : number;
-    if (!at.isValid()) return;
+    // What is not there is not opened in the place of another one; it may come yet.
     table_->setCurrentIndex(at);
-    table_->scrollTo(at, QAbstractItemView::PositionAtCenter);
+    wanted_ = at.isValid() ? 0 : number;
+    if (at.isValid()) table_->scrollTo(at, QAbstractItemView::PositionAtCenter);
+    Refresh();
 }
 
 void Chooser::GoToTyped() {
-    bool isNumber = false;
-    const int number = number_->text().toInt(&isNumber);
-    if (isNumber) Select(number);
+    Select(std::max(0, number_->text().toInt()));
 }
 
 /// Says how many there are, and selects what is to be selected once it is there.
@@ -239,6 +240,10 @@ bool Chooser::eventFilter(QObject* watched, QEvent* event) {
     const bool enters = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
     if (watched == table_ && enters) {
         open_->click();
+        return true;
+    }
+    if (watched == table_ && key->matches(QKeySequence::MoveToEndOfDocument)) {
+        Select(model_.NumberAt(model_.Last()));
         return true;
     }
     const bool digit = key->text().size() == 1 && key->text().at(0).isDigit();

@@ -35,6 +35,9 @@ struct Arguments {
             option.setFlags(QCommandLineOption::HiddenFromHelp);
             parser.addOption(option);
         }
+        QCommandLineOption reverse("reverse");
+        reverse.setFlags(QCommandLineOption::HiddenFromHelp);
+        parser.addOption(reverse);
         parser.addPositionalArgument("collection", "A collection of puzzles to open.", "[collection");
         parser.addPositionalArgument("number", "The number of the puzzle in it, 1 if not given; with --pdf a range.",
                                      "[number]]");

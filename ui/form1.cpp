@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QCloseEvent>
+#include <QCryptographicHash>
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QGuiApplication>
@@ -48,6 +49,26 @@ constexpr const char* kGeometry = "window/geometry";
 constexpr const char* kDocks = "window/docks";
 constexpr const char* kWords = "window/words";
 constexpr const char* kYesWord = "yes";
+
+/// Of what a seal is made, in bytes of text.
+constexpr int kSealLength = 16;
+
+QByteArray SealOf(const QByteArray& state) {
+    return QCryptographicHash::hash(state, QCryptographicHash::Sha256).toHex().left(kSealLength);
+}
+
+/// A state of the window as text.
+std::string Sealed(const QByteArray& state) {
+    return (SealOf(state) + state.toBase64()).toStdString();
+}
+
+/// The state of such a text, or an empty one. The toolkit would follow one in which bytes were changed wherever that
+/// leads.
+QByteArray Unsealed(const std::string& text) {
+    const QByteArray sealed = QByteArray::fromStdString(text);
+    QByteArray state = QByteArray::fromBase64(sealed.mid(kSealLength));
+    return sealed.left(kSealLength) == SealOf(state) ? state : QByteArray();
+}
 
 LineSource SourceOf(const ListBox& list) {
     return {[&list] { return list.Revision(); }, [&list] { return static_cast<int>(list.Lines().size()); },
@@ -210,7 +231,7 @@ QWidget* Form1::BarButton(const Command& command) {
 void Form1::AddNumberBox() {
     puzNumNow_->setObjectName("PuzNumNow");
     puzNumNow_->setAlignment(Qt::AlignRight);
-    FitWidth(puzNumNow_, "00000");
+    FitWidth(puzNumNow_, "0000000");
     connect(puzNumNow_, &QLineEdit::returnPressed, this, [this] {
         handlers_.Run([](Game& game) { PuzNumNow_KeyPress(game, kEnterKey); });
         container_->Board().setFocus();
@@ -400,34 +421,37 @@ void Form1::RefreshCommands() {
 void Form1::TakePlace(const Choices& choices) {
     words_->setChecked(choices.Get(kWords, "") == kYesWord);
     TakeDefaultSize();
-    const auto kept = [&](const char* name) {
-        return QByteArray::fromBase64(QByteArray::fromStdString(choices.Get(name, "")));
-    };
-    // Of another version or torn, they change nothing. A window that has lost its screen comes to another one.
-    restoreGeometry(kept(kGeometry));
-    restoreState(kept(kDocks));
+    // A window that has lost its screen comes to another one.
+    restoreGeometry(Unsealed(choices.Get(kGeometry, "")));
+    restoreState(Unsealed(choices.Get(kDocks, "")));
     if (!isMaximized() && !isFullScreen() && QGuiApplication::platformName() != "offscreen")
         resize(size().boundedTo(screen()->availableSize()));
 }
 
 void Form1::KeepPlace() {
     Choices& choices = handlers_.game()->choices;
-    choices.Set(kGeometry, saveGeometry().toBase64().toStdString());
-    choices.Set(kDocks, saveState().toBase64().toStdString());
+    choices.Set(kGeometry, Sealed(saveGeometry()));
+    choices.Set(kDocks, Sealed(saveState()));
     choices.Set(kWords, words_->isChecked() ? kYesWord : "");
 }
 
 /// Beside the board there is room for hints from the start, so that it stays in its place when they come.
 void Form1::TakeDefaultSize() {
-    constexpr int kTitleBar = 48;    // with the frame and its shadows, in pixels
-    constexpr int kSideFrames = 16;  // in pixels
+    constexpr int kTitleBar = 48;     // with the frame and its shadows, in pixels
+    constexpr int kSideFrames = 16;   // in pixels
+    constexpr int kScreenShare = 60;  // per cent of the screen's height
     const int side = findChild<GuidePanel*>()->sizeHint().width();
     const int separator = style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent, nullptr, this);
     resizeDocks({findChild<QDockWidget*>("dockUndoList")}, {side}, Qt::Horizontal);
-    const QSize wanted = sizeHint().expandedTo({container_->sizeHint().width() + separator + side, 0});
+    QSize wanted = sizeHint().expandedTo({container_->sizeHint().width() + separator + side, 0});
     // Without a display there is no screen to fit on either.
     if (QGuiApplication::platformName() == "offscreen") return resize(wanted);
     const QSize room = screen()->availableSize() - QSize(kSideFrames, kTitleBar);
+    // On a large screen the board takes its share.
+    const int more = std::max(0, room.height() * kScreenShare / 100 - container_->sizeHint().height());
+    wanted += QSize(more, more);
+    // On the smallest it takes all.
+    if (room.width() < 2 * side) findChild<QDockWidget*>("dockUndoList")->hide();
     const int less = std::max({0, wanted.width() - room.width(), wanted.height() - room.height()});
     // On a small screen the board gives way, but not the tool bar's last buttons.
     const int bar = std::min(findChild<QToolBar*>()->sizeHint().width(), room.width());

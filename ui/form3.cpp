@@ -12,6 +12,7 @@
 #include "generator/batch.h"
 #include "generator/character_choices.h"
 #include "ui/file_name.h"
+#include "ui/fit_on_screen.h"
 #include "ui/one_solution_box.h"
 #include "ui/tool_tip.h"
 
@@ -142,6 +143,7 @@ bool Form3::Ask(BatchRequest& request) {
     FillSides(combo2_);
     ShowOrder(request.order);
     text1_->setFocus();
+    FitOnScreen(*this);
     exec();
     request = Typed();
     return property("Tag") == "Y";

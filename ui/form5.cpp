@@ -7,6 +7,7 @@
 
 #include "board/copy_and_print.h"
 #include "ui/file_name.h"
+#include "ui/fit_on_screen.h"
 
 namespace tidewalk {
 
@@ -50,6 +51,7 @@ Form5::Form5(Handlers& handlers, PrintRequest& request, QWidget* parent)
     Show();
     text1_->setFocus();
     text1_->selectAll();
+    FitOnScreen(*this);
 }
 
 void Form5::AddControls() {

@@ -8,6 +8,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include "ui/fit_on_screen.h"
 #include "ui/tool_tip.h"
 
 namespace tidewalk {
@@ -102,6 +103,7 @@ void Form6::ShowGrid() {
 void Form6::Open() {
     if (isVisible()) return;
     ShowGrid();
+    FitOnScreen(*this);
     exec();
 }
 

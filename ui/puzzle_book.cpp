@@ -52,7 +52,8 @@ void PuzzleBook::FindLines() {
     const LineIndex::Progress progress = index_.Advance(path_, [&time] { return !time.hasExpired(kSlice); });
     lines_ = progress.lines;
     hasAll_ = progress.all;
-    const bool isOther = std::exchange(edition_, progress.edition) != progress.edition && before > 0;
+    const bool isOther = edition_ && *edition_ != progress.edition;
+    edition_ = progress.edition;
     if (isOther) {
         cards_.clear();
         assessments_.clear();

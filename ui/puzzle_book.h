@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPixmap>
 #include <QTimer>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -67,7 +68,7 @@ class PuzzleBook final : public QObject {
     double ratio_ = 1;
     int lines_ = 0;
     bool hasAll_ = false;
-    std::uint64_t edition_ = 0;
+    std::optional<std::uint64_t> edition_;  ///< of what is known; none before anything is
     QCache<int, PuzzleCard> cards_;
     QHash<int, Assessment> assessments_;
     std::vector<int> wanted_;  ///< the last one is the next

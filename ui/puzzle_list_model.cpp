@@ -92,6 +92,10 @@ QModelIndex PuzzleListModel::IndexOf(int number) const {
     return index(place / columns_, place % columns_);
 }
 
+QModelIndex PuzzleListModel::Last() const {
+    return shown_ == 0 ? QModelIndex() : index((shown_ - 1) / columns_, (shown_ - 1) % columns_);
+}
+
 int PuzzleListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : (shown_ + columns_ - 1) / columns_;
 }

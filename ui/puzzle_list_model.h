@@ -34,6 +34,8 @@ class PuzzleListModel final : public QAbstractTableModel {
     int NumberAt(const QModelIndex& index) const;
     /// Its place; an invalid one if it is not shown.
     QModelIndex IndexOf(int number) const;
+    /// The place of the last one; an invalid one if there is none.
+    QModelIndex Last() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

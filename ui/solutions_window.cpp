@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/fit_on_screen.h"
 #include "ui/solution_view.h"
 
 namespace tidewalk {
@@ -36,6 +37,7 @@ SolutionsWindow::SolutionsWindow(const FoundSolutions& found, const Options& opt
     AddClose(*column);
     setAccessibleDescription(caption->text());
     resize(sizeHint().boundedTo(screen()->availableSize() * kScreenShare / 100));
+    FitOnScreen(*this);
 }
 
 void SolutionsWindow::AddPictures(QVBoxLayout& column, const FoundSolutions& found, const Options& options) {

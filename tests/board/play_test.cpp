@@ -581,7 +581,11 @@ TEST(Magnification, StaysAsItWasChosenUntilTheBoardIsToFitAgain) {
     EXPECT_EQ(game.board.magnification, 3);
     game.Run(MagnifyBoard, 1e9, from, from);
     EXPECT_LT(game.board.magnification, 20) << "its picture has to be held";
+    game.world.choices["magnification"] = "10000";
+    game.Run(ReadMagnification);
+    game.Load(1);
     game.Run(cmdzoom_Click, 1);
+    EXPECT_LT(game.board.magnification, 20) << "and not too large by other ways";
     game.Run(mnufit_Click);
     EXPECT_EQ(CellsOutOfSight(game), HiddenCells());
     game.Run(KeepMagnification);

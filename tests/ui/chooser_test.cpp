@@ -93,6 +93,9 @@ TEST(Chooser, OpensWhatWasTypedOrGoneTo) {
         ShownIn(table);
         QTest::keyClick(&table, Qt::Key_5);
         EXPECT_EQ(chooser.Chosen(), 5);
+        QTest::keyClick(&Of(chooser, "ChooserNumber"), Qt::Key_7);
+        EXPECT_EQ(chooser.Chosen(), 0) << "there is no 57";
+        QTest::keyClick(&Of(chooser, "ChooserNumber"), Qt::Key_Backspace);
         QTest::keyClick(&Of(chooser, "ChooserNumber"), Qt::Key_Return);
     });
     EXPECT_EQ(game.game.collection.PuzzleNumber, 5);
@@ -110,9 +113,14 @@ TEST(Chooser, NoticesThatTheFileIsAnotherOne) {
     ChooserGame game;
     game.Choose([&](Chooser& chooser, QTableView& table) {
         ShownIn(table);
-        game.folder.Write(game.game.collection.CollectionPath, kSeveral + "\n");
-        QTest::qWait(2500);
-        EXPECT_EQ(ShownIn(table), "Puzzle 1, 3x3, several solutions");
+        const auto shows = [&](const QString& count) {
+            return QTest::qWaitFor([&] { return Of<QLabel>(chooser, "ChooserCount").text() == count; }, 9000);
+        };
+        std::filesystem::remove(game.game.collection.CollectionPath);
+        EXPECT_TRUE(shows("0 puzzles"));
+        game.folder.Write(game.game.collection.CollectionPath, kSeveral + "\n" + kTree + "\n");
+        EXPECT_TRUE(shows("2 puzzles"));
+        EXPECT_TRUE(ShownIn(table).startsWith("Puzzle 1, 3x3, several solutions; Puzzle 2, 1x5"));
         EXPECT_EQ(chooser.Chosen(), 0);
     });
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The main window: its commands, tool bar, lists and colours, and how it is left.
 #include <QClipboard>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -457,6 +458,22 @@ TEST(Window, ListsRecentFilesAsTheyWereOpened) {
     window.Trigger("mnuclearrecent");
     EXPECT_EQ(entries(), "No file was opened yet|&Clear List");
     EXPECT_FALSE(Of<QAction>(window.form, "mnuclearrecent").isEnabled());
+}
+
+TEST(Window, FindsItsPlaceAgainUnlessWhatWasKeptOfItIsDamaged) {
+    WindowGame window;
+    Of<QDockWidget>(window.form, "dockUndoList").hide();
+    window.program.handlers().End();
+    for (const bool damaged : {false, true}) {
+        std::string docks = window.game.choices.Get("window/docks", "");
+        ASSERT_GT(docks.size(), 100U);
+        if (damaged) docks[100] = docks[100] == 'A' ? 'B' : 'A';
+        window.game.choices.Set("window/docks", docks);
+        Handlers none;
+        Form1 form(none, {});
+        form.TakePlace(window.game.choices);
+        EXPECT_NE(form.findChild<QDockWidget*>("dockUndoList")->isHidden(), damaged);
+    }
 }
 
 TEST(Window, StartsWithTheBoardInFocusAndTabGoesAllTheWayRound) {
