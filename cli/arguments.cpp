@@ -247,7 +247,7 @@ class Parser {
         CLI::App* const solve = Command("solve", "Solve puzzles", wishes_.solve, SolvePuzzles);
         AddFile(solve, wishes_.solve.file);
         AddRange(solve);
-        solve->add_option("--out", wishes_.solve.out, "Write the solved records to this file")
+        solve->add_option("--out", wishes_.solve.out, "Write the solved puzzles with their bridges to this file")
             ->type_name("FILE")
             ->transform(NameOfOutput);
         solve
@@ -256,7 +256,8 @@ class Parser {
                          "where trials lead nowhere")
             ->type_name("N")
             ->check(CLI::Range(0, kMostNumber));
-        solve->add_flag("--links", wishes_.solve.links, "Print the bridges as id-id:count");
+        solve->add_flag("--links", wishes_.solve.links,
+                        "Print the bridges as id-id:count; an id counts the cells row by row from 1");
         AddJobs(solve, wishes_.solve.jobs);
 
         CLI::App* const check = Command("check", "Judge the stored bridges and whether there is exactly one solution",
@@ -311,7 +312,7 @@ class Parser {
         AddFigures(create, "--density", order.character.density, {kMostDensity, 3},
                    "Islands in every 100 cells; N is give or take 3");
         AddFigures(create, "--loops", order.character.loops, {MostLoops({kMaxSide, kMaxSide}), 0},
-                   "Bridged pairs of islands beyond a tree");
+                   "How many loops the bridges close");
         AddFigures(create, "--doubles", order.character.doubles, {100, 5},
                    "Double bridges in every 100 bridged pairs; N is give or take 5");
     }
@@ -334,10 +335,12 @@ class Parser {
             Command("hint", "Tell the next step from a position, or what is wrong with it", wishes_.hint, GiveHint);
         AddFile(hint, wishes_.hint.file);
         AddNumber(hint, wishes_.hint.number);
-        hint->add_option("--laid", wishes_.laid, "The bridges that lie, as id-id:count with blanks between")
+        hint->add_option("--laid", wishes_.laid,
+                         "The bridges that lie, as solve --links prints them, id-id:count with blanks between")
             ->type_name("PAIRS")
             ->check([](const std::string& text) { return WhatIsNoPairs(text, true); });
-        hint->add_option("--not", wishes_.noMore, "Pairs that take no further bridge, as id-id with blanks between")
+        hint->add_option("--not", wishes_.noMore,
+                         "Pairs of islands that take no further bridge, as id-id with blanks between")
             ->type_name("PAIRS")
             ->check([](const std::string& text) { return WhatIsNoPairs(text, false); });
     }

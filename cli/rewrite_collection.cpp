@@ -96,7 +96,7 @@ int ShuffleCollection(Console& console, const ShuffleOptions& options) {
     if (output == kStandard) return ExitCodeOf(console, 0);
     ReportOnce(console, options.json,
                output + ": " + std::to_string(counts.written) + " lines written, " + std::to_string(counts.duplicates) +
-                   " that were there twice dropped",
+                   " duplicates left out",
                {{"file", output}, {"written", counts.written}, {"duplicates", counts.duplicates}});
     // What is written is written, whatever signal came meanwhile.
     return kDone;

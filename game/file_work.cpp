@@ -47,7 +47,7 @@ MayWait WaitingFor(Game& game, const std::string& path) {
 }
 
 std::string TornRecordText(const std::string& path) {
-    return "A record that was cut off while it was written was taken off the end of " + FileNameOf(path);
+    return "A puzzle that was cut off while it was written was taken off the end of " + FileNameOf(path);
 }
 
 std::string WorkFile(const Game& game, const std::string& name) {

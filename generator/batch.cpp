@@ -19,7 +19,7 @@ namespace tidewalk {
 
 namespace {
 
-constexpr const char* kJobName = "The batch";
+constexpr const char* kJobName = "Creating puzzles";
 
 /// A batch to make.
 struct Batch {

@@ -40,7 +40,7 @@ class ShownProgress {
 /// What the box at the end says; "" when the shuffle was cancelled.
 std::string Shuffle(Game& game, const std::string& input, const std::string& output) {
     const BusyPointer pointer(game);
-    Job job(game, "The shuffle");
+    Job job(game, "Shuffling");
     game.List2.Clear();
     game.List1.Clear();
     CloseFiles(game);

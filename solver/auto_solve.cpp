@@ -62,7 +62,7 @@ std::string SolvedButCutShort(const Game& game) {
     const bool imported = !game.collection.importedFrom.empty();
     const std::string puzzle = imported ? "Imported puzzle" : "Puzzle#" + Str(game.collection.PuzzleNumber);
     return "Solved. " + puzzle +
-           " is written without its bridges between touching islands, for which a record has no room";
+           " is written without its bridges between touching islands, as a collection has no room for them";
 }
 
 void ShowAndWriteSolution(Game& game) {

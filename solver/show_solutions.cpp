@@ -39,7 +39,7 @@ std::vector<Difference> DifferencesOf(const Archipelago& board, const SpanBridge
 /// Up to two solutions; nothing when the job was stopped before they were known, or another puzzle was loaded.
 std::optional<std::vector<SpanBridges>> FindInJob(Game& game, const Archipelago& board) {
     const BusyPointer pointer(game);
-    const Job job(game, "Solutions");
+    const Job job(game, "The search for solutions");
     game.window.SetText(WindowText::Status, "Looking for solutions ...");
     LetEventsThrough(game);
     auto found = FindSolutions(board, 2, Watched(game));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "techniques/assess_board.h"
 
+#include "game/order_choices.h"
 #include "model/numbers.h"
 #include "solver/difficulty.h"
 
@@ -27,8 +28,8 @@ void AssessBoard(Game& game) {
 
 std::string AssessmentText(BoardSize size, const Assessment& assessment) {
     std::string text = SizeText(size) + ", ";
-    if (assessment.score) text += std::string(DifficultyName(*assessment.score)) + ", ";
-    if (!assessment.solutions) return text + "number of solutions not known";
+    if (assessment.score) text += std::string(NameOf(std::optional(GradeOf(*assessment.score)))) + ", ";
+    if (!assessment.solutions) return text + "number of solutions unknown";
     if (*assessment.solutions == 0) return text + "no solution";
     return text + (*assessment.solutions == 1 ? "one solution" : "several solutions");
 }

@@ -39,7 +39,7 @@ void mnuexplain_Click(Game& game) {
     EndGuidance(game);
     const Archipelago board(game.board.puzzle);
     const auto solutions = SolutionsAtOnce(board);
-    if (!solutions) return ShowGuide(game, {}, "The solutions of this puzzle could not be found at once.");
+    if (!solutions) return ShowGuide(game, {}, "Finding the solutions of this puzzle would take too long.");
     if (solutions->empty()) return ShowGuide(game, {}, "This puzzle has no solution.");
     const SpanBridges* const only = solutions->size() == 1 ? &solutions->front() : nullptr;
     game.guidance.steps = ExplainPath(board, only, WithoutEnd);

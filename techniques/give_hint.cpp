@@ -44,7 +44,7 @@ void LayBridges(Game& game, const Archipelago& board, const Deduction& deduction
     }
     AfterMove(game);
     EndGuidance(game);
-    ShowGuide(game, {}, "The hint is laid. Undo takes it back, move by move.");
+    ShowGuide(game, {}, "The bridges are laid. Undo takes them back, move by move.");
 }
 
 void TellStep(Game& game, const Archipelago& board) {
@@ -64,7 +64,7 @@ void TellStep(Game& game, const Archipelago& board) {
             if (pair.mark == PairMark::None) guide.pairs.push_back(pair);
         }
     }
-    ShowGuide(game, guide, text + "Press Hint once more to have it laid.");
+    ShowGuide(game, guide, text + "Press Hint once more to lay the bridges.");
 }
 
 void TellMistake(Game& game, const Archipelago& board) {

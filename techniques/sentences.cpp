@@ -28,8 +28,11 @@ std::string Listed(const std::vector<std::string>& parts, std::string_view last 
     return text;
 }
 
+/// In words as far as islands are numbered: "the 3 needs three bridges" has one digit, the name of the island.
 std::string NumberWord(int n) {
-    return n == 1 ? "one" : n == 2 ? "two" : std::to_string(n);
+    constexpr std::array<const char*, 9> kWords{"none", "one", "two", "three", "four", "five", "six", "seven", "eight"};
+    const auto at = static_cast<std::size_t>(n);
+    return at < kWords.size() ? kWords.at(at) : std::to_string(n);
 }
 
 std::string BridgeCount(int n) {
@@ -252,7 +255,8 @@ class Writer {
     }
 
     static std::string IslandsBehind(std::size_t count) {
-        return count == 1 ? "the island behind it" : "the " + std::to_string(count) + " islands behind it";
+        return count == 1 ? "the island behind it"
+                          : "the " + NumberWord(static_cast<int>(count)) + " islands behind it";
     }
 
     std::string Outcome(const Contradiction& contradiction) const {

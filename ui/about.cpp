@@ -26,7 +26,7 @@ QString AboutText() {
                    "it on, "
                    "as long as the licence goes with it. It comes without any warranty.</p>"
                    "<p><b>Libraries</b><br>Qt %1, under the GNU Lesser General Public License, version 3: "
-                   "Core, Gui, Widgets, Print Support and Svg.<br>"
+                   "Core, Gui, Widgets, Print Support, SQL and SVG.<br>"
                    "The C++ standard library.</p>")
         .arg(QString::fromLatin1(qVersion()));
 }

@@ -92,9 +92,9 @@ BoardView::BoardView(Handlers& handlers, QWidget* parent)
     BoardAccessible::Install();
     setObjectName("Picture1");
     setAccessibleName(tr("Board"));
-    setAccessibleDescription(
-        tr("The arrow keys go from island to island, Enter selects one and lays bridges, Ctrl and an arrow lays one at "
-           "once"));
+    setAccessibleDescription(tr(
+        "The arrow keys go from island to island, Enter selects one and lays bridges, Ctrl with an arrow key lays one "
+        "at once"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);

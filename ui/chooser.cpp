@@ -93,8 +93,8 @@ void Chooser::AddFilters(QVBoxLayout& column) {
     grade_ = AddFilter("ChooserGrade", tr("&Grade"), *row);
     for (const std::optional<Grade> grade : kGradeChoices)
         grade_->addItem(TextOf(NameOf(grade)));
-    state_ = AddFilter("ChooserState", tr("&Played"), *row);
-    state_->addItems({tr("Any"), tr("Untouched"), tr("Begun"), tr("Solved")});
+    state_ = AddFilter("ChooserState", tr("St&ate"), *row);
+    state_->addItems({tr("Any state"), tr("Untouched"), tr("Begun"), tr("Solved")});
     row->addStretch(1);
     number_->setObjectName("ChooserNumber");
     number_->setAlignment(Qt::AlignRight);

@@ -22,8 +22,8 @@ struct Arguments {
                                "file.png"};
     QCommandLineOption solution{"solution", "With --picture: draw the solution."};
     QCommandLineOption pdf{"pdf", "Print puzzles of the collection, such as 3-7, into <file.pdf> and end.", "file.pdf"};
-    QCommandLineOption seed{"seed", "Make random draws reproducible, in a window of their own.", "number"};
-    QCommandLineOption newWindow{"new-window", "Open another window in place of handing over to one that is open."};
+    QCommandLineOption seed{"seed", "Make random draws reproducible. It opens another window.", "number"};
+    QCommandLineOption newWindow{"new-window", "Open another window, even if one is open already."};
 
     Arguments() {
         parser.setApplicationDescription("Play, solve and make bridges puzzles.");

@@ -283,12 +283,12 @@ bool Form1::eventFilter(QObject* watched, QEvent* event) {
 void Form1::AddDocks() {
     GiveToolTip(*undoList_, tr("Your moves, the newest on top|Point at one to see it on the board, double-click to go "
                                "back or ahead to it"));
-    AddDock(undoList_, tr("&Undo list"));
+    AddDock(undoList_, tr("&Undo List"));
     auto* const guide = new GuidePanel(handlers_);
     addDockWidget(Qt::RightDockWidgetArea, guide);
     guide->hide();
     OfferDock(guide, tr("&Hints"));
-    for (const auto& [list, caption] : {std::pair{list1_, tr("Work list &1")}, {list2_, tr("Work list &2")}}) {
+    for (const auto& [list, caption] : {std::pair{list1_, tr("Work List &1")}, {list2_, tr("Work List &2")}}) {
         QDockWidget* const dock = AddDock(list, caption);
         dock->hide();
         // The list is the receiver, since docks still tell when the window is gone.

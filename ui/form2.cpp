@@ -185,14 +185,13 @@ QWidget* Form2::ColoursBox() {
     auto* const both = FoldingRow();
     box->setLayout(both);
     auto* const layout = new QGridLayout;
-    AddColourRow(layout, AddButton("cmdgridcol", tr("&Grid"), "Set grid colour|Select colour first"), line2_,
+    AddColourRow(layout, AddButton("cmdgridcol", tr("T&hin lines"), "Set grid colour|Select colour first"), line2_,
                  &OptionsForm::Line2, cmdgridcol_Click);
-    AddColourRow(layout, AddButton("cmdchaincol", tr("C&hain"), "Set chain colour|Select colour first"), line1_,
+    AddColourRow(layout, AddButton("cmdchaincol", tr("Brid&ges"), "Set chain colour|Select colour first"), line1_,
                  &OptionsForm::Line1, cmdchaincol_Click);
-    AddColourRow(layout,
-                 AddButton("cmdgivenfg", tr("Gi&ven numbers"), "Set colour of given numbers|Select colour first"),
+    AddColourRow(layout, AddButton("cmdgivenfg", tr("Gi&ven numbers"), "Set number colour|Select colour first"),
                  label1_, &OptionsForm::Label1, cmdgivenfg_Click);
-    AddColourRow(layout, AddButton("cmdnodecol", tr("&Nodes"), "Set node colour|Select colour first"), label2_,
+    AddColourRow(layout, AddButton("cmdnodecol", tr("Isla&nds"), "Set island colour|Select colour first"), label2_,
                  &OptionsForm::Label2, cmdnodecol_Click);
     colPik1_->setObjectName("ColPik1");
     both->addLayout(layout);

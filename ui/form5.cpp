@@ -78,12 +78,12 @@ void Form5::AddControls() {
         button->setIcon({});
 
     auto* const grid = new QGridLayout(this);
-    grid->addWidget(LabelFor(tr("&File:"), fileNow_), 0, 0);
+    grid->addWidget(LabelFor(tr("&File"), fileNow_), 0, 0);
     grid->addWidget(fileNow_, 0, 1);
     grid->addWidget(browse, 0, 2);
-    grid->addWidget(LabelFor(tr("&Puzzles:"), text1_), 1, 0);
+    grid->addWidget(LabelFor(tr("&Puzzles"), text1_), 1, 0);
     grid->addLayout(range, 1, 1, 1, 2);
-    grid->addWidget(LabelFor(tr("P&rinter:"), combo1_), 2, 0);
+    grid->addWidget(LabelFor(tr("P&rinter"), combo1_), 2, 0);
     grid->addWidget(combo1_, 2, 1, 1, 2);
     grid->addWidget(buttons, 3, 0, 1, 3);
     grid->setColumnStretch(1, 1);

@@ -45,7 +45,7 @@ GuidePanel::GuidePanel(Handlers& handlers)
     text_->setTabChangesFocus(true);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     text_->setAccessibleName(tr("Hint"));
-    text_->setPlaceholderText(tr("What hints and explanations say stands here."));
+    text_->setPlaceholderText(tr("Hints and explanations are shown here."));
     steps_->setObjectName("GuideSteps");
     steps_->setWordWrap(true);
     steps_->setItemDelegate(new StepDelegate(steps_));

@@ -24,7 +24,7 @@ OrderPopup::OrderPopup(Handlers& handlers, QWidget* parent)
       grades_(new QButtonGroup(this)),
       oneSolution_(new OneSolutionBox(tr("&One solution"))) {
     setObjectName("NewOrder");
-    setWindowTitle(tr("New puzzle to order"));
+    setWindowTitle(tr("New Puzzle to Order"));
     // A click on the arrow that opened it closes it, and does not open it again.
     setAttribute(Qt::WA_NoMouseReplay);
     // Without a frame it could not be told from the tool bar.

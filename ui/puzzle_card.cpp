@@ -22,7 +22,7 @@ QString GradeText(const Assessment& assessment) {
 }
 
 QString SolutionsText(const Assessment& assessment) {
-    if (!assessment.solutions) return QObject::tr("Not known");
+    if (!assessment.solutions) return QObject::tr("Solutions unknown");
     if (*assessment.solutions == 1) return QObject::tr("One solution");
     return *assessment.solutions == 0 ? QObject::tr("No solution") : QObject::tr("Several solutions");
 }

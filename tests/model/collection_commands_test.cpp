@@ -134,7 +134,7 @@ TEST(AppendPuzzle, TellsOfATornRecordAtTheEnd) {
     game.world.Expect("Puzzle#2 appended to file " + path, kInformation);
     game.Run(mnuappend_Click);
     EXPECT_EQ(game.folder.Read("torn.txt"), Joined({Numbered(1), Numbered(2)}));
-    EXPECT_EQ(game.world.Status(), "A record that was cut off while it was written was taken off the end of torn.txt");
+    EXPECT_EQ(game.world.Status(), "A puzzle that was cut off while it was written was taken off the end of torn.txt");
 }
 
 TEST(WaitingForAFile, IsToldAfterAMomentAndGivenUpAfterAWhile) {

@@ -194,25 +194,24 @@ TEST(Sentence, TellsEachTechniqueWithTheNumbersOfTheCase) {
          "there."},
         {{"4.3", "...", "3.."},
          {},
-         "last [4-2 connect]: The 4 at row 1, column 1 needs 4 bridges, and its neighbours can take just as many: two "
-         "to the 3 on its right and two to the 3 below it."},
+         "last [4-2 connect]: The 4 at row 1, column 1 needs four bridges, and its neighbours can take just as many: "
+         "two to the 3 on its right and two to the 3 below it."},
         {{"4.3.2", ".....", "3.4.3", ".....", "2.3.2"},
          {{1, 3, 1, false}, {1, 11, 1, false}},
          "last [2-R1 connect]: The 4 at row 1, column 1 needs two more bridges, and its neighbours can take just as "
          "many: one to the 3 on its right and one to the 3 below it."},
         {{"2.5.2", ".....", "3.4.3", ".....", "2.3.2"},
          {},
-         "least [5-3 links connect]: The 5 at row 1, column 3 needs 5 bridges. Leaving out the 2 on its left, the 2 on "
-         "its right or the 4 below it, it could get only 4, so at least one bridge goes to each of them."},
+         "least [5-3 links connect]: The 5 at row 1, column 3 needs five bridges. Leaving out the 2 on its left, the 2 "
+         "on its right or the 4 below it, it could get only four, so at least one bridge goes to each of them."},
         {{"1.3.1", ".....", "3.4.3", ".....", "2.3.2"},
          {},
-         "least [3-3-2 1s connect]: The 3 at row 1, column 3 needs 3 bridges. Without the 4 below it, the others can "
-         "take only two, so at least one bridge goes there."},
+         "least [3-3-2 1s connect]: The 3 at row 1, column 3 needs three bridges. Without the 4 below it, the others "
+         "can take only two, so at least one bridge goes there."},
         {{"2.5.2", ".....", "3.4.3", ".....", "2.3.2"},
          {{1, 3, 2, false}},
-         "least [3-2 connect part1]: The 5 at row 1, column 3 needs 3 more bridges. Leaving out the 2 on its right or "
-         "the "
-         "4 below it, it could get only two, so at least one bridge goes to each of them."},
+         "least [3-2 connect part1]: The 5 at row 1, column 3 needs three more bridges. Leaving out the 2 on its right "
+         "or the 4 below it, it could get only two, so at least one bridge goes to each of them."},
         {{"2.3.2", ".....", "3.4.3", ".....", "2.3.2"},
          {{1, 3, 1, false}, {1, 11, 1, false}},
          "nomore: The 2 at row 1, column 1 has all its bridges: no more go to the 3 on its right and the 3 below it."},
@@ -228,8 +227,8 @@ TEST(Sentence, TellsEachTechniqueWithTheNumbersOfTheCase) {
         {{"2.3.2........", ".............", "3.4.3........", ".............", "2.3.2...2.3.2", ".............",
           "........3.4.3", ".............", "........2.3.2"},
          {},
-         "wayout: The 2 at row 5, column 5 and the 8 islands behind it hang together with all the other islands only "
-         "by way of the 2 on its right. So at least one bridge joins these two."},
+         "wayout: The 2 at row 5, column 5 and the eight islands behind it hang together with all the other islands "
+         "only by way of the 2 on its right. So at least one bridge joins these two."},
         {{"....", "2.23", "32.3", "4..2", "331.", "...."},
          {{7, 8, 1, false}, {17, 18, 1, false}, {5, 9, 1, false}, {8, 12, 1, false}, {13, 17, 1, false}},
          "suppose: If a bridge joined the 2 at row 2, column 3 and the 1 below it, the 4 at row 4, column 1 could not "

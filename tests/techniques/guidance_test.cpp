@@ -34,13 +34,14 @@ TEST(Hint, FramesThenTellsThenLaysAsMoves) {
     EXPECT_EQ(game.Hint(), "The last bridges: look at the framed islands.\n\nPress Hint again to be told why.");
     EXPECT_EQ(game.board.ShownGuide()->islands, (std::vector<CellNumber>{3, 1, 5}));
     EXPECT_TRUE(game.board.ShownGuide()->pairs.empty());
-    EXPECT_EQ(game.Hint(),
-              "The 3 at row 1, column 3 needs 3 bridges, and its neighbours can take just as many: two to the 3 on its "
-              "left and one to the 1 on its right.\n\nPress Hint once more to have it laid.");
+    EXPECT_EQ(
+        game.Hint(),
+        "The 3 at row 1, column 3 needs three bridges, and its neighbours can take just as many: two to the 3 on its "
+        "left and one to the 1 on its right.\n\nPress Hint once more to lay the bridges.");
     EXPECT_EQ(game.board.ShownGuide()->pairs,
               (std::vector<MarkedPair>{{1, 3, 2, PairMark::Lay}, {3, 5, 1, PairMark::Lay}}));
     EXPECT_TRUE(game.board.history.UndoList().empty());
-    EXPECT_EQ(game.Hint(), "The hint is laid. Undo takes it back, move by move.");
+    EXPECT_EQ(game.Hint(), "The bridges are laid. Undo takes them back, move by move.");
     EXPECT_EQ(game.board.BridgeState(1, 3) * 10 + game.board.BridgeState(5, 3), 21);
     game.Run(cmdundo_Click);
     game.Run(cmdundo_Click);
@@ -121,7 +122,7 @@ TEST(Assessment, IsShownWhenItIsKnownAndThePuzzleStillThere) {
     const std::pair<Assessment, const char*> cases[] = {{{1, 6}, "3x5, Hard, one solution"},
                                                         {{2, std::nullopt}, "3x5, several solutions"},
                                                         {{0, std::nullopt}, "3x5, no solution"},
-                                                        {{}, "3x5, number of solutions not known"}};
+                                                        {{}, "3x5, number of solutions unknown"}};
     for (const auto& [assessment, text] : cases) {
         game.world.assessed(assessment);
         EXPECT_EQ(game.world.Text(WindowText::Assessment), text);

@@ -57,9 +57,10 @@ QString ShownIn(QTableView& table) {
 TEST(Chooser, ShowsWhatIsKnownOfEachPuzzle) {
     ChooserGame game;
     game.Choose([&](Chooser& chooser, QTableView& table) {
-        EXPECT_EQ(ShownIn(table).remove(QRegularExpression(", \\d:\\d\\d")).toStdString(),
-                  "Puzzle 1, 1x5, VEasy, one solution; Puzzle 2, 3x3, several solutions; Puzzle 3, 1x21, VEasy, one "
-                  "solution, solved; Puzzle 4, not a puzzle; Puzzle 5, 1x5, VEasy, one solution");
+        EXPECT_EQ(
+            ShownIn(table).remove(QRegularExpression(", \\d:\\d\\d")).toStdString(),
+            "Puzzle 1, 1x5, Very easy, one solution; Puzzle 2, 3x3, several solutions; Puzzle 3, 1x21, Very easy, one "
+            "solution, solved; Puzzle 4, not a puzzle; Puzzle 5, 1x5, Very easy, one solution");
         EXPECT_EQ(Of<QLabel>(chooser, "ChooserCount").text(), "5 puzzles");
         EXPECT_EQ(chooser.Chosen(), 3) << "the one on the board";
         table.grab();
