@@ -13,6 +13,7 @@ void FitOnScreen(QDialog& dialog) {
     const QSize room = dialog.screen()->availableSize() - kFrame;
     const QSize needed = dialog.layout()->totalMinimumSize();
     if (needed.width() <= room.width() && needed.height() <= room.height()) return;
+    const QSize wanted = dialog.testAttribute(Qt::WA_Resized) ? dialog.size() : dialog.sizeHint();
     auto* const page = new QWidget;
     page->setLayout(dialog.layout());
     auto* const area = new QScrollArea;
@@ -23,7 +24,7 @@ void FitOnScreen(QDialog& dialog) {
     auto* const around = new QVBoxLayout(&dialog);
     around->setContentsMargins(0, 0, 0, 0);
     around->addWidget(area);
-    dialog.resize(dialog.size().boundedTo(room));
+    dialog.resize(wanted.expandedTo(needed).boundedTo(room));
 }
 
 }  // namespace tidewalk
