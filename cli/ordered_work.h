@@ -77,13 +77,21 @@ class OrderedWork {
             room_.wait(lock, [this] { return ended_ || started_ < taken_ + mostAhead_; });
             if (ended_) return false;
         }
-        if (!steps_.next(task)) {
-            EndWith(nullptr);
-            return false;
-        }
+        // While nobody else can ask: after its end, or a failure, there is no next one.
+        if (!HasNext(task)) return false;
         const std::lock_guard lock(mutex_);
         index = started_++;
         return true;
+    }
+
+    bool HasNext(Task& task) {
+        try {
+            if (steps_.next(task)) return true;
+            EndWith(nullptr);
+        } catch (...) {
+            EndWith(std::current_exception());
+        }
+        return false;
     }
 
     /// Takes the results that are due, unless another thread is at it, which then takes these, too.
