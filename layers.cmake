@@ -32,8 +32,9 @@ file(REMOVE_RECURSE ${CMAKE_BINARY_DIR}/layers)
 
 tidewalk_layer(model FILES
     model/cell_set model/cell_words model/characters model/check model/collection_file model/convert_layout
-    model/file_error model/grid model/line_index model/line_reader model/link model/may_go_on model/numbers model/paths
-    model/plain_grid model/puzzle model/puzzle_range model/puzzle_record model/put_aside model/random_source model/replace_file model/system_file)
+    model/file_error model/grid model/line_index model/line_reader model/link model/may_go_on model/numbers
+    model/paths model/plain_grid model/puzzle model/puzzle_range model/puzzle_record model/put_aside
+    model/random_source model/replace_file model/system_file)
 
 tidewalk_layer(solver ON model FILES
     solver/archipelago solver/balance solver/bound_trail solver/clauses solver/connect_islands solver/contradictions
@@ -43,8 +44,8 @@ tidewalk_layer(solver ON model FILES
 
 tidewalk_layer(techniques ON solver FILES
     techniques/counting techniques/cutting_off techniques/deducer techniques/deduction techniques/explain
-    techniques/grade techniques/groups techniques/hint techniques/named_rule techniques/position techniques/puzzle_filter
-    techniques/sentences techniques/supposing)
+    techniques/grade techniques/groups techniques/hint techniques/named_rule techniques/position
+    techniques/puzzle_filter techniques/sentences techniques/supposing)
 
 tidewalk_layer(generator ON techniques FILES
     generator/add_islands generator/character generator/character_choices generator/create_puzzle
@@ -57,16 +58,16 @@ tidewalk_layer(drawing ON model FILES
     drawing/contrast drawing/double_line drawing/render_puzzle drawing/surface)
 
 tidewalk_layer(board ON drawing FILES
-    board/board board/bridge_table board/check_bridges board/draw_marks board/drawing board/guide board/history board/history_lines board/kept_play_text board/layout
-    board/mistakes board/pair_marks board/place_bridge
+    board/board board/bridge_table board/check_bridges board/draw_marks board/drawing board/guide board/history
+    board/history_lines board/kept_play_text board/layout board/mistakes board/pair_marks board/place_bridge
     options/options)
 
 # The game: what the window's handlers share, and the seams to the world.
 
 tidewalk_layer(game ON board generator FILES
-    game/background game/choices game/clock game/file_work game/game game/guidance game/job game/job_state game/list_box
-    game/main_window game/messages game/order_choices game/output game/pick_file game/play_store game/play_time
-    game/questions game/recent_files)
+    game/background game/choices game/clock game/file_work game/game game/guidance game/job game/job_state
+    game/list_box game/main_window game/messages game/order_choices game/output game/pick_file game/play_store
+    game/play_time game/questions game/recent_files)
 
 # The handlers of menus, buttons, mouse and keys, each beside its subject.
 

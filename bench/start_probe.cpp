@@ -89,9 +89,9 @@ class StartProbePlugin final : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "start_probe.json")
 
  public:
-    /// `specification` is the moment of the start in nanoseconds and the number of the pipe, with a colon between.
-    QObject* create(const QString&, const QString& specification) override {
-        return new Probe(specification.section(':', 0, 0).toLongLong(), specification.section(':', 1, 1).toInt());
+    /// `timing` is the moment of the start in nanoseconds and the number of the pipe, with a colon between.
+    QObject* create(const QString&, const QString& timing) override {
+        return new Probe(timing.section(':', 0, 0).toLongLong(), timing.section(':', 1, 1).toInt());
     }
 };
 
