@@ -7,6 +7,7 @@
 
 #include "model/line_reader.h"
 #include "model/puzzle_record.h"
+#include "ui/qt_background.h"
 
 namespace tidewalk {
 
@@ -14,16 +15,6 @@ namespace {
 
 /// So many choices are seconds of work: then the puzzle has no grade here.
 constexpr int kMostChoices = 200'000;
-
-Assessment Assess(const Puzzle& puzzle, const std::atomic<bool>& stop) {
-    try {
-        int choices = 0;
-        return AssessPuzzle(puzzle, [&] { return !stop && ++choices <= kMostChoices; });
-    } catch (const std::exception&) {
-        // Out of memory, for one: then it is not known.
-        return {};
-    }
-}
 
 }  // namespace
 
@@ -67,7 +58,7 @@ bool PuzzleGrader::Next(Question& question) {
 void PuzzleGrader::Work() {
     Question question;
     while (Next(question)) {
-        const Assessment assessment = Assess(question.puzzle, stop_);
+        const Assessment assessment = AssessWithin(kMostChoices, question.puzzle, stop_);
         const auto tell = [this, assessment, generation = question.generation, number = question.number] {
             if (generation == generation_) emit Known(number, assessment);
         };
@@ -88,22 +79,22 @@ void PuzzleSearch::Stop() {
 }
 
 void PuzzleSearch::Look(const std::string& path, const PuzzleFilter& filter, const PlayStates& states, int search) {
-    using Clock = std::chrono::steady_clock;
+    using Steady = std::chrono::steady_clock;
     constexpr auto kPause = std::chrono::milliseconds(100);
     QList<int> numbers;
     int looked = 0;
-    auto told = Clock::now();
+    auto told = Steady::now();
     const auto tell = [&](bool atEnd) {
         const auto now = [this, numbers = std::exchange(numbers, {}), looked, atEnd, search] {
             if (search == search_) emit Found(numbers, looked, atEnd);
         };
         QMetaObject::invokeMethod(this, now, Qt::QueuedConnection);
-        told = Clock::now();
+        told = Steady::now();
     };
     const auto takes = [&](const std::string& line) {
         const auto puzzle = ParsePuzzleRecord(line);
         if (!puzzle || !filter.TakesAtOnce(puzzle->Size(), states.Of(*puzzle).state)) return false;
-        return !filter.grade || filter.TakesGrade(Assess(*puzzle, stop_));
+        return !filter.grade || filter.TakesGrade(AssessWithin(kMostChoices, *puzzle, stop_));
     };
     try {
         LineReader lines(path);
@@ -111,7 +102,7 @@ void PuzzleSearch::Look(const std::string& path, const PuzzleFilter& filter, con
         while (!stop_ && lines.Next(line)) {
             ++looked;
             if (takes(line)) numbers += looked;
-            if (Clock::now() - told >= kPause) tell(false);
+            if (Steady::now() - told >= kPause) tell(false);
         }
     } catch (const std::exception&) {
         // What cannot be read further ends here.

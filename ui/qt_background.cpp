@@ -12,17 +12,17 @@ constexpr int kDelay = 30;  ///< in milliseconds
 /// So many choices are many seconds of work; who could not tell by then will hardly ever.
 constexpr int kMostChoices = 2'000'000;
 
-Assessment AssessUntil(const Puzzle& puzzle, const std::atomic<bool>& stop) {
+}  // namespace
+
+Assessment AssessWithin(int mostChoices, const Puzzle& puzzle, const std::atomic<bool>& stop) {
     try {
         int choices = 0;
-        return AssessPuzzle(puzzle, [&] { return !stop && ++choices <= kMostChoices; });
+        return AssessPuzzle(puzzle, [&] { return !stop && ++choices <= mostChoices; });
     } catch (const std::exception&) {
         // Out of memory, for one: then it is not known.
         return {};
     }
 }
-
-}  // namespace
 
 QtBackground::QtBackground(Handlers& handlers) : handlers_(handlers) {
     start_.setSingleShot(true);
@@ -45,7 +45,7 @@ void QtBackground::Assess(const Puzzle& puzzle, std::function<void(const Assessm
 void QtBackground::Begin() {
     Stop();
     thread_ = std::thread([this, puzzle = puzzle_, question = question_] {
-        const Assessment assessment = AssessUntil(puzzle, stop_);
+        const Assessment assessment = AssessWithin(kMostChoices, puzzle, stop_);
         const auto tell = [this, assessment, question] {
             if (question == question_) handlers_.Run([&](Game&) { done_(assessment); });
         };

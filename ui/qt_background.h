@@ -12,6 +12,10 @@
 
 namespace tidewalk {
 
+/// Assesses a puzzle until another thread sets `stop`, or it has taken so many choices; what is not known then stays
+/// open. Throws nothing.
+Assessment AssessWithin(int mostChoices, const Puzzle& puzzle, const std::atomic<bool>& stop);
+
 /// Assesses one puzzle at a time. The thread gets a copy of the puzzle and gives an answer back; it shares nothing
 /// else.
 class QtBackground final : public QObject, public Background {
