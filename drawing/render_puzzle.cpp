@@ -88,6 +88,7 @@ void DrawBridges(const Puzzle& puzzle, Surface& surface, const PrintedBoard& boa
         const double y1 = board.Y(a.row);
         const double x2 = board.X(b.col);
         const double y2 = board.Y(b.row);
+        surface.SetKind(link.Bridges() == 2 ? Kind::DoubleBridge : Kind::Bridge);
         if (link.Bridges() == 1) surface.Line(x1, y1, x2, y2, kBlack);
         if (link.Bridges() == 2) DrawDoubleLine(surface, x1, y1, x2, y2, board.Gap(), kBlack);
     }
@@ -99,12 +100,12 @@ void DrawIslands(const Puzzle& puzzle, Surface& surface, const PrintedBoard& boa
         const int number = puzzle.IslandAt(id);
         if (number <= 0) continue;
         const auto [row, col] = puzzle.PlaceOf(id);
-        const std::string text = NumText(number);
-        const Surface::Extent extent = surface.TextExtent(text);
         const double x = board.X(col);
         const double y = board.Y(row);
+        surface.SetKind(Kind::Island);
         surface.Circle(x, y, board.Radius(), kBlack, kWhite);
-        surface.Print(x - extent.width / 2, y - extent.height / 2, text, kBlack);
+        surface.SetKind(Kind::Number);
+        surface.PrintCentred(x, y, NumText(number), kBlack);
         Include(drawn, x - reach, y - reach, x + reach, y + reach);
     }
 }
@@ -126,6 +127,7 @@ bool IsWidePage(const RenderRequest& request) {
 /// wide page it stands above its board.
 void PrintHeading(const Puzzle& puzzle, Surface& surface, const RenderRequest& request, const PrintedBoard& solution,
                   Surface::Area& drawn) {
+    surface.SetKind(Kind::Heading);
     surface.SetFontSize(kHeadingSize);
     const std::string text = "Solution" + Str(puzzle.Rows) + "x" + NumText(puzzle.Cols);
     if (IsWidePage(request)) return PrintText(surface, solution.left, solution.top - kHeadingRoom, text, drawn);
@@ -138,12 +140,14 @@ void PrintHeading(const Puzzle& puzzle, Surface& surface, const RenderRequest& r
 
 /// Title on top, footer under the boards of a picture or at the foot of a page.
 void PrintTitleLine(Surface& surface, const RenderRequest& request, Surface::Area& drawn) {
+    surface.SetKind(Kind::Title);
     surface.SetFontSize(kTitleSize);
     const std::string title = Shortened(surface, request.title, request.limit.right - request.x0);
     PrintText(surface, request.x0, request.y0 - kTitleAboveOffset, title, drawn);
 }
 
 void PrintFooter(Surface& surface, const RenderRequest& request, Surface::Area& drawn) {
+    surface.SetKind(Kind::Footer);
     surface.SetFontSize(kFooterSize);
     const double height = surface.TextExtent(FooterText()).height;
     const double y = request.mode == RenderMode::Page ? request.limit.bottom - height : drawn.bottom + kFooterGap;

@@ -20,6 +20,9 @@ inline constexpr int kPictureOffset = 400;
 inline constexpr int kPageOffsetX = 1200;
 inline constexpr int kPageOffsetY = 800;
 
+/// Around what is drawn on a picture, in twips.
+inline constexpr double kPictureMargin = 200;
+
 /// The side of the clipboard's surface, in twips, larger than any drawing.
 inline constexpr double kPictureExtent = 99999;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The one drawing surface: the board's picture, the clipboard's picture, a printed page.
+// The one drawing surface: the board's picture, the clipboard's picture, a printed page, a picture in SVG.
 #pragma once
 
 #include <cstdint>
@@ -28,6 +28,9 @@ constexpr int BlueOf(Colour colour) {
 inline constexpr Colour kBlack = Rgb(0, 0, 0);
 inline constexpr Colour kWhite = Rgb(255, 255, 255);
 
+/// What something that is drawn stands for.
+enum class Kind { Other, Title, Heading, Footer, Bridge, DoubleBridge, Island, Number };
+
 /// Something to draw on. Lengths are twips (1/1440 inch) from the top left corner, pen widths pixels.
 class Surface {
  public:
@@ -45,6 +48,9 @@ class Surface {
     };
 
     virtual ~Surface() = default;
+
+    /// What everything to come stands for. Only what writes the drawing down has to know.
+    virtual void SetKind(Kind) {}
 
     /// Wipes everything with one colour.
     virtual void Clear(Colour background) = 0;
@@ -66,6 +72,11 @@ class Surface {
     virtual Extent TextExtent(const std::string& text) = 0;
     /// Draws the text with the top left corner of its extent at (x, y).
     virtual void Print(double x, double y, const std::string& text, Colour colour) = 0;
+    /// Draws the text with the middle of its extent at (x, y).
+    virtual void PrintCentred(double x, double y, const std::string& text, Colour colour) {
+        const Extent extent = TextExtent(text);
+        Print(x - extent.width / 2, y - extent.height / 2, text, colour);
+    }
 };
 
 }  // namespace tidewalk

@@ -10,6 +10,8 @@
 #include <tuple>
 
 #include "drawing/contrast.h"
+#include "drawing/puzzle_svg.h"
+#include "drawing/svg_surface.h"
 #include "support/board_text.h"
 #include "support/recording_surface.h"
 
@@ -180,6 +182,78 @@ TEST(RenderPuzzle, LongTitleLosesItsMiddleBetweenCharacters) {
         // 80 twips a byte between the offset and the edge of the page.
         EXPECT_NEAR(static_cast<double>(shown.size()), 15 + (11546 - 1200) / 80 + 2, 4) << "no shorter than it must be";
     }
+}
+
+TEST(PuzzleSvg, IsTheDrawingWithAClassForEachKindAndWordsForThoseWhoCannotSeeIt) {
+    // Overlong, a surrogate, no character, cut short: what is no text of XML.
+    const std::string path = "a<b>&\"\xC3\xBC\x01\xFF\xC0\xAF\xED\xA0\x80\xEF\xBF\xBF\xC3";
+    const std::string bad = "\xEF\xBF\xBD";
+    std::string svg = PuzzleSvg(PuzzleFrom({"2=3-1"}), PictureRequest(RenderMode::Solution, "#1 " + path, 4));
+    const std::string title = "#1 a&lt;b&gt;&amp;\"\xC3\xBC" + bad + bad + bad + bad + bad + bad;
+    const std::string name = svg.substr(svg.find("puzzle-"), svg.find("\" role") - svg.find("puzzle-"));
+    for (std::size_t at = 0; (at = svg.find(name, at)) != std::string::npos;)
+        svg.replace(at, name.size(), "ID");
+    EXPECT_EQ(
+        svg,
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+        "<svg xmlns=\"http://www.w3.org/2000/svg\" id=\"ID\" role=\"img\" aria-labelledby=\"ID-title ID-desc\" "
+        "width=\"325\" height=\"168\" viewBox=\"195 0 4875 2520\">\n"
+        "<title id=\"ID-title\">" +
+            title +
+            "</title>\n"
+            "<desc id=\"ID-desc\">The solution of a bridges puzzle of 1 row and 5 columns with 3 islands. Row 1: 2 in "
+            "column 1, 3 in column 3, 1 in column 5. Bridges: one in row 1 from column 3 to 5, two in row 1 from "
+            "column 1 to 3.</desc>\n"
+            "<style type=\"text/css\">\n"
+            "#ID text{font-family:Arial,Helvetica,'Liberation Sans',sans-serif}\n"
+            "#ID .title{fill:#000;font-size:160px}\n"
+            "#ID .footer{fill:#000;font-size:120px}\n"
+            "#ID .bridge{stroke:#000;stroke-width:19.2}\n"
+            "#ID .double-bridge{stroke:#000;stroke-width:19.2}\n"
+            "#ID .island{fill:#fff;stroke:#000;stroke-width:19.2}\n"
+            "#ID .number{fill:#000;text-anchor:middle;font-size:306.7px}\n"
+            "</style>\n"
+            "<rect class=\"paper\" x=\"195\" y=\"0\" width=\"4875\" height=\"2520\" fill=\"#fff\"/>\n"
+            "<text class=\"title\" x=\"400\" y=\"344.8\">" +
+            title +
+            "</text>\n"
+            "<line class=\"bridge\" x1=\"2682\" y1=\"1682\" x2=\"4482\" y2=\"1682\"/>\n"
+            "<line class=\"double-bridge\" x1=\"882\" y1=\"1682\" x2=\"2682\" y2=\"1682\"/>\n"
+            "<line class=\"double-bridge\" x1=\"882\" y1=\"1794\" x2=\"2682\" y2=\"1794\"/>\n"
+            "<circle class=\"island\" cx=\"882\" cy=\"1682\" r=\"360\"/>\n"
+            "<text class=\"number\" x=\"882\" y=\"1790.9\">2</text>\n"
+            "<circle class=\"island\" cx=\"2682\" cy=\"1682\" r=\"360\"/>\n"
+            "<text class=\"number\" x=\"2682\" y=\"1790.9\">3</text>\n"
+            "<circle class=\"island\" cx=\"4482\" cy=\"1682\" r=\"360\"/>\n"
+            "<text class=\"number\" x=\"4482\" y=\"1790.9\">1</text>\n"
+            "<text class=\"footer\" x=\"400\" y=\"2280.2\">Tidewalk - bridges puzzles to play, solve and "
+            "make</text>\n"
+            "</svg>\n");
+    const RenderRequest plain = PictureRequest(RenderMode::Puzzle, "", 4);
+    const std::string corners = PuzzleSvg(Corners(7, 7), plain);
+    EXPECT_EQ(corners.find("ridges:"), std::string::npos) << "a puzzle does not tell its bridges";
+    EXPECT_EQ(corners, PuzzleSvg(Corners(7, 7), plain));
+    EXPECT_NE(corners.substr(0, 200), PuzzleSvg(Corners(7, 8), plain).substr(0, 200)) << "each has its own name";
+}
+
+TEST(SvgSurface, WhatLooksOtherThanItsKindSaysSo) {
+    SvgSurface surface(15);
+    surface.SetKind(Kind::Bridge);
+    surface.Line(1, 2, 3.04, -0.01, kBlack);
+    surface.SetDrawWidth(2);
+    surface.Line(1, 2, 3, 4, kBlack);
+    surface.SetKind(Kind::Other);
+    surface.Box(30, 40, 10, 20, Rgb(1, 2, 255));
+    surface.FilledBox(0, 0, 1, 1, kWhite);
+    surface.Circle(5, 5, 5, kWhite, kWhite);
+    const std::string svg = surface.Document({0, 0, 15, 15}, "", "");
+    for (const char* const part :
+         {".bridge{stroke:#000;stroke-width:15}", ".other{fill:none;stroke:#0102ff;stroke-width:30}",
+          "</style>\n<line class=\"bridge\" x1=\"1\" y1=\"2\" x2=\"3\" y2=\"0\"/>\n<line class=\"bridge\" x1=\"1\" "
+          "y1=\"2\" x2=\"3\" y2=\"4\" style=\"stroke:#000;stroke-width:30\"/>\n<rect class=\"other\" x=\"10\" y=\"20\" "
+          "width=\"20\" height=\"20\"/>\n<rect class=\"other\" x=\"0\" y=\"0\" width=\"1\" height=\"1\" "
+          "style=\"fill:#fff\"/>\n<circle class=\"other\" cx=\"5\" cy=\"5\" r=\"5\" style=\"fill:#fff\"/>\n</svg>"})
+        EXPECT_NE(svg.find(part), std::string::npos) << part << "\nin\n" << svg;
 }
 
 TEST(Contrast, TellsWhatIsLegible) {
