@@ -107,6 +107,11 @@ std::vector<PlayedPair> PositionOf(const std::string& laid, const std::string& n
 const std::map<std::string, Grade> kGrades{
     {"veasy", Grade::VEasy}, {"easy", Grade::Easy}, {"hard", Grade::Hard}, {"vhard", Grade::VHard}};
 
+/// When drawings are coloured, and how large their cells are, as one says it.
+const std::map<std::string, Colouring> kColourings{
+    {"auto", Colouring::Auto}, {"always", Colouring::Always}, {"never", Colouring::Never}};
+const std::map<std::string, std::optional<bool>> kCellSizes{{"auto", std::nullopt}, {"small", false}, {"large", true}};
+
 /// What the figures of a character may be.
 struct FigureRule {
     int most;   ///< what no size has more of
@@ -318,10 +323,26 @@ class Parser {
     }
 
     void AddShow() {
-        CLI::App* const show = Command("show", "Draw a puzzle in the terminal", wishes_.show, ShowPuzzle);
-        AddFile(show, wishes_.show.file);
-        AddNumber(show, wishes_.show.number);
-        show->add_flag("--solution", wishes_.show.solution, "With the stored bridges");
+        ShowOptions& options = wishes_.show;
+        CLI::App* const show = Command("show", "Draw a puzzle in the terminal, or as a picture", options, ShowPuzzle);
+        AddFile(show, options.file);
+        AddNumber(show, options.number);
+        show->add_flag("--solution", options.solution, "With the stored bridges");
+        CLI::Option* const svg = show->add_flag("--svg", options.svg, "Print a picture in SVG");
+        svg->excludes(show->get_option("--json"));
+        const auto addWord = [show, svg](const char* name, const char* text, const char* words, const auto& values,
+                                         auto& value) {
+            show->add_option_function<std::string>(
+                    name, [&values, &value](const std::string& word) { value = values.at(word); }, text)
+                ->type_name(words)
+                ->check(CLI::IsMember(values).description(""))
+                ->excludes(svg);
+        };
+        addWord("--color", "With colours; auto is on a terminal, unless NO_COLOR is set", "auto|always|never",
+                kColourings, options.colour);
+        addWord("--cells", "How large cells are; auto is large on a terminal with room for it", "auto|small|large",
+                kCellSizes, options.largeCells);
+        show->add_flag("--ascii", options.ascii, "Plain characters, bridges of - = | and \"")->excludes(svg);
     }
 
     void AddTeachers() {

@@ -82,13 +82,20 @@ struct HintOptions {
 /// Tells the next step from a position, or what is wrong with it.
 int GiveHint(Console& console, const HintOptions& options);
 
+/// Whether a drawing in the terminal has colours; `Auto` leaves it to the terminal.
+enum class Colouring { Auto, Always, Never };
+
 struct ShowOptions {
     std::string file;
     int number = 1;
     bool solution = false;
+    bool svg = false;  ///< a picture in SVG in place of characters
+    Colouring colour = Colouring::Auto;
+    std::optional<bool> largeCells;  ///< nothing leaves it to the terminal's width
+    bool ascii = false;
     bool json = false;
 };
-/// Draws a puzzle with box characters.
+/// Draws a puzzle with characters, or as a picture in SVG.
 int ShowPuzzle(Console& console, const ShowOptions& options);
 
 struct ShuffleOptions {

@@ -23,6 +23,9 @@ struct Console {
     bool outIsTerminal = false;
     bool errIsTerminal = false;
     bool isDone = false;  ///< what was done cannot be done again: a report that nobody could read is no failure
+    int outColumns = 0;   ///< of the terminal behind `out`, where there is one and it tells
+    int outRows = 0;
+    bool outShowsColour = false;  ///< a terminal that knows colours, and nobody has said that there are to be none
 
     /// True when the run is to end: it was asked to, or nobody takes its results any more.
     bool Stopped() const { return stopSignal != 0 || !out; }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The console program: its streams, and the signals that end it.
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <iostream>
@@ -48,6 +50,19 @@ void WatchSignals() {
     std::signal(SIGPIPE, SIG_IGN);
 }
 
+/// How large the terminal is; nothing when that is not known.
+winsize TerminalSize() {
+    winsize size{};
+    return ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 ? size : winsize{};
+}
+
+/// The custom of https://no-color.org: any text in NO_COLOR means no colours.
+bool MayShowColour() {
+    const char* const noColour = std::getenv("NO_COLOR");
+    const char* const terminal = std::getenv("TERM");
+    return (noColour == nullptr || *noColour == '\0') && terminal != nullptr && std::strcmp(terminal, "dumb") != 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -59,6 +74,10 @@ int main(int argc, char** argv) {
     tidewalk::Console console{
         in, out, std::cerr, stopSignal, isatty(STDOUT_FILENO) != 0, isatty(STDERR_FILENO) != 0,
     };
+    const winsize size = TerminalSize();
+    console.outColumns = size.ws_col;
+    console.outRows = size.ws_row;
+    console.outShowsColour = console.outIsTerminal && MayShowColour();
     const int code = tidewalk::RunCommandLine(console, {argv + 1, argv + argc});
     out.flush();
     if (outBuffer.Failure() == 0 || stopSignal != 0 || console.isDone) return code;

@@ -8,6 +8,7 @@
 #include <sstream>
 
 #include "cli/arguments.h"
+#include "drawing/puzzle_svg.h"
 #include "model/puzzle_record.h"
 #include "support/board_text.h"
 #include "support/temp_folder.h"
@@ -27,6 +28,9 @@ class Cli : public ::testing::Test {
         std::ostringstream err;
         std::atomic<int> noSignal = 0;
         Console console{in, out, err, noSignal, outIsTerminal_, errIsTerminal_};
+        console.outColumns = 11;
+        console.outRows = terminalRows_;
+        console.outShowsColour = outIsTerminal_;
         const int code = RunCommandLine(console, arguments);
         out_ = out.str();
         err_ = err.str();
@@ -49,6 +53,7 @@ class Cli : public ::testing::Test {
     TempFolder folder_;
     bool outIsTerminal_ = false;
     bool errIsTerminal_ = false;
+    int terminalRows_ = 6;
     std::string out_;
     std::string err_;
 };
@@ -259,6 +264,40 @@ TEST_F(Cli, ShowDrawsBridgesWithBoxCharacters) {
     EXPECT_EQ(out_, "3 · 3\n· · ·\n1 · 1\n");
     EXPECT_EQ(Run({"show", file, "2", "--solution"}), 1);
     EXPECT_EQ(err_, "tidewalk-cli: " + file + ": puzzle 2: there are no stored bridges\n");
+    EXPECT_EQ(Run({"show", file, "1", "--solution", "--cells", "large"}), 0);
+    EXPECT_EQ(out_, "(3)═════(3)\n │       │\n │   ·   │\n │       │\n(1)  ·  (1)\n");
+    EXPECT_EQ(Run({"show", File("down", {Record({"3-1", "I..", "2.."})}), "1", "--solution", "--ascii"}), 0);
+    EXPECT_EQ(out_, "3---1\n\" . .\n2 . .\n");
+    EXPECT_EQ(Run({"show", file, "2", "--color", "always"}), 0);
+    EXPECT_EQ(out_.substr(0, out_.find('\n')), "\x1B[1;7m2\x1B[0m \x1B[2m·\x1B[0m \x1B[1;7m2\x1B[0m");
+}
+
+TEST_F(Cli, ShowDrawsLargeAndInColourOnATerminalWithRoom) {
+    const std::string file = File("c.txt", {Record({"3=3", "|.|", "1.1"})});
+    outIsTerminal_ = true;
+    Run({"show", file, "1", "--solution"});
+    EXPECT_EQ(out_.substr(0, out_.find('\n')), "\x1B[1;7m 3 \x1B[0m\x1B[35m═════\x1B[0m\x1B[1;7m 3 \x1B[0m");
+    const std::string large = "(3)  ·  (3)\n\n ·   ·   ·\n\n(1)  ·  (1)\n";
+    Run({"show", file, "1", "--color", "never"});
+    EXPECT_EQ(out_, large);
+    EXPECT_EQ(RunJson({"show", file, "1"})["drawing"][0], "3 · 3") << "whoever reads it";
+    Run({"show", file, "1", "--color", "never", "--cells", "small"});
+    EXPECT_EQ(out_, "3 · 3\n· · ·\n1 · 1\n");
+    terminalRows_ = 5;
+    Run({"show", file, "1", "--color", "never"});
+    EXPECT_EQ(out_, "3 · 3\n· · ·\n1 · 1\n") << "the prompt takes a line";
+}
+
+TEST_F(Cli, ShowPrintsThePictureThatTheWindowSaves) {
+    const std::string record = Record({"3=3", "|.|", "1.1"});
+    const std::string file = File("c.txt", {record});
+    const auto picture = [&](RenderMode mode, const std::string& title) {
+        return PuzzleSvg(*ParsePuzzleRecord(record), PictureRequest(mode, title, 4));
+    };
+    EXPECT_EQ(Run({"show", file, "1", "--svg"}), 0);
+    EXPECT_EQ(out_, picture(RenderMode::Puzzle, "Puzzle# 1 file:" + file));
+    EXPECT_EQ(Run({"show", "-", "1", "--svg", "--solution"}, record), 0);
+    EXPECT_EQ(out_, picture(RenderMode::Solution, "Solution# 1 file:standard input"));
 }
 
 TEST_F(Cli, WrongUsageIsTold) {
@@ -271,6 +310,8 @@ TEST_F(Cli, WrongUsageIsTold) {
                                    {"solve", file, "--jobs", "0"},
                                    {"solve", file, "--out", "-", "--json"},
                                    {"show", file, "x"},
+                                   {"show", file, "1", "--color", "loud"},
+                                   {"show", file, "1", "--svg", "--ascii"},
                                    {"delete", "/dev/stdin", "1"},
                                    {"shuffle", "-", "--json"},
                                    {"delete", folder_.Path(""), "1"},
