@@ -2,6 +2,7 @@
 #include "board/copy_and_print.h"
 
 #include <algorithm>
+#include <sstream>
 
 #include "board/print_pages.h"
 #include "drawing/render_puzzle.h"
@@ -21,12 +22,14 @@ std::string TitleOf(const Game& game, std::string_view kind) {
     return PrintTitle(kind, collection.PuzzleNumber, collection.CollectionPath);
 }
 
-void CopyPicture(Game& game, RenderMode mode, std::string_view kind, const std::string& done) {
-    const std::string title = TitleOf(game, kind);
-    const RenderRequest request = PictureRequest(mode, title, game.options.PrintLineWidth);
-    // The window may ask for the picture again when the board holds another puzzle.
-    const bool copied = game.clipboard.SetPicture(
-        [puzzle = game.board.puzzle, request](Surface& surface) { return RenderPuzzle(puzzle, surface, request); });
+/// The picture of the puzzle on the board as it is now. It may be drawn when the board holds another puzzle.
+PuzzlePicture CurrentPicture(const Game& game, RenderMode mode) {
+    const std::string title = TitleOf(game, mode == RenderMode::Solution ? "Solution#" : "Puzzle#");
+    return PictureOf(game.board.puzzle, PictureRequest(mode, title, game.options.PrintLineWidth));
+}
+
+void CopyPicture(Game& game, RenderMode mode, const std::string& done) {
+    const bool copied = game.clipboard.SetPicture(CurrentPicture(game, mode));
     game.window.SetText(WindowText::Status, copied ? done : "The picture could not be copied to clipboard");
 }
 
@@ -46,17 +49,37 @@ void ShowPrintError(Game& game, const std::string& reason) {
     game.prompts.SystemBox("Printing failed:\r\n" + reason, SystemButtons::Ok);
 }
 
-/// Asks for the name of a PDF file; "" when the player thinks better of it, or of overwriting a file.
-std::string AskPdfName(Game& game) {
-    std::string path =
-        PickFile(game, {"Print to a PDF file", "*.pdf", "PDF Files", game.AppFolder, FileRequest::Mode::Save, "pdf"});
-    if (path.empty()) return path;
-    const std::string ending = ".pdf";
-    if (path.size() < ending.size() ||
-        LowerCase(path).compare(path.size() - ending.size(), ending.size(), ending) != 0) {
-        path += ending;
+/// True when the name ends as one of the patterns does: ".svg" for "*.png;*.svg".
+bool EndsAsOneOf(const std::string& name, const std::string& patterns) {
+    std::istringstream endings(patterns);
+    for (std::string pattern; std::getline(endings, pattern, ';');) {
+        if (LowerCase(name).ends_with(pattern.substr(1))) return true;
     }
+    return false;
+}
+
+/// Asks for the name of a file to write, with the usual ending if it has none of those in `patterns`. "" when the
+/// player thinks better of it, or of overwriting a file.
+std::string AskFileName(Game& game, const std::string& title, const std::string& patterns,
+                        const std::string& patternName, const std::string& ending) {
+    std::string path = PickFile(game, {title, patterns, patternName, game.AppFolder, FileRequest::Mode::Save, ending});
+    if (path.empty()) return path;
+    if (!EndsAsOneOf(path, patterns)) path += "." + ending;
     return ConfirmOverwrite(game, path) ? path : "";
+}
+
+void SavePicture(Game& game, RenderMode mode) {
+    if (RefuseWhileBusy(game)) return;
+    const PuzzlePicture picture = CurrentPicture(game, mode);
+    const std::string path =
+        AskFileName(game, "Save Picture As", "*.png;*.svg;*.pdf", "PNG, SVG and PDF Pictures", "png");
+    if (path.empty()) return;
+    const std::string error = game.printers.SavePicture(path, picture);
+    if (error.empty()) {
+        game.prompts.Show("Picture saved to file:\r\n" + path, "vbinformation+vbok");
+    } else {
+        game.prompts.SystemBox("The picture could not be saved:\r\n" + path + "\r\n" + error, SystemButtons::Ok);
+    }
 }
 
 /// Begins a document on the current printer. Nothing comes back when there is none to be: the player has said so, or
@@ -65,7 +88,7 @@ std::unique_ptr<PrintDocument> BeginDocument(Game& game) {
     const std::string printer = CurrentPrinter(game);
     std::string file;
     if (printer == kPdfPrinter) {
-        file = AskPdfName(game);
+        file = AskFileName(game, "Print to a PDF file", "*.pdf", "PDF Files", "pdf");
         if (file.empty()) return nullptr;
     }
     std::string error;
@@ -149,11 +172,19 @@ void TellNoPuzzles(Game& game, const std::string& path) {
 }  // namespace
 
 void mnucopyclippuz_Click(Game& game) {
-    CopyPicture(game, RenderMode::Puzzle, "Puzzle#", "Puzzle copied to clipboard");
+    CopyPicture(game, RenderMode::Puzzle, "Puzzle copied to clipboard");
 }
 
 void mnucopyclipsol_Click(Game& game) {
-    CopyPicture(game, RenderMode::Solution, "Solution#", "Solution copied to clipboard");
+    CopyPicture(game, RenderMode::Solution, "Solution copied to clipboard");
+}
+
+void mnusavepuzpicture_Click(Game& game) {
+    SavePicture(game, RenderMode::Puzzle);
+}
+
+void mnusavesolpicture_Click(Game& game) {
+    SavePicture(game, RenderMode::Solution);
 }
 
 void mnuprintcurrent_Click(Game& game) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Copying the puzzle to the clipboard, printing it, and printing puzzles out of a file.
+// Copying the puzzle to the clipboard, saving its picture, printing it, and printing puzzles out of a file.
 #pragma once
 
 #include "game/game.h"
@@ -9,6 +9,10 @@ namespace tidewalk {
 /// Puts a picture of the puzzle, or of its stored solution, on the clipboard.
 void mnucopyclippuz_Click(Game& game);
 void mnucopyclipsol_Click(Game& game);
+
+/// Asks for a file name and saves that picture under it, as PNG, SVG or PDF after the name's ending.
+void mnusavepuzpicture_Click(Game& game);
+void mnusavesolpicture_Click(Game& game);
 
 /// Prints the current puzzle and its solution on one page.
 void mnuprintcurrent_Click(Game& game);

@@ -1,10 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "board/print_pages.h"
 
-#include "drawing/render_puzzle.h"
+#include "drawing/puzzle_svg.h"
 #include "model/collection_file.h"
+#include "model/plain_grid.h"
 
 namespace tidewalk {
+
+PuzzlePicture PictureOf(const Puzzle& puzzle, const RenderRequest& request) {
+    PuzzlePicture picture{request.title, {}, PuzzleSvg(puzzle, request), ""};
+    picture.draw = [puzzle, request](Surface& surface) { return RenderPuzzle(puzzle, surface, request); };
+    for (const std::string& row : PlainGrid(puzzle))
+        picture.text += row + "\n";
+    return picture;
+}
 
 void DrawPage(const PuzzlePage& content, int lineWidth, Surface& page, const Surface::Area& printable) {
     RenderPuzzle(content.puzzle, page, PageRequest(content.title, lineWidth, printable));

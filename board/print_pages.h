@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: MIT
-// Printing puzzles, a page each.
+// Puzzles as pictures, and printing them, a page each.
 #pragma once
 
 #include <functional>
 #include <optional>
 #include <string>
 
+#include "drawing/render_puzzle.h"
 #include "game/output.h"
 #include "model/may_go_on.h"
 #include "model/puzzle.h"
 
 namespace tidewalk {
+
+/// The picture that `request` asks for, in all its forms.
+PuzzlePicture PictureOf(const Puzzle& puzzle, const RenderRequest& request);
 
 /// What a page shows.
 struct PuzzlePage {

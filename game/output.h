@@ -19,6 +19,14 @@ using DrawFunction = std::function<Surface::Area(Surface&)>;
 /// What draws a page: the surface, and the rectangle of the paper that can be printed on, in twips from its corner.
 using PageFunction = std::function<void(Surface&, const Surface::Area&)>;
 
+/// A picture of a puzzle, in all forms in which others may want it.
+struct PuzzlePicture {
+    std::string title;
+    DrawFunction draw;  ///< may be called more than once
+    std::string svg;    ///< the same drawing as a file in SVG
+    std::string text;   ///< the puzzle as a plain grid, each line with its end
+};
+
 /// The system's clipboard.
 class Clipboard {
  public:
@@ -27,9 +35,9 @@ class Clipboard {
     /// The clipboard's text, "" when it holds none.
     virtual std::string Text() = 0;
 
-    /// Puts a picture on the clipboard, cut to what `draw` drew and an equal margin on all sides. `draw` may be called
-    /// more than once. False when the picture could not be made; the clipboard then stays as it was.
-    virtual bool SetPicture(const DrawFunction& draw) = 0;
+    /// Puts a picture on the clipboard, cut to what was drawn and an equal margin on all sides, and beside it its SVG
+    /// and its text. False when the picture could not be made; the clipboard then stays as it was.
+    virtual bool SetPicture(const PuzzlePicture& picture) = 0;
 };
 
 /// A document on its way to a printer. One that goes away before its end is not printed.
@@ -71,6 +79,10 @@ class Printers {
 
     /// Shows what a document of this one page looks like on a printer.
     virtual void Preview(const std::string& printer, const PageFunction& draw) = 0;
+
+    /// Makes the picture the content of `file`, in SVG or PDF if its name ends so and else in PNG. Returns "", or why
+    /// that failed; a file that is there has then stayed as it was.
+    virtual std::string SavePicture(const std::string& file, const PuzzlePicture& picture) = 0;
 };
 
 }  // namespace tidewalk

@@ -18,8 +18,9 @@ struct Arguments {
     QCommandLineOption version{{"v", "version"}, "Show the version and end."};
     QCommandLineOption folder{"folder", "Use <dir> as the program folder.", "dir"};
     QCommandLineOption screenshot{"screenshot", "Draw the main window into <file.png> and end.", "file.png"};
-    QCommandLineOption picture{"picture", "Draw puzzle <number> of the collection into <file.png> and end.",
-                               "file.png"};
+    QCommandLineOption picture{
+        "picture", "Draw puzzle <number> of the collection into <file>, which ends in .png, .svg or .pdf, and end.",
+        "file"};
     QCommandLineOption solution{"solution", "With --picture: draw the solution."};
     QCommandLineOption pdf{"pdf", "Print puzzles of the collection, such as 3-7, into <file.pdf> and end.", "file.pdf"};
     QCommandLineOption seed{"seed", "Make random draws reproducible. It opens another window.", "number"};

@@ -2,7 +2,6 @@
 #include "ui/output_files.h"
 
 #include <QGuiApplication>
-#include <QSaveFile>
 
 #include "board/print_pages.h"
 #include "drawing/render_puzzle.h"
@@ -14,7 +13,6 @@
 #include "ui/file_name.h"
 #include "ui/paper.h"
 #include "ui/picture.h"
-#include "ui/save_file.h"
 
 namespace tidewalk {
 
@@ -28,14 +26,9 @@ QString WritePictureFile(const OutputOrder& order) {
     }
     const RenderMode mode = order.solution ? RenderMode::Solution : RenderMode::Puzzle;
     const std::string title = PrintTitle(order.solution ? "Solution#" : "Puzzle#", order.from, path);
-    const RenderRequest request = PictureRequest(mode, title, Options().PrintLineWidth);
-    const auto draw = [&](Surface& surface) { return RenderPuzzle(*puzzle, surface, request); };
-    const QImage picture = MakePicture(draw, qGuiApp->devicePixelRatio());
-    const QString failure = QString("%1 could not be written: %2");
-    if (const QString reason = WhyNotReplaceable(order.file); !reason.isEmpty()) return failure.arg(order.file, reason);
-    QSaveFile file(order.file);
-    if (!picture.isNull() && file.open(QIODevice::WriteOnly) && picture.save(&file, "PNG") && file.commit()) return "";
-    return failure.arg(order.file, file.errorString());
+    const PuzzlePicture picture = PictureOf(*puzzle, PictureRequest(mode, title, Options().PrintLineWidth));
+    const QString reason = WritePicture(order.file, picture, qGuiApp->devicePixelRatio());
+    return reason.isEmpty() ? "" : QString("%1 could not be written: %2").arg(order.file, reason);
 }
 
 QString WritePages(const OutputOrder& order) {

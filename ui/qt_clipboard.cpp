@@ -3,6 +3,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMimeData>
+#include <memory>
 
 #include "ui/picture.h"
 
@@ -12,11 +14,15 @@ std::string QtClipboard::Text() {
     return QGuiApplication::clipboard()->text().toStdString();
 }
 
-bool QtClipboard::SetPicture(const DrawFunction& draw) {
+bool QtClipboard::SetPicture(const PuzzlePicture& picture) {
     const double scale = mainWindow_ != nullptr ? mainWindow_->devicePixelRatioF() : qGuiApp->devicePixelRatio();
-    const QImage picture = MakePicture(draw, scale);
-    if (picture.isNull()) return false;
-    QGuiApplication::clipboard()->setImage(picture);
+    const QImage image = MakePicture(picture.draw, scale);
+    if (image.isNull()) return false;
+    auto content = std::make_unique<QMimeData>();
+    content->setImageData(image);
+    content->setData("image/svg+xml", QByteArray::fromStdString(picture.svg));
+    content->setText(QString::fromStdString(picture.text));
+    QGuiApplication::clipboard()->setMimeData(content.release());
     return true;
 }
 

@@ -15,7 +15,7 @@ class QtClipboard final : public Clipboard {
     void SetMainWindow(QWidget* window) { mainWindow_ = window; }
 
     std::string Text() override;
-    bool SetPicture(const DrawFunction& draw) override;
+    bool SetPicture(const PuzzlePicture& picture) override;
 
  private:
     QPointer<QWidget> mainWindow_;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "ui/qt_printers.h"
 
+#include <QFile>
 #include <QPrinter>
 #include <QPrinterInfo>
 
 #include "board/copy_and_print.h"
 #include "drawing/render_puzzle.h"
 #include "ui/paper.h"
+#include "ui/picture.h"
 #include "ui/print_preview.h"
 #include "ui/qt_surface.h"
 
@@ -101,6 +103,11 @@ void QtPrinters::Preview(const std::string& printer, const PageFunction& draw) {
     orientation_ = dialog.Orientation();
     handlers_.Run(mnuprintcurrent_Click);
     orientation_ = QPageLayout::Portrait;
+}
+
+std::string QtPrinters::SavePicture(const std::string& file, const PuzzlePicture& picture) {
+    const double scale = mainWindow_ != nullptr ? mainWindow_->devicePixelRatioF() : 1;
+    return WritePicture(QFile::decodeName(file.c_str()), picture, scale).toStdString();
 }
 
 }  // namespace tidewalk

@@ -22,6 +22,7 @@ class QtPrinters final : public Printers {
                                          std::string& error) override;
     /// The preview may be left by printing the current puzzle as it shows there.
     void Preview(const std::string& printer, const PageFunction& draw) override;
+    std::string SavePicture(const std::string& file, const PuzzlePicture& picture) override;
 
  private:
     Handlers& handlers_;

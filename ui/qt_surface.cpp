@@ -41,6 +41,7 @@ bool QtSurface::Begin() {
     if (target_ == nullptr || !painter_.begin(target_)) return false;
     painter_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter_.scale(pixelsPerInch_ / kTwipsPerInch, pixelsPerInch_ / kTwipsPerInch);
+    painter_.translate(-origin_);
     pixelsPerTwip_ = painter_.deviceTransform().m11();
     return true;
 }

@@ -31,6 +31,9 @@ class QtSurface final : public Surface {
     /// Another resolution, from the next target on.
     void SetPixelsPerInch(double pixelsPerInch) { pixelsPerInch_ = pixelsPerInch; }
 
+    /// The place in twips that comes to lie in the top left corner of the targets to come; (0, 0) until it is set.
+    void SetOrigin(double x, double y) { origin_ = {x, y}; }
+
     /// What is drawn from now on goes to `target`; with nullptr it goes nowhere. Finishes with the old target.
     void SetTarget(QPaintDevice* target);
 
@@ -57,6 +60,7 @@ class QtSurface final : public Surface {
 
     double pixelsPerInch_;
     double twipsPerPenPixel_;
+    QPointF origin_;
     QPaintDevice* target_ = nullptr;
     QPainter painter_;
     double pixelsPerTwip_ = 1;  ///< device pixels, while painting

@@ -5,6 +5,8 @@
 
 #include "board/show_board.h"
 #include "game/job.h"
+#include "model/import_grid.h"
+#include "model/plain_grid.h"
 #include "program/exit.h"
 #include "support/test_game.h"
 
@@ -46,7 +48,7 @@ struct Printing : testing::Test {
     }
     std::string Copied() {
         RecordingSurface surface;
-        game.world.copy(surface);
+        game.world.copied.draw(surface);
         return Content(surface);
     }
 
@@ -57,15 +59,36 @@ struct Printing : testing::Test {
 };
 
 TEST_F(Printing, CopiesShowThePuzzleOrItsSolutionAsTheyWere) {
+    const Lines grid = PlainGrid(game.board.puzzle);
     game.Run(mnucopyclippuz_Click);
     EXPECT_EQ(Copied(), "print 400 200 Puzzle#" + file + " 0|11|0|6");
     game.Run(mnucopyclipsol_Click);
+    EXPECT_NE(game.world.copied.svg.find(">Solution#" + file + "</title>"), std::string::npos);
     EXPECT_EQ(game.world.Seen(), "status: Puzzle copied to clipboard, status: Solution copied to clipboard");
     game.Load(1);
     EXPECT_EQ(Copied(), "print 400 200 Solution#" + file + " 0|11|15|6") << "another puzzle is no matter";
+    game.world.clipboard = game.world.copied.text;
+    game.Run(mnupastepuzzle_Click);
+    EXPECT_EQ(PlainGrid(game.board.puzzle), grid);
     game.world.copies = false;
     game.Run(mnucopyclippuz_Click);
     EXPECT_EQ(game.world.Status(), "The picture could not be copied to clipboard");
+}
+
+TEST_F(Printing, APictureIsSavedUnderTheNameThatIsChosen) {
+    for (const auto& [chosen, written] :
+         {std::pair{"", ""}, {"a.b", "a.b.png"}, {"a.SVG", "a.SVG"}, {"a.pdf", "a.pdf"}, {"a.png", "a.png"}}) {
+        game.world.ExpectPick("Save Picture As|*.png;*.svg;*.pdf|PNG, SVG and PDF Pictures|save", chosen);
+        if (*chosen != '\0') game.world.Expect("Picture saved to file:\r\n" + std::string(written), kInformation);
+        game.Run(*chosen == '\0' ? mnusavepuzpicture_Click : mnusavesolpicture_Click);
+        EXPECT_EQ(game.world.savedTo, written);
+    }
+    EXPECT_EQ(Copied(), "print 400 200 Solution#" + file + " 0|11|15|6");
+    game.world.saveError = "disk full";
+    game.world.ExpectPick("Save Picture As|*.png;*.svg;*.pdf|PNG, SVG and PDF Pictures|save", "a.png");
+    game.world.Expect("The picture could not be saved:\r\na.png\r\ndisk full", "system ok");
+    game.Run(mnusavepuzpicture_Click);
+    EXPECT_EQ(Copied(), "print 400 200 Puzzle#" + file + " 0|11|0|6");
 }
 
 TEST_F(Printing, TheCurrentPuzzleIsOnePageWithBothBoards) {

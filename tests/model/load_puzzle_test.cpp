@@ -274,7 +274,7 @@ TEST(ImportedPuzzle, StaysWhateverIsTriedWithIt) {
     game.world.print = nullptr;
     game.Run(mnucopyclippuz_Click);
     RecordingSurface picture;
-    game.world.copy(picture);
+    game.world.copied.draw(picture);
     EXPECT_EQ(picture.Calls("print").front(), "print 400 200 Imported puzzle 0");
     game.TypeNumber("2");
     EXPECT_TRUE(game.collection.importedFrom.empty());

@@ -114,11 +114,14 @@ class World final : public Prompts,
     std::int64_t Milliseconds() override { return milliseconds += step; }
 
     std::string Text() override { return clipboard; }
-    bool SetPicture(const DrawFunction& draw) override { return copy = draw, copies; }
+    bool SetPicture(const PuzzlePicture& given) override { return copied = given, copies; }
     std::vector<std::string> Names() override { return printers; }
     std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
                                          std::string& error) override;
     void Preview(const std::string& printer, const PageFunction& draw) override;
+    std::string SavePicture(const std::string& file, const PuzzlePicture& given) override {
+        return savedTo = file, copied = given, saveError;
+    }
 
     void Assess(const Puzzle&, std::function<void(const Assessment&)> done) override { assessed = std::move(done); }
     std::function<void(const Assessment&)> assessed;  ///< waits for what is found out about the puzzle
@@ -168,10 +171,12 @@ class World final : public Prompts,
     std::int64_t step = 0;  ///< what passes between two looks at the milliseconds
 
     std::string clipboard;
-    DrawFunction copy;  ///< what draws the picture that was copied
+    PuzzlePicture copied;  ///< the picture that was copied or saved last
     bool copies = true;
 
     std::vector<std::string> printers{"Office", "PDF file"};
+    std::string savedTo;     ///< the file of the last picture
+    std::string saveError;   ///< why pictures cannot be saved
     std::string beginError;  ///< why no document can begin
     int failAtPage = 0;      ///< the page that the printer refuses, or the end if there are fewer; 0 for none
     std::string printedTo;   ///< "printer|file" of the last document

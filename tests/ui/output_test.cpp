@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What is drawn on pictures and pages, and how it leaves the program.
 #include <QClipboard>
+#include <QMimeData>
+#include <QSvgRenderer>
 
+#include "board/print_pages.h"
 #include "drawing/render_puzzle.h"
+#include "support/board_text.h"
+#include "ui/file_name.h"
 #include "ui/paper.h"
 #include "ui/picture.h"
 #include "window_game.h"
@@ -86,12 +91,35 @@ TEST(Picture, IsCutToWhatIsDrawnWithOneMarginAllRound) {
     }
 }
 
+TEST(Picture, IsWrittenAsItsNameEnds) {
+    const TempFolder folder;
+    const PuzzlePicture picture = PictureOf(PuzzleFrom({"2=3-1"}), PictureRequest(RenderMode::Puzzle, "a title", 4));
+    const auto write = [&](const std::string& name) {
+        return WritePicture(FileNameText(folder.Path(name)), picture, 2).toStdString();
+    };
+    for (const char* const name : {"a.SVG", "a.pdf", "a.png", "a"})
+        EXPECT_EQ(write(name), "");
+    EXPECT_EQ(folder.Read("a.SVG"), picture.svg);
+    const QSize size = MakePicture(picture.draw, 2).size();
+    const QSize drawn = QSvgRenderer(QByteArray::fromStdString(picture.svg)).defaultSize() * 2;
+    EXPECT_TRUE(qAbs(drawn.width() - size.width()) < 3 && qAbs(drawn.height() - size.height()) < 3) << "as large";
+    EXPECT_EQ(QImage(FileNameText(folder.Path("a.png"))).size(), size);
+    EXPECT_EQ(folder.Read("a"), folder.Read("a.png"));
+    EXPECT_EQ(PagesOf("a.pdf"), 1);
+    EXPECT_NE(folder.Read("a.pdf").find("MediaBox [0 0 24"), std::string::npos) << "the page is as large, too";
+    EXPECT_EQ(write("none/a.svg"), "No such file or directory");
+    EXPECT_EQ(write(""), "This is no ordinary file");
+}
+
 TEST(Output, CopyReachesTheClipboardAndPasteTakesTextFromIt) {
     WindowGame window;
     window.Trigger("mnucopyclippuz");
     const QImage puzzle = QApplication::clipboard()->image();
     const double scale = window.form.devicePixelRatio();
     EXPECT_NEAR(puzzle.width(), (6252 + 360 + 10 - 400 + 2 * 200) / 15 * scale, 2 * scale);
+    const QMimeData& copied = *QApplication::clipboard()->mimeData();
+    EXPECT_EQ(copied.text().count('\n'), 7) << "the rows of the puzzle";
+    EXPECT_TRUE(QSvgRenderer(copied.data("image/svg+xml")).isValid());
     window.Trigger("mnucopyclipsol");
     EXPECT_NE(QApplication::clipboard()->image(), puzzle);
     QApplication::clipboard()->setText("2..2\n\xC3\xA9..1\n");
