@@ -35,5 +35,7 @@ play --nosuch 2>messages && fail "a wrong option"
 # What needs no display is done as asked.
 play --picture=puzzle.png own.txt 2 2>messages || fail "--picture: $(cat messages)"
 play -pdf pages.pdf own.txt 2-3 2>messages || fail "--pdf: $(cat messages)"
+play --picture=puzzle.svg --solution own.txt 2 2>messages || fail "--picture in SVG: $(cat messages)"
+"$build/cli/tidewalk-cli" show "$scratch/own.txt" 2 --solution --svg | cmp - puzzle.svg || fail "two pictures"
 [ -s puzzle.png ] && [ -s pages.pdf ] || fail "nothing was written"
 [ "$(play --version 2>messages)" = "$("$build/ui/tidewalk" --version)" ] || fail "--version: $(cat messages)"

@@ -28,6 +28,7 @@ for side in 48 64 128 256; do
     [ "$size" = "${side}x${side}" ] || fail "$icon measures $size"
 done
 xmllint --noout "$share/icons/hicolor/scalable/apps/tidewalk.svg" || fail "the scalable icon"
+"$prefix/bin/tidewalk-cli" show "$source/data/puzzles.txt" 1 --solution --svg | xmllint --noout - || fail "a picture"
 
 # What the README names lies beside it.
 for named in $(grep -o '](\([^)]*\))' "$share/doc/tidewalk/README.md" | sed 's/](\(.*\))/\1/'); do
