@@ -32,9 +32,9 @@ file(REMOVE_RECURSE ${CMAKE_BINARY_DIR}/layers)
 
 tidewalk_layer(model FILES
     model/cell_set model/cell_words model/characters model/check model/collection_file model/convert_layout
-    model/file_error model/grid model/line_index model/line_reader model/link model/may_go_on model/numbers
-    model/paths model/plain_grid model/puzzle model/puzzle_range model/puzzle_record model/put_aside
-    model/random_source model/replace_file model/system_file)
+    model/file_error model/grid model/grid_reader model/grid_tally model/line_index model/line_reader model/link
+    model/may_go_on model/numbers model/paths model/plain_grid model/puzzle model/puzzle_range model/puzzle_record
+    model/put_aside model/random_source model/replace_file model/system_file)
 
 tidewalk_layer(solver ON model FILES
     solver/archipelago solver/balance solver/bound_trail solver/clauses solver/connect_islands solver/contradictions

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 // The readers of the engine.
 #include <algorithm>
+#include <sstream>
 
 #include "fuzz/targets.h"
 #include "model/collection_file.h"
 #include "model/convert_layout.h"
+#include "model/grid_reader.h"
 #include "model/plain_grid.h"
 #include "model/puzzle_record.h"
 #include "solver/count_solutions.h"
@@ -48,6 +50,18 @@ void DemandOneAnswer(const Puzzle& puzzle) {
     if (result.trials < kMostTrials && count) Demand(result.Solved() == (*count == 1), "solved without a solution");
 }
 
+/// The grids of a text come one behind the other, and not one more than it has lines.
+void DemandInOrder(const std::string& bytes) {
+    std::stringbuf source(bytes);
+    GridReader reader(source, "bytes");
+    const auto lines = 1 + std::count(bytes.begin(), bytes.end(), '\n');
+    std::int64_t last = 0;
+    for (FoundGrid grid; reader.Next(grid); last = grid.line) {
+        Demand(grid.line > last && grid.line <= lines, "a grid without a line of its own");
+        Demand(!grid.isPuzzle || (grid.fits && grid.puzzle.IslandCount() > 0), "a puzzle out of nothing");
+    }
+}
+
 }  // namespace
 
 void ReadCollection(std::string_view bytes) {
@@ -73,11 +87,15 @@ void ReadGrid(std::string_view bytes) {
         if (ReadGridFrom(path, number, puzzle) != GridResult::Read) continue;
         Demand(number >= 1 && puzzle.CellCount() >= 1 && puzzle.LinkCount() == 0, "a grid out of nothing");
         // What is written is a grid that the reader takes without a change.
-        Puzzle again;
-        const std::string written = folder.Write("again.grd", MarkedGrid(puzzle));
-        Demand(ReadGridFrom(written, 1, again) == GridResult::Read, "a grid of our own is not read");
-        Demand(again == puzzle, "a grid of our own comes back as another");
+        for (const std::string& text : {MarkedGrid(puzzle), GridText(puzzle, GridForm::Plain),
+                                        GridText(puzzle, GridForm::Spaced), GridText(puzzle, GridForm::Sized)}) {
+            Puzzle again;
+            const std::string written = folder.Write("again.grd", text);
+            Demand(ReadGridFrom(written, 1, again) == GridResult::Read, "a grid of our own is not read");
+            Demand(again == puzzle, "a grid of our own comes back as another");
+        }
     }
+    DemandInOrder(std::string(bytes));
 }
 
 void ReadOldLayout(std::string_view bytes) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Plain grids: a line a row, a digit an island, "." or a blank for water.
+// Plain grids: a line a row, a digit an island, "." for water.
 #pragma once
 
 #include <string>
@@ -16,14 +16,22 @@ std::vector<std::string> PlainGrid(const Puzzle& puzzle);
 /// The grid as the number editor's file holds it: "#RRCC" and the rows, each line with its end.
 std::string MarkedGrid(const Puzzle& puzzle);
 
+/// How a grid is written for others.
+enum class GridForm {
+    Plain,   ///< the rows
+    Spaced,  ///< a blank between columns; a grid without water, whose blanks would be taken for some, is plain
+    Sized    ///< a line "7x9" before the rows
+};
+
+/// The grid in this form, each line with its end. `GridReader` makes the same numbers of it.
+std::string GridText(const Puzzle& puzzle, GridForm form);
+
 enum class GridResult { Read, NotFound, Failed };
 
-/// Reads grid `number`, from 1, of the file at `path` into `puzzle`.
+/// Reads grid `number`, from 1, of the file at `path` into `puzzle`: the forms are those of `GridReader`.
 ///
-/// A file is either one plain grid, as wide as its first line and ended by an empty one, or a sequence of grids that
-/// each begin with "#RRCC", their rows and columns in two digits each. A column is one character; what is missing in a
-/// row and what is no digit is water. NotFound when the file has fewer grids, Failed when it cannot be read, is cut
-/// short or holds a grid of another size than 1..25 either way; `puzzle` is then of no use.
+/// NotFound when the file has fewer grids, Failed when it cannot be read or no board can hold the grid; `puzzle` is
+/// then as it was.
 GridResult ReadGridFrom(const std::string& path, int number, Puzzle& puzzle);
 
 }  // namespace tidewalk
