@@ -112,6 +112,10 @@ const std::map<std::string, Colouring> kColourings{
     {"auto", Colouring::Auto}, {"always", Colouring::Always}, {"never", Colouring::Never}};
 const std::map<std::string, std::optional<bool>> kCellSizes{{"auto", std::nullopt}, {"small", false}, {"large", true}};
 
+/// The forms of grids.
+const std::map<std::string, GridForm> kGridForms{
+    {"plain", GridForm::Plain}, {"spaced", GridForm::Spaced}, {"sized", GridForm::Sized}};
+
 /// What the figures of a character may be.
 struct FigureRule {
     int most;   ///< what no size has more of
@@ -390,20 +394,33 @@ class Parser {
         AddFile(remove, wishes_.remove.file);
         AddNumber(remove, wishes_.remove.number);
 
-        CLI::App* const exported =
-            Command("export", "Write the bare numbers of a puzzle", wishes_.exported, ExportGrid);
-        AddFile(exported, wishes_.exported.file);
-        AddNumber(exported, wishes_.exported.number);
-        exported->add_option("GRID", wishes_.exported.grid, "The file to write; the standard output if not given")
-            ->transform(NameOfOutput);
-        exported->add_flag("--force", wishes_.exported.force, "Replace a file that is there");
+        AddGridMovers();
+    }
 
-        CLI::App* const import = Command("import", "Append a bare grid to a collection", wishes_.import, ImportGrid);
-        import->add_option("GRID", wishes_.import.grid, "The file with the grid")->required()->transform(NameOfInput);
-        AddTarget(import, wishes_.import.target);
-        import->add_option("--grid", wishes_.import.number, "Which grid of a file that holds several")
-            ->type_name("N")
-            ->check(CLI::Range(1, kMostNumber));
+    void AddGridMovers() {
+        ExportOptions& options = wishes_.exported;
+        CLI::App* const exported = Command("export", "Write the bare numbers of puzzles", options, ExportGrids);
+        AddFile(exported, options.file);
+        AddRange(exported);
+        exported->get_option("RANGE")->required();
+        exported->add_option("GRID", options.grid, "The file to write; the standard output if not given")
+            ->transform(NameOfOutput);
+        exported
+            ->add_option_function<std::string>(
+                "--form", [&options](const std::string& name) { options.form = kGridForms.at(name); },
+                "Rows alone, with blanks between the columns, or behind a line with the size")
+            ->type_name("plain|spaced|sized")
+            ->transform(CLI::IsMember(kGridForms, CLI::ignore_case).description(""));
+        exported->add_flag("--force", options.force, "Replace a file that is there");
+
+        ImportOptions& wanted = wishes_.import;
+        CLI::App* const import = Command("import", "Append bare grids to a collection", wanted, ImportGrids);
+        import->add_option("GRID", wanted.grid, "The file with the grids")->required()->transform(NameOfInput);
+        AddTarget(import, wanted.target);
+        CLI::Option* const one = import->add_option("--grid", wanted.number, "Which grid of a file that holds several")
+                                     ->type_name("N")
+                                     ->check(CLI::Range(1, kMostNumber));
+        import->add_flag("--all", wanted.all, "All of them that are puzzles")->excludes(one);
     }
 
     static constexpr double kDefaultSeconds = 10;
@@ -476,7 +493,8 @@ int RunCommandLine(Console& console, std::vector<std::string> arguments) {
             return parser.App().exit(error, console.out, console.err);
         }
         const PuzzleRange range = RangeOf(wishes.range).value_or(PuzzleRange{});
-        wishes.list.range = wishes.solve.range = wishes.check.range = wishes.explain.range = range;
+        wishes.list.range = wishes.solve.range = wishes.check.range = wishes.explain.range = wishes.exported.range =
+            range;
         wishes.hint.played = PositionOf(wishes.laid, wishes.noMore);
         if (const std::string wrong = WhatDoesNotGoTogether(wishes); !wrong.empty()) return WrongUsage(console, wrong);
         return wishes.command(console);

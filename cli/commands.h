@@ -9,6 +9,7 @@
 
 #include "cli/console.h"
 #include "generator/puzzle_order.h"
+#include "model/plain_grid.h"
 #include "model/puzzle_range.h"
 #include "techniques/hint.h"
 
@@ -132,21 +133,23 @@ int DeletePuzzle(Console& console, const DeleteOptions& options);
 
 struct ExportOptions {
     std::string file;
-    int number = 1;
+    PuzzleRange range;
     std::string grid = kStandard;
+    GridForm form = GridForm::Plain;
     bool force = false;
     bool json = false;
 };
-/// Writes the bare numbers of a puzzle.
-int ExportGrid(Console& console, const ExportOptions& options);
+/// Writes the bare numbers of puzzles; of several with an empty line behind each.
+int ExportGrids(Console& console, const ExportOptions& options);
 
 struct ImportOptions {
     std::string grid;
-    int number = 1;
+    std::optional<int> number;  ///< of the grid; the first if it is not told
+    bool all = false;           ///< every puzzle among the grids instead
     std::string target;
     bool json = false;
 };
-/// Appends a bare grid to a collection as a puzzle without a stored solution.
-int ImportGrid(Console& console, const ImportOptions& options);
+/// Appends bare grids to a collection as puzzles without a stored solution.
+int ImportGrids(Console& console, const ImportOptions& options);
 
 }  // namespace tidewalk

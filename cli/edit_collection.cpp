@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The commands "append", "delete", "export" and "import", which move single puzzles.
+// The commands "append", "delete", "export" and "import", which move puzzles between files.
+#include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <optional>
 
@@ -10,7 +12,9 @@
 #include "cli/report.h"
 #include "cli/temporary_files.h"
 #include "model/collection_file.h"
-#include "model/line_reader.h"
+#include "model/file_error.h"
+#include "model/grid_reader.h"
+#include "model/grid_tally.h"
 #include "model/paths.h"
 #include "model/plain_grid.h"
 #include "model/puzzle_record.h"
@@ -34,17 +38,128 @@ int AppendTo(Console& console, const std::string& target, const Puzzle& puzzle, 
     return kDone;
 }
 
-/// What is wrong with a grid file; "" when the grid was read and is a puzzle.
-std::string FaultOfGrid(GridResult result, const Puzzle& puzzle, const ImportOptions& options) {
+/// Says why the grids must not be written there; true when they may.
+bool MayWriteGrids(Console& console, const ExportOptions& options) {
+    if (AreOneFile(options.file, options.grid)) {
+        Say(console, options.grid + ": the grid must not replace its own collection");
+        return false;
+    }
+    if (IsStream(options.grid) || options.force || FileLength(options.grid) == 0) return true;
+    Say(console, options.grid + ": the file is there already; --force replaces it");
+    return false;
+}
+
+int ExportGrid(Console& console, const ExportOptions& options, int number) {
+    const std::optional<Puzzle> puzzle = ReadOnePuzzle(console, options.file, number);
+    if (!puzzle) return ExitCodeOf(console, 1);
+    if (!MayWriteGrids(console, options)) return kFailed;
+    const auto write = [&](std::ostream& out) { out << GridText(*puzzle, options.form); };
+    if (IsStream(options.grid)) {
+        StreamOutput output(console, options.grid);
+        write(output.Stream());
+        output.Flush();
+        if (options.grid == kStandard) return ExitCodeOf(console, 0);
+    } else {
+        ReplaceFile(options.grid, write);
+    }
+    ReportOnce(console, options.json, "puzzle " + std::to_string(number) + " exported to " + options.grid,
+               {{"file", options.grid}, {"number", number}});
+    return kDone;
+}
+
+/// "12 puzzles", "1 puzzle".
+std::string PuzzlesText(std::int64_t count) {
+    return std::to_string(count) + (count == 1 ? " puzzle" : " puzzles");
+}
+
+int ExportRange(Console& console, const ExportOptions& options) {
+    if (!MayWriteGrids(console, options)) return kFailed;
+    ReplacedRecords output(console, options.grid);
+    CollectionLines lines(console, options.file);
+    int failures = 0;
+    int written = 0;
+    for (NumberedLine line; lines.NextWithin(options.range, line);) {
+        const std::optional<Puzzle> puzzle = ParsePuzzleRecord(line.text);
+        if (puzzle) {
+            // The line end behind the grid's own makes the empty line between two.
+            output.Add(GridText(*puzzle, options.form));
+            ++written;
+        } else {
+            ++failures;
+            SayOfPuzzle(console, options.file, line.number, kNoRecord);
+        }
+    }
+    if (!console.Stopped()) failures += SayIfMissing(console, options.file, options.range, lines.Number());
+    if (console.Stopped() || written == 0) return ExitCodeOf(console, failures);
+    output.Finish();
+    if (options.grid == kStandard) return ExitCodeOf(console, failures);
+    ReportOnce(console, options.json, PuzzlesText(written) + " exported to " + options.grid,
+               {{"file", options.grid}, {"written", written}});
+    return failures == 0 ? kDone : kFailed;
+}
+
+/// What is wrong with grid `number` of a file; "" when it was read and is a puzzle.
+std::string FaultOfGrid(GridResult result, const Puzzle& puzzle, const ImportOptions& options, int number) {
     switch (result) {
         case GridResult::NotFound:
-            return "Grid " + std::to_string(options.number) + " not found";
+            return "Grid " + std::to_string(number) + " not found";
         case GridResult::Failed:
             return "Error reading grid from: " + options.grid;
         case GridResult::Read:
             break;
     }
     return puzzle.IslandCount() == 0 ? "there are no islands in the grid" : "";
+}
+
+/// Says what else is in a file of which nobody told the grid.
+void SayOfOtherGrids(Console& console, const ImportOptions& options, const std::string& path) {
+    GridTally tally;
+    try {
+        GridReader reader(path);
+        for (FoundGrid grid; !console.Stopped() && reader.Next(grid);)
+            tally.Add(grid);
+    } catch (const FileError&) {
+        // What cannot be read behind the grid that was asked for is none of its business.
+    }
+    if (tally.Grids() > 1)
+        Say(console, options.grid + ": " + tally.Words() + "; --grid takes another one, --all takes all");
+}
+
+/// Messages call the file at `path` by the name in the options.
+int ImportGrid(Console& console, const ImportOptions& options, const std::string& path) {
+    const int number = options.number.value_or(1);
+    Puzzle puzzle;
+    const GridResult result = ReadGridFrom(path, number, puzzle);
+    if (const std::string fault = FaultOfGrid(result, puzzle, options, number); !fault.empty()) {
+        Say(console, options.grid + ": " + fault);
+        if (!options.number) SayOfOtherGrids(console, options, path);
+        return kFailed;
+    }
+    const int code = AppendTo(console, options.target, puzzle, options.json);
+    if (!options.number) SayOfOtherGrids(console, options, path);
+    return code;
+}
+
+int ImportAll(Console& console, const ImportOptions& options, const std::string& path) {
+    AppendedRecords output(console, options.target);
+    GridReader reader(path);
+    GridTally tally;
+    for (FoundGrid grid; !console.Stopped() && reader.Next(grid);) {
+        tally.Add(grid);
+        if (grid.isPuzzle) {
+            output.Add(PuzzleRecord(grid.puzzle));
+        } else {
+            Say(console, options.grid + ": line " + std::to_string(grid.line) + ": not a puzzle");
+        }
+    }
+    output.Finish();
+    const int failures = tally.Puzzles() < std::max<std::int64_t>(tally.Grids(), 1) ? 1 : 0;
+    if (tally.Grids() == 0) Say(console, options.grid + ": there are no grids in the file");
+    if (options.target == kStandard || console.Stopped()) return ExitCodeOf(console, failures);
+    ReportOnce(console, options.json,
+               PuzzlesText(tally.Puzzles()) + " appended to " + options.target + ": " + tally.Words(),
+               {{"file", options.target}, {"written", tally.Puzzles()}, {"grids", tally.Grids()}});
+    return failures == 0 ? kDone : kFailed;
 }
 
 }  // namespace
@@ -86,43 +201,15 @@ int DeletePuzzle(Console& console, const DeleteOptions& options) {
     return kDone;
 }
 
-int ExportGrid(Console& console, const ExportOptions& options) {
-    const std::optional<Puzzle> puzzle = ReadOnePuzzle(console, options.file, options.number);
-    if (!puzzle) return ExitCodeOf(console, 1);
-    const auto write = [&](std::ostream& out) {
-        for (const std::string& row : PlainGrid(*puzzle))
-            out << row << kLineEnd;
-    };
-    if (AreOneFile(options.file, options.grid)) {
-        Say(console, options.grid + ": the grid must not replace its own collection");
-        return kFailed;
-    }
-    if (IsStream(options.grid)) {
-        StreamOutput output(console, options.grid);
-        write(output.Stream());
-        output.Flush();
-        if (options.grid == kStandard) return ExitCodeOf(console, 0);
-    } else if (!options.force && FileLength(options.grid) > 0) {
-        Say(console, options.grid + ": the file is there already; --force replaces it");
-        return kFailed;
-    } else {
-        ReplaceFile(options.grid, write);
-    }
-    ReportOnce(console, options.json, "puzzle " + std::to_string(options.number) + " exported to " + options.grid,
-               {{"file", options.grid}, {"number", options.number}});
-    return kDone;
+int ExportGrids(Console& console, const ExportOptions& options) {
+    const PuzzleRange& range = options.range;
+    return range.first == range.last ? ExportGrid(console, options, range.first) : ExportRange(console, options);
 }
 
-int ImportGrid(Console& console, const ImportOptions& options) {
+int ImportGrids(Console& console, const ImportOptions& options) {
     const InputFile file(console, options.grid);
     if (console.Stopped()) return ExitCodeOf(console, 1);
-    Puzzle puzzle;
-    const GridResult result = ReadGridFrom(file.Path(), options.number, puzzle);
-    if (const std::string fault = FaultOfGrid(result, puzzle, options); !fault.empty()) {
-        Say(console, options.grid + ": " + fault);
-        return kFailed;
-    }
-    return AppendTo(console, options.target, puzzle, options.json);
+    return options.all ? ImportAll(console, options, file.Path()) : ImportGrid(console, options, file.Path());
 }
 
 }  // namespace tidewalk

@@ -233,6 +233,30 @@ TEST_F(Cli, PuzzlesMoveBetweenFilesAsInTheWindow) {
     EXPECT_EQ(folder_.Read("to.txt"), " 3, 3, 4;D;2-2,|.|,2-2,\r\n");
 }
 
+TEST_F(Cli, GridsMoveInEveryFormAndManyAtATime) {
+    const std::string from = File("from.txt", {kRing, "no record", kRing});
+    const std::string grids = folder_.Path("grids.txt");
+    EXPECT_EQ(Run({"export", from, "1-4", grids, "--form", "spaced"}), 1) << "two that are none";
+    EXPECT_EQ(folder_.Read("grids.txt"), "2 . 2\r\n. . .\r\n2 . 2\r\n\r\n2 . 2\r\n. . .\r\n2 . 2\r\n\r\n");
+    EXPECT_EQ(Run({"export", from, "all", grids}), 1) << "it is there already";
+    EXPECT_EQ(Run({"export", from, "2-2", folder_.Path("no")}), 1);
+    EXPECT_FALSE(std::filesystem::exists(folder_.Path("no")));
+    EXPECT_EQ(Run({"export", from, "1", "--form", "sized"}), 0);
+    EXPECT_EQ(out_, "3x3\r\n2.2\r\n...\r\n2.2\r\n");
+    const std::string to = folder_.Path("to.txt");
+    folder_.Write("grids.txt", folder_.Read("grids.txt") + "1.9\n");
+    const auto all = RunJson({"import", grids, to, "--all"});
+    EXPECT_EQ(all["written"].get<int>() * 10 + all["grids"].get<int>(), 23);
+    EXPECT_EQ(err_, "tidewalk-cli: " + grids + ": line 9: not a puzzle\n");
+    EXPECT_EQ(folder_.Read("to.txt"), " 3, 3, 0;D;2.2,...,2.2,\r\n 3, 3, 0;D;2.2,...,2.2,\r\n");
+    EXPECT_EQ(Run({"import", grids, to, "--grid", "2"}), 0);
+    EXPECT_EQ(err_, "") << "it was told which";
+    EXPECT_EQ(Run({"import", grids, to}), 0);
+    EXPECT_EQ(err_, "tidewalk-cli: " + grids +
+                        ": 3 grids of 3x3, one not a puzzle: line 9; --grid takes another one, --all takes all\n");
+    EXPECT_EQ(Run({"import", grids, to, "--grid", "1", "--all"}), 2);
+}
+
 TEST_F(Cli, ARecordThatIsCutShortIsToldFromAWrongOne) {
     const std::string file = File("c.txt", {Record({"2-2", "1.1"}), Record({"2-2", "1.2"})});
     const auto list = RunJson({"list", file});
