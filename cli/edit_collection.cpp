@@ -114,15 +114,17 @@ std::string FaultOfGrid(GridResult result, const Puzzle& puzzle, const ImportOpt
 /// Says what else is in a file of which nobody told the grid.
 void SayOfOtherGrids(Console& console, const ImportOptions& options, const std::string& path) {
     GridTally tally;
+    std::string first;
     try {
-        GridReader reader(path);
-        for (FoundGrid grid; !console.Stopped() && reader.Next(grid);)
+        GridReader reader(path, kGlance);
+        for (FoundGrid grid; !console.Stopped() && reader.Next(grid) && !reader.CutShort();)
             tally.Add(grid);
+        if (reader.CutShort()) first = "the first ";
     } catch (const FileError&) {
         // What cannot be read behind the grid that was asked for is none of its business.
     }
     if (tally.Grids() > 1)
-        Say(console, options.grid + ": " + tally.Words() + "; --grid takes another one, --all takes all");
+        Say(console, options.grid + ": " + first + tally.Words() + "; --grid takes another one, --all takes all");
 }
 
 /// Messages call the file at `path` by the name in the options.

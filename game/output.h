@@ -35,6 +35,9 @@ class Clipboard {
     /// The clipboard's text, "" when it holds none.
     virtual std::string Text() = 0;
 
+    /// Puts a text on the clipboard.
+    virtual void SetText(const std::string& text) = 0;
+
     /// Puts a picture on the clipboard, cut to what was drawn and an equal margin on all sides, and beside it its SVG
     /// and its text. False when the picture could not be made; the clipboard then stays as it was.
     virtual bool SetPicture(const PuzzlePicture& picture) = 0;

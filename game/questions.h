@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "game/order_choices.h"
-#include "model/puzzle.h"
+#include "model/grid_reader.h"
 
 namespace tidewalk {
 
@@ -64,6 +64,12 @@ struct FoundSolutions {
     std::vector<Difference> differences;  ///< none with one solution
 };
 
+/// Grids of which one is to be chosen.
+struct GridChoice {
+    std::string caption;  ///< what they are and where they come from
+    std::vector<FoundGrid> grids;
+};
+
 /// The windows that a command waits for.
 class Questions {
  public:
@@ -78,6 +84,9 @@ class Questions {
 
     /// Asks for a puzzle of the open collection. Its number; 0 when the player thinks better of it.
     virtual int ChoosePuzzle() = 0;
+
+    /// Asks for one of the grids that fit a board. Its number, from 1; 0 when the player thinks better of it.
+    virtual int ChooseGrid(const GridChoice& choice) = 0;
 
     /// Shows solutions until the player has seen enough.
     virtual void ShowSolutions(const FoundSolutions& found) = 0;

@@ -95,7 +95,7 @@ bool SetRow(Puzzle& puzzle, int row, std::string_view text, bool spaced) {
 bool GridReader::HasLine(std::size_t at) {
     while (ahead_.size() <= at && !ended_) {
         std::string line;
-        ended_ = !lines_.Next(line, kLineBytes);
+        ended_ = CutShort() || !lines_.Next(line, kLineBytes);
         if (!ended_) ahead_.push_back(std::move(line));
     }
     return at < ahead_.size();

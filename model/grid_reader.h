@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <limits>
 #include <optional>
 #include <string>
 #include <utility>
@@ -22,6 +23,9 @@ struct FoundGrid {
     Puzzle puzzle;  ///< no cells when it does not fit
 };
 
+/// How much of a file is looked at to say what there is, by whoever waits for it. Thousands of grids are smaller.
+inline constexpr std::uint64_t kGlance = 4 * 1024 * 1024;
+
 /// Takes the grids of a text in their order. Whatever the text is, no more than a few lines of it are held.
 ///
 /// - A text that begins with "#" is a sequence of grids with a mark "#RRCC" each, rows and columns in two digits.
@@ -37,15 +41,21 @@ struct FoundGrid {
 /// line or mark.
 class GridReader {
  public:
-    /// Throws FileError when the file cannot be opened.
-    explicit GridReader(const std::string& path) : lines_(path) {}
+    /// Looks at no more than so many bytes, and at the rest of a line. Throws FileError when the file cannot be opened.
+    explicit GridReader(const std::string& path, std::uint64_t most = kWithoutEnd) : lines_(path), most_(most) {}
     /// `source` has to live as long; messages call it `name`.
-    GridReader(std::streambuf& source, std::string name) : lines_(source, std::move(name)) {}
+    GridReader(std::streambuf& source, std::string name, std::uint64_t most = kWithoutEnd)
+        : lines_(source, std::move(name)), most_(most) {}
 
     /// Takes the next grid; false when there is none. Throws FileError when reading fails.
     bool Next(FoundGrid& grid);
 
+    /// True when there were no more bytes to look at, whatever comes behind.
+    bool CutShort() const { return lines_.Position() >= most_; }
+
  private:
+    static constexpr std::uint64_t kWithoutEnd = std::numeric_limits<std::uint64_t>::max();
+
     /// The rows of a grid among the lines ahead.
     struct Rows {
         std::size_t first = 0;
@@ -69,6 +79,7 @@ class GridReader {
 
     LineReader lines_;
     std::deque<std::string> ahead_;  ///< lines that were read and not yet taken
+    std::uint64_t most_;             ///< bytes to look at
     bool ended_ = false;
     std::int64_t taken_ = 0;  ///< lines
     bool any_ = false;        ///< a grid was taken

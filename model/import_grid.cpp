@@ -2,6 +2,7 @@
 #include "model/import_grid.h"
 
 #include <fstream>
+#include <sstream>
 #include <string_view>
 #include <vector>
 
@@ -10,6 +11,8 @@
 #include "game/job.h"
 #include "game/pick_file.h"
 #include "model/characters.h"
+#include "model/file_error.h"
+#include "model/grid_tally.h"
 #include "model/line_reader.h"
 #include "model/load_puzzle.h"
 #include "model/numbers.h"
@@ -18,6 +21,9 @@
 namespace tidewalk {
 
 namespace {
+
+/// More are not offered in a list; nobody would find one there.
+constexpr std::size_t kMostToChooseFrom = 10'000;
 
 /// The lines of `text`, whatever ends them. Empty ones at the end are no rows: nearly every copied text ends in one.
 std::vector<std::string> LinesOf(std::string_view text) {
@@ -34,10 +40,29 @@ std::vector<std::string> LinesOf(std::string_view text) {
     return lines;
 }
 
-/// Writes the lines of a grid that fits a board; false for any other text.
+/// True when a puzzle is among the grids of the text.
+bool HasPuzzle(const std::string& text) {
+    std::stringbuf source(text);
+    GridReader reader(source, "the clipboard", kGlance);
+    FoundGrid grid;
+    while (reader.Next(grid)) {
+        if (grid.isPuzzle) return true;
+    }
+    return false;
+}
+
+/// True for the lines of a plain grid that fits a board.
+bool FitsBoard(const std::vector<std::string>& lines) {
+    return lines.size() <= static_cast<std::size_t>(kMaxSide) && CharacterCount(lines.front()) <= kMaxSide;
+}
+
+/// True for the text, in these lines, of one grid or of several.
+bool IsOfGrids(const std::string& text, const std::vector<std::string>& lines) {
+    if (Trim(text).empty() || lines.empty() || lines.front().empty()) return false;
+    return FitsBoard(lines) || HasPuzzle(text);
+}
+
 bool WriteLines(const std::string& path, const std::vector<std::string>& lines) {
-    if (lines.empty() || lines.size() > static_cast<std::size_t>(kMaxSide)) return false;
-    if (lines.front().empty() || CharacterCount(lines.front()) > kMaxSide) return false;
     std::ofstream file(path, std::ios::binary);
     for (const std::string& line : lines)
         file << line << kLineEnd;
@@ -63,26 +88,62 @@ bool ReadGridFile(Game& game, const std::string& path, int number) {
     return true;
 }
 
+GridWish AskForGrid(Game& game, const std::string& path) {
+    GridChoice choice;
+    GridTally tally;
+    bool more = true;
+    try {
+        GridReader reader(path, kGlance);
+        FoundGrid grid;
+        while ((more = reader.Next(grid)) && !reader.CutShort() && choice.grids.size() < kMostToChooseFrom) {
+            tally.Add(grid);
+            choice.grids.push_back(grid);
+        }
+        more = more || reader.CutShort();
+    } catch (const FileError&) {
+        return {};
+    }
+    if (tally.Grids() < 2) return {};
+    const std::string words = (more ? "the first " : "") + tally.Words();
+    if (tally.Puzzles() == 0 || (tally.Puzzles() == 1 && choice.grids.front().isPuzzle)) return {1, ": " + words};
+    choice.caption = FileNameOf(path) + ": " + words;
+    const int number = game.questions.ChooseGrid(choice);
+    return {number, ", grid" + Str(number) + ": " + words};
+}
+
 void mnuimport_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     const std::string path =
         PickFile(game, {"Select a grid file", "*.txt", "Tide Files", game.AppFolder, FileRequest::Mode::Open});
     if (path.empty()) return;
-    ReadGridFile(game, path, 1);
-    game.window.SetText(WindowText::Status, AndPlayNote(game, "File " + FileNameOf(path) + " imported"));
+    const GridWish wish = AskForGrid(game, path);
+    if (wish.number == 0) return;
+    ReadGridFile(game, path, wish.number);
+    game.window.SetText(WindowText::Status, AndPlayNote(game, "File " + FileNameOf(path) + " imported" + wish.words));
 }
 
 void mnupastepuzzle_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     const std::string workFile = WorkFile(game, "tempin.txt");
     const std::string text = game.clipboard.Text();
-    if (Trim(text).empty() || !WriteLines(workFile, LinesOf(text))) {
+    const std::vector<std::string> lines = LinesOf(text);
+    if (!IsOfGrids(text, lines) || !WriteLines(workFile, lines)) {
         game.window.SetText(WindowText::Status, "Error importing puzzle");
         return;
     }
+    const GridWish wish = AskForGrid(game, workFile);
+    if (wish.number == 0) return;
     // The reader has said so itself if it does not take the grid.
-    ReadGridFile(game, workFile, 1);
-    game.window.SetText(WindowText::Status, AndPlayNote(game, "Puzzle imported"));
+    ReadGridFile(game, workFile, wish.number);
+    game.window.SetText(WindowText::Status, AndPlayNote(game, "Puzzle imported" + wish.words));
+}
+
+void mnucopytext_Click(Game& game) {
+    std::string text;
+    for (const std::string& row : PlainGrid(game.board.puzzle))
+        text += row + "\n";
+    game.clipboard.SetText(text);
+    game.window.SetText(WindowText::Status, "Puzzle copied as text");
 }
 
 }  // namespace tidewalk

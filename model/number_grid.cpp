@@ -85,8 +85,9 @@ void NumberGrid::Take(const Puzzle& puzzle) {
 bool LoadNumberGrid(Game& game, NumberGrid& grid) {
     const std::string path = PickFile(game, GridRequest(game, "Select a grid file", FileRequest::Mode::Open));
     if (path.empty()) return false;
+    const int number = AskForGrid(game, path).number;
     Puzzle puzzle;
-    if (!ReportGridResult(game, ReadGridFrom(path, 1, puzzle), path, 1)) return false;
+    if (number == 0 || !ReportGridResult(game, ReadGridFrom(path, number, puzzle), path, number)) return false;
     grid.Take(puzzle);
     return true;
 }

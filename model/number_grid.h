@@ -45,7 +45,8 @@ class NumberGrid {
     CellPlace cursor_{1, 1};
 };
 
-/// Asks for a file and takes its first grid; nothing changes when that fails. True when a grid was read.
+/// Asks for a file, which of its grids where there are several, and takes that; nothing changes when that fails. True
+/// when a grid was read.
 bool LoadNumberGrid(Game& game, NumberGrid& grid);
 
 /// Asks for a file and writes the grid to it. True when it was written.

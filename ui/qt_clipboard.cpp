@@ -14,6 +14,10 @@ std::string QtClipboard::Text() {
     return QGuiApplication::clipboard()->text().toStdString();
 }
 
+void QtClipboard::SetText(const std::string& text) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+}
+
 bool QtClipboard::SetPicture(const PuzzlePicture& picture) {
     const double scale = mainWindow_ != nullptr ? mainWindow_->devicePixelRatioF() : qGuiApp->devicePixelRatio();
     const QImage image = MakePicture(picture.draw, scale);

@@ -15,6 +15,7 @@ class QtClipboard final : public Clipboard {
     void SetMainWindow(QWidget* window) { mainWindow_ = window; }
 
     std::string Text() override;
+    void SetText(const std::string& text) override;
     bool SetPicture(const PuzzlePicture& picture) override;
 
  private:

@@ -2,11 +2,13 @@
 // The windows that a command waits for.
 #pragma once
 
+#include <QApplication>
 #include <optional>
 
 #include "ui/chooser.h"
 #include "ui/form3.h"
 #include "ui/form5.h"
+#include "ui/grid_chooser.h"
 #include "ui/solutions_window.h"
 
 namespace tidewalk {
@@ -26,6 +28,12 @@ class QtQuestions final : public Questions {
     }
     int ChoosePuzzle() override {
         Chooser chooser(*handlers_.game(), plays_.States(), &mainWindow_);
+        return chooser.exec() == QDialog::Accepted ? chooser.Chosen() : 0;
+    }
+    int ChooseGrid(const GridChoice& choice) override {
+        // The number editor asks, too.
+        QWidget* const asking = QApplication::activeModalWidget();
+        GridChooser chooser(choice, handlers_.game()->options, asking != nullptr ? asking : &mainWindow_);
         return chooser.exec() == QDialog::Accepted ? chooser.Chosen() : 0;
     }
     void ShowSolutions(const FoundSolutions& found) override {

@@ -293,6 +293,50 @@ TEST(Import, NamesTheFileWhateverBecameOfIt) {
               "status: File missing.txt imported");
 }
 
+TEST(Import, AsksWhichOfSeveralGridsAndTellsWhatTheyAre) {
+    TestGame game;
+    const std::string path = game.folder.Write("many.txt", "2x3\n1.1\n...\n\nNo grid\n\n2 . 2\n");
+    const std::string words = "3 grids of 2x3 and 1x3, one not a puzzle: line 5";
+    for (const int chosen : {3, 0}) {
+        game.world.chosen = chosen;
+        game.world.ExpectPick("Select a grid file|*.txt|Tide Files|open", path);
+        game.Run(mnuimport_Click);
+        EXPECT_EQ(game.world.Seen(), "pick, grid? many.txt: " + words +
+                                         (chosen == 0 ? ""
+                                                      : ", status: Edited puzzle read, status: File many.txt imported, "
+                                                        "grid 3: " +
+                                                            words));
+        EXPECT_EQ(game.Numbers(), Lines{"2.2"});
+    }
+    game.world.ExpectPick("Select a grid file|*.txt|Tide Files|open", game.folder.Write("one.txt", "3.3\n\nNo\n"));
+    game.Run(mnuimport_Click);
+    EXPECT_EQ(game.world.Status(), "File one.txt imported: 2 grids of 1x3, one not a puzzle: line 3")
+        << "nobody is asked";
+    NumberGrid editor;
+    game.world.chosen = 1;
+    game.world.ExpectPick(kLoadPick, path);
+    EXPECT_TRUE(game.Run(LoadNumberGrid, editor));
+    EXPECT_EQ(PlainGrid(editor.Numbers()), (Lines{"1.1", "..."}));
+}
+
+TEST(Paste, TakesEveryFormAndWhatWasCopiedAsText) {
+    LoadedGame game({kSmallPuzzle});
+    const Lines numbers = game.Numbers();
+    game.Run(mnucopytext_Click);
+    EXPECT_EQ(game.world.Seen(), "status: Puzzle copied as text");
+    const auto pasted = [&game](const std::string& text) {
+        game.world.clipboard = text;
+        game.Run(mnupastepuzzle_Click);
+        EXPECT_TRUE(game.world.Status().starts_with("Puzzle imported")) << text;
+        return game.Numbers();
+    };
+    EXPECT_EQ(pasted(game.world.clipboard), numbers);
+    const Lines spaced(25, ". 2" + std::string(45, ' ') + ".");
+    EXPECT_EQ(pasted("25x25\n" + Joined(spaced)), Lines(25, ".2" + std::string(23, '.')));
+    game.world.chosen = 30;
+    EXPECT_EQ(pasted(Joined(Lines(29, "1.1\n")) + "2.2"), Lines{"2.2"}) << "the last of many";
+}
+
 TEST(Paste, TakesLinesOfBothEndsAndPassesOverEmptyOnesAtTheEnd) {
     std::string row = "1.3.";
     for (int i = 0; i < 21; ++i)

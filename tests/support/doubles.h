@@ -72,6 +72,7 @@ class World final : public Prompts,
     bool AskBatch(BatchRequest& request) override { return Note("batch?"), std::exchange(batch, nullptr)(request); }
     void ShowSolutions(const FoundSolutions& found) override { Note("solutions"), solutions = found; }
     int ChoosePuzzle() override { return Note("puzzle?"), chosen; }
+    int ChooseGrid(const GridChoice& choice) override { return Note("grid? " + choice.caption), chosen; }
     int chosen = 0;
     bool AskPrint(PrintRequest& request) override { return Note("print?"), std::exchange(print, nullptr)(request); }
 
@@ -114,6 +115,7 @@ class World final : public Prompts,
     std::int64_t Milliseconds() override { return milliseconds += step; }
 
     std::string Text() override { return clipboard; }
+    void SetText(const std::string& text) override { clipboard = text; }
     bool SetPicture(const PuzzlePicture& given) override { return copied = given, copies; }
     std::vector<std::string> Names() override { return printers; }
     std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,

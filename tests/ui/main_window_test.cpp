@@ -93,6 +93,7 @@ TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
         "mnucheckpoint=status Checkpoint set|mnubacktocheckpoint=moves 0|mnulines=status Lines hidden|can2=selected 0|"
         "mnuprintcurrent=Print Current Puzzle and its Solution?|mnuprintpreview=PrintPreview|control27=Form5|"
         "mnucopyclippuz=status Puzzle copied to clipboard|mnucopyclipsol=status Solution copied to clipboard|"
+        "mnucopytext=status Puzzle copied as text|"
         "mnusavepuzpicture=file: Save Picture As|mnusavesolpicture=file: Save Picture As|"
         "can3=|cmdsave=file: Add Puzzle to File|cmdload=file: Tidewalk|cmdedit=Form6|cmdviewcol=|"
         "cmdnew1=works: Creating 7x7 puzzle ...|cmdcancel=|cmdexit=Exit?|";
