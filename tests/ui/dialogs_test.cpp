@@ -12,6 +12,7 @@
 #include <QTextBlock>
 #include <set>
 
+#include "model/plain_grid.h"
 #include "options/colour_scheme.h"
 #include "ui/colours.h"
 #include "ui/msg_form.h"
