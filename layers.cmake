@@ -55,8 +55,8 @@ tidewalk_layer(generator ON techniques FILES
 # The picture of a puzzle on any surface, and the board with what the player has done on it: on values, too.
 
 tidewalk_layer(drawing ON model FILES
-    drawing/contrast drawing/double_line drawing/puzzle_svg drawing/render_puzzle drawing/sheet drawing/surface
-    drawing/svg_surface)
+    drawing/contrast drawing/double_line drawing/printed_board drawing/puzzle_svg drawing/render_puzzle drawing/sheet
+    drawing/surface drawing/svg_surface)
 
 tidewalk_layer(board ON drawing FILES
     board/board board/bridge_table board/check_bridges board/draw_marks board/drawing board/guide board/history

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "drawing/double_line.h"
 #include "model/numbers.h"
 
 namespace tidewalk {
@@ -26,27 +25,8 @@ constexpr double kHeadingRoom = 260;  ///< what a heading above its board takes,
 constexpr double kFooterRoom = 300;   ///< kept free at the foot of a wide page, in twips
 constexpr double kBoardsApart = 450;  ///< between puzzle and solution on a wide page, in twips
 
-/// Two fifths of a cell: discs of neighbours two cells apart leave more than a cell of their bridges to be seen, and
-/// both strokes of a double bridge, a seventh of a cell apart at most, end well inside the disc.
-constexpr double kRadiusInCells = 0.4;
-
 /// A digit reaches about this far from its centre, corner to corner, in twips for each point of its size.
 constexpr double kDigitReach = 9.2;
-
-/// The drawn rectangle grows by everything that is drawn.
-void Include(Surface::Area& drawn, double left, double top, double right, double bottom) {
-    drawn.left = std::min(drawn.left, left);
-    drawn.top = std::min(drawn.top, top);
-    drawn.right = std::max(drawn.right, right);
-    drawn.bottom = std::max(drawn.bottom, bottom);
-}
-
-/// The pen, but no wider than leaves the two strokes of a double bridge clearly apart.
-int LimitedPen(const PrintedBoard& board, int lineWidth) {
-    constexpr double kShare = 0.55;
-    const int widest = static_cast<int>(board.Gap() / kTwipsPerPen * kShare);
-    return std::clamp(lineWidth, 1, std::max(widest, 1));
-}
 
 /// `text` without its middle, as long as it can be in `width` twips; characters of several bytes stay whole.
 std::string Shortened(Surface& surface, const std::string& text, double width) {
@@ -73,48 +53,11 @@ std::string Shortened(Surface& surface, const std::string& text, double width) {
 void PrintText(Surface& surface, double x, double y, const std::string& text, Surface::Area& drawn) {
     const Surface::Extent extent = surface.TextExtent(text);
     surface.Print(x, y, text, kBlack);
-    Include(drawn, x, y, x + extent.width, y + extent.height);
+    Include(drawn, {x, y, x + extent.width, y + extent.height});
 }
 
 std::string FooterText() {
     return "Tidewalk - bridges puzzles to play, solve and make";
-}
-
-void DrawBridges(const Puzzle& puzzle, Surface& surface, const PrintedBoard& board) {
-    for (const Link& link : puzzle.LinkList) {
-        const CellPlace a = puzzle.PlaceOf(link.first);
-        const CellPlace b = puzzle.PlaceOf(link.second);
-        const double x1 = board.X(a.col);
-        const double y1 = board.Y(a.row);
-        const double x2 = board.X(b.col);
-        const double y2 = board.Y(b.row);
-        surface.SetKind(link.Bridges() == 2 ? Kind::DoubleBridge : Kind::Bridge);
-        if (link.Bridges() == 1) surface.Line(x1, y1, x2, y2, kBlack);
-        if (link.Bridges() == 2) DrawDoubleLine(surface, x1, y1, x2, y2, board.Gap(), kBlack);
-    }
-}
-
-void DrawIslands(const Puzzle& puzzle, Surface& surface, const PrintedBoard& board, Surface::Area& drawn) {
-    const double reach = board.Radius() + board.lineWidth * kTwipsPerPen / 2;
-    for (CellNumber id = 1; id <= puzzle.CellCount(); ++id) {
-        const int number = puzzle.IslandAt(id);
-        if (number <= 0) continue;
-        const auto [row, col] = puzzle.PlaceOf(id);
-        const double x = board.X(col);
-        const double y = board.Y(row);
-        surface.SetKind(Kind::Island);
-        surface.Circle(x, y, board.Radius(), kBlack, kWhite);
-        surface.SetKind(Kind::Number);
-        surface.PrintCentred(x, y, NumText(number), kBlack);
-        Include(drawn, x - reach, y - reach, x + reach, y + reach);
-    }
-}
-
-void DrawBoard(const Puzzle& puzzle, Surface& surface, const PrintedBoard& board, bool solution, Surface::Area& drawn) {
-    surface.SetDrawWidth(board.lineWidth);
-    surface.SetFontSize(board.fontSize);
-    if (solution) DrawBridges(puzzle, surface, board);
-    DrawIslands(puzzle, surface, board, drawn);
 }
 
 /// A page wider than high has no room at the height where the solution stands on others.
@@ -187,14 +130,6 @@ PrintedBoard PlaceBeside(const Puzzle& puzzle, const RenderRequest& request, con
 
 }  // namespace
 
-double PrintedBoard::Radius() const {
-    return kRadiusInCells * cell;
-}
-
-int PrintedBoard::Gap() const {
-    return RoundHalfEven(cell / 8.0);
-}
-
 PrintedBoard LayoutPrintedPuzzle(const Puzzle& puzzle, const RenderRequest& request) {
     PrintedBoard board;
     board.cell = std::min(WantedCell(puzzle), kLargestPrintedCell);
@@ -226,11 +161,11 @@ Surface::Area RenderPuzzle(const Puzzle& puzzle, Surface& surface, const RenderR
     Surface::Area drawn{static_cast<double>(request.x0), top, static_cast<double>(request.x0), top};
     if (request.mode != RenderMode::Page) surface.Clear(kWhite);
     PrintTitleLine(surface, request, drawn);
-    DrawBoard(puzzle, surface, board, request.mode == RenderMode::Solution, drawn);
+    DrawPrintedBoard(puzzle, surface, board, request.mode == RenderMode::Solution, drawn);
     if (request.mode == RenderMode::Page) {
         const PrintedBoard solution = LayoutPrintedSolution(puzzle, request, FooterHeight(surface));
         PrintHeading(puzzle, surface, request, solution, drawn);
-        DrawBoard(puzzle, surface, solution, true, drawn);
+        DrawPrintedBoard(puzzle, surface, solution, true, drawn);
     }
     PrintFooter(surface, request, drawn);
     return drawn;

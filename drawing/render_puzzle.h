@@ -5,15 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "drawing/surface.h"
+#include "drawing/printed_board.h"
 #include "model/puzzle.h"
 
 namespace tidewalk {
-
-/// Pictures and pages count pen widths in this many to the inch, so that a stroke is as wide on paper at 300 dpi as at
-/// 1200, and as wide in a picture.
-inline constexpr double kPensPerInch = 300;
-inline constexpr double kTwipsPerPen = 1440 / kPensPerInch;
 
 /// Where the offsets of pictures and pages lie, in twips.
 inline constexpr int kPictureOffset = 400;
@@ -36,22 +31,6 @@ struct RenderRequest {
     std::string title;
     int lineWidth = 4;    ///< the pen of the bridges, in `kPensPerInch`
     Surface::Area limit;  ///< what may be drawn on, in twips from the corner that the offsets count from
-};
-
-/// The geometry of one board on a picture or a page, in twips.
-struct PrintedBoard {
-    int cell = 0;
-    int half = 0;  ///< from a cell's corner to its centre
-    double left = 0;
-    double top = 0;
-    double fontSize = 0;  ///< of the islands' numbers, in points
-    int lineWidth = 1;    ///< the pen, in `kPensPerInch`
-
-    double X(int col) const { return left + (col - 1) * cell + half; }
-    double Y(int row) const { return top + (row - 1) * cell + half; }
-    double Radius() const;
-    /// Between the two strokes of a double bridge.
-    int Gap() const;
 };
 
 /// The board of the puzzle, or of the solution on a picture of its own.

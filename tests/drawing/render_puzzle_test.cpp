@@ -73,12 +73,12 @@ TEST(RenderPuzzle, PictureIsDrawnFromItsTitleToItsFooter) {
                      "line 2668 1668 2668 3468 0",
                      "line 2780 1668 2780 3468 0",
                      "circle 868 1668 360 0 16777215",
-                     "print 794.667 1521.33 2 0",
                      "circle 2668 1668 360 0 16777215",
-                     "print 2594.67 1521.33 5 0",
                      "circle 4468 1668 360 0 16777215",
-                     "print 4394.67 1521.33 1 0",
                      "circle 2668 3468 360 0 16777215",
+                     "print 794.667 1521.33 2 0",
+                     "print 2594.67 1521.33 5 0",
+                     "print 4394.67 1521.33 1 0",
                      "print 2594.67 3321.33 2 0",
                      "print 400 3969.6 Tidewalk - bridges puzzles to play, solve and make 0"};
     EXPECT_EQ(picture.calls, calls);
@@ -221,10 +221,10 @@ TEST(PuzzleSvg, IsTheDrawingWithAClassForEachKindAndWordsForThoseWhoCannotSeeIt)
             "<line class=\"double-bridge\" x1=\"882\" y1=\"1682\" x2=\"2682\" y2=\"1682\"/>\n"
             "<line class=\"double-bridge\" x1=\"882\" y1=\"1794\" x2=\"2682\" y2=\"1794\"/>\n"
             "<circle class=\"island\" cx=\"882\" cy=\"1682\" r=\"360\"/>\n"
-            "<text class=\"number\" x=\"882\" y=\"1790.9\">2</text>\n"
             "<circle class=\"island\" cx=\"2682\" cy=\"1682\" r=\"360\"/>\n"
-            "<text class=\"number\" x=\"2682\" y=\"1790.9\">3</text>\n"
             "<circle class=\"island\" cx=\"4482\" cy=\"1682\" r=\"360\"/>\n"
+            "<text class=\"number\" x=\"882\" y=\"1790.9\">2</text>\n"
+            "<text class=\"number\" x=\"2682\" y=\"1790.9\">3</text>\n"
             "<text class=\"number\" x=\"4482\" y=\"1790.9\">1</text>\n"
             "<text class=\"footer\" x=\"400\" y=\"2280.2\">Tidewalk - bridges puzzles to play, solve and "
             "make</text>\n"
