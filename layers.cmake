@@ -58,6 +58,10 @@ tidewalk_layer(drawing ON model FILES
     drawing/contrast drawing/double_line drawing/printed_board drawing/puzzle_svg drawing/render_puzzle drawing/sheet
     drawing/surface drawing/svg_surface)
 
+tidewalk_layer(booklet ON drawing techniques FILES
+    booklet/booklet booklet/booklet_contents booklet/booklet_design booklet/front_pages booklet/page_layout
+    booklet/print_text)
+
 tidewalk_layer(board ON drawing FILES
     board/board board/bridge_table board/check_bridges board/draw_marks board/drawing board/guide board/history
     board/history_lines board/kept_play_text board/layout board/mistakes board/pair_marks board/place_bridge
@@ -65,7 +69,7 @@ tidewalk_layer(board ON drawing FILES
 
 # The game: what the window's handlers share, and the seams to the world.
 
-tidewalk_layer(game ON board generator FILES
+tidewalk_layer(game ON board booklet generator FILES
     game/background game/choices game/clock game/file_work game/game game/guidance game/job game/job_state
     game/list_box game/main_window game/messages game/order_choices game/output game/pick_file game/play_store
     game/play_time game/questions game/recent_files)

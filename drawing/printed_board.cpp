@@ -75,6 +75,20 @@ int LimitedPen(const PrintedBoard& board, int lineWidth) {
     return std::clamp(lineWidth, 1, std::max(widest, 1));
 }
 
+PrintedBoard BoardOfCell(int cell, double left, double top, IslandShape shape, int lineWidth) {
+    constexpr double kCellPerPoint = 33;
+    PrintedBoard board;
+    board.cell = cell;
+    board.half = cell / 2;
+    board.left = left;
+    board.top = top;
+    board.fontSize = cell / kCellPerPoint;
+    board.shape = shape;
+    board.centredDoubles = true;
+    board.lineWidth = LimitedPen(board, lineWidth);
+    return board;
+}
+
 void Include(Surface::Area& drawn, const Surface::Area& added) {
     drawn.left = std::min(drawn.left, added.left);
     drawn.top = std::min(drawn.top, added.top);

@@ -38,6 +38,9 @@ struct PrintedBoard {
 /// The pen, in `kPensPerInch`, but no wider than leaves the two strokes of a double bridge clearly apart.
 int LimitedPen(const PrintedBoard& board, int lineWidth);
 
+/// A board that fits a cell of any size, with numbers half as high as its islands and its double bridges in the middle.
+PrintedBoard BoardOfCell(int cell, double left, double top, IslandShape shape, int lineWidth);
+
 /// The rectangle `drawn` grows until it holds the other one, too.
 void Include(Surface::Area& drawn, const Surface::Area& added);
 

@@ -28,6 +28,9 @@ constexpr int BlueOf(Colour colour) {
 inline constexpr Colour kBlack = Rgb(0, 0, 0);
 inline constexpr Colour kWhite = Rgb(255, 255, 255);
 
+/// A point, in which letters are measured, is 1/72 inch.
+inline constexpr double kTwipsPerPoint = 20;
+
 /// What something that is drawn stands for.
 enum class Kind { Other, Title, Heading, Footer, Bridge, DoubleBridge, Island, Number };
 

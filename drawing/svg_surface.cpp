@@ -13,7 +13,6 @@ namespace tidewalk {
 
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
 constexpr double kTwipsPerPixel = 15;
 constexpr double kAscent = 0.905;       ///< of the font, in its sizes
 constexpr double kLineHeight = 1.117;   ///< from the highest letter to the lowest

@@ -20,18 +20,7 @@ std::string WordFor(std::optional<Grade> grade) {
 }  // namespace
 
 std::string_view NameOf(std::optional<Grade> grade) {
-    if (!grade) return "Any grade";
-    switch (*grade) {
-        case Grade::VEasy:
-            return "Very easy";
-        case Grade::Easy:
-            return "Easy";
-        case Grade::Hard:
-            return "Hard";
-        case Grade::VHard:
-            break;
-    }
-    return "Very hard";
+    return grade ? WordsFor(*grade) : "Any grade";
 }
 
 PuzzleOrder OrderFor(const OrderChoice& choice, BoardSize size) {

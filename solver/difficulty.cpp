@@ -23,6 +23,11 @@ std::string_view NameOf(Grade grade) {
     return "VHard";
 }
 
+std::string_view WordsFor(Grade grade) {
+    if (grade == Grade::VEasy) return "Very easy";
+    return grade == Grade::VHard ? "Very hard" : NameOf(grade);
+}
+
 std::string_view DifficultyName(int score) {
     return NameOf(GradeOf(score));
 }

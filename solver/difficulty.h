@@ -14,6 +14,9 @@ Grade GradeOf(int score);
 /// "VEasy", "Easy", "Hard" or "VHard".
 std::string_view NameOf(Grade grade);
 
+/// The same in words for people: "Very easy", "Easy", "Hard" or "Very hard".
+std::string_view WordsFor(Grade grade);
+
 /// The name of the score's grade.
 std::string_view DifficultyName(int score);
 

@@ -16,7 +16,6 @@ namespace tidewalk {
 
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
 constexpr double kSmallestMargin = 360;  ///< in twips
 constexpr int kPdfPixelsPerInch = 1200;
 

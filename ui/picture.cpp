@@ -19,7 +19,6 @@ constexpr double kPixelsPerInch = 96;
 constexpr int kLargestSide = 32767;  ///< in pixels, as much as a painter can reach
 constexpr double kInchesPerMetre = 39.37;
 constexpr int kPdfPixelsPerInch = 1200;
-constexpr double kTwipsPerPoint = 20;
 
 /// One page, as large as the picture.
 void WritePdf(QIODevice& file, const PuzzlePicture& picture) {

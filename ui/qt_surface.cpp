@@ -9,7 +9,6 @@ namespace tidewalk {
 
 namespace {
 
-constexpr double kTwipsPerPoint = 20;
 
 }  // namespace
 

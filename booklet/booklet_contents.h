@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+// The puzzles of a booklet, as far as they have to be known before a page is drawn.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "booklet/booklet_design.h"
+#include "model/line_index.h"
+#include "model/puzzle.h"
+#include "model/puzzle_range.h"
+
+namespace tidewalk {
+
+/// More puzzles than anybody binds: what is known of them stays in memory.
+inline constexpr int kMostBookletPuzzles = 10000;
+
+struct BookletEntry {
+    int number = 0;  ///< in its collection
+    BoardSize size;
+    std::optional<int>
+        score;            ///< that `DifficultyName` names; nothing without exactly one solution, or if not asked for
+    bool solved = false;  ///< it has a solution that can be printed
+};
+
+struct BookletContents {
+    std::vector<BookletEntry> entries;
+    std::vector<int> unreadable;  ///< the numbers of lines that are no puzzles
+};
+
+/// Asked before each puzzle with the number of those that are done; false stops. It is also asked, with the same
+/// number, while a grade is being found.
+using ContentsStep = std::function<bool(int done)>;
+
+/// Reads what is asked for, which is to be no more than `kMostBookletPuzzles`, in the order of the collection. Nothing
+/// when `step` said no. Finding grades takes most of the time.
+std::optional<BookletContents> ReadBookletContents(const std::string& collection, const PuzzleRange& range, bool graded,
+                                                   const ContentsStep& step);
+
+/// The order in which a booklet has them: equal ones by their numbers, those without a grade last.
+void SortEntries(std::vector<BookletEntry>& entries, BookletDesign::Order order);
+
+/// Puzzle `number` of the collection with the bridges of a solution as its links: the stored one, or one that was found
+/// where that is none. No links where none was found; nothing where there is no such puzzle.
+std::optional<Puzzle> ReadSolvedPuzzle(LineIndex& lines, const std::string& collection, int number);
+
+}  // namespace tidewalk
