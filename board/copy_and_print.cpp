@@ -85,14 +85,14 @@ void SavePicture(Game& game, RenderMode mode) {
 /// Begins a document on the current printer. Nothing comes back when there is none to be: the player has said so, or
 /// was told the reason.
 std::unique_ptr<PrintDocument> BeginDocument(Game& game) {
-    const std::string printer = CurrentPrinter(game);
-    std::string file;
-    if (printer == kPdfPrinter) {
-        file = AskFileName(game, "Print to a PDF file", "*.pdf", "PDF Files", "pdf");
-        if (file.empty()) return nullptr;
+    DocumentSetup setup;
+    setup.printer = CurrentPrinter(game);
+    if (setup.printer == kPdfPrinter) {
+        setup.file = AskFileName(game, "Print to a PDF file", "*.pdf", "PDF Files", "pdf");
+        if (setup.file.empty()) return nullptr;
     }
     std::string error;
-    auto document = game.printers.Begin(printer, file, error);
+    auto document = game.printers.Begin(setup, error);
     if (!document) ShowPrintError(game, error);
     return document;
 }

@@ -4,10 +4,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "drawing/sheet.h"
 #include "drawing/surface.h"
 
 namespace tidewalk {
@@ -67,6 +69,17 @@ class PrintDocument {
 /// The printer that is always there: a file.
 inline constexpr std::string_view kPdfPrinter = "PDF file";
 
+/// A document that is to be made.
+struct DocumentSetup {
+    std::string printer;
+    std::string file;  ///< the path that `kPdfPrinter` writes to; what is there is replaced at the document's end
+    std::optional<SheetFormat> format;  ///< without one the usual paper, lying as the preview was left
+    std::string title;                  ///< what the document says of itself, "" for nothing
+    std::string author;
+    std::string subject;
+    std::string keywords;
+};
+
 /// The printers.
 class Printers {
  public:
@@ -75,10 +88,15 @@ class Printers {
     /// All names, the system's default first and `kPdfPrinter` last.
     virtual std::vector<std::string> Names() = 0;
 
-    /// Begins a document. `file` is the path that `kPdfPrinter` writes to; a file that is there is replaced at the end
-    /// of the document. Nothing comes back when the printer refuses; the reason is then in `error`.
-    virtual std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
-                                                 std::string& error) = 0;
+    /// The paper that most documents are printed on: Letter where the system's printer or, without one, the country's
+    /// measures say so, else A4.
+    virtual Paper UsualPaper() = 0;
+
+    /// A sheet as a document of this format gets it from the printer: of the paper that is in there if it has no such.
+    virtual Sheet SheetOf(const std::string& printer, const SheetFormat& format) = 0;
+
+    /// Begins a document. Nothing comes back when the printer refuses; the reason is then in `error`.
+    virtual std::unique_ptr<PrintDocument> Begin(const DocumentSetup& setup, std::string& error) = 0;
 
     /// Shows what a document of this one page looks like on a printer.
     virtual void Preview(const std::string& printer, const PageFunction& draw) = 0;

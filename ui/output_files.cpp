@@ -33,8 +33,10 @@ QString WritePictureFile(const OutputOrder& order) {
 
 QString WritePages(const OutputOrder& order) {
     const std::string path = FileNameBytes(order.collection);
+    DocumentSetup setup;
+    setup.file = FileNameBytes(order.file);
     std::string error;
-    const auto document = BeginPdf(FileNameBytes(order.file), error);
+    const auto document = BeginPdf(setup, error);
     if (!document) return QString("The pages could not be written: %1").arg(QString::fromStdString(error));
     QStringList broken;
     const auto page = [&](int number) {

@@ -2,7 +2,6 @@
 // Sheets of paper: what fits on them, and documents made of them.
 #pragma once
 
-#include <QPageLayout>
 #include <QPageSize>
 #include <QPagedPaintDevice>
 #include <memory>
@@ -13,19 +12,17 @@
 namespace tidewalk {
 
 /// A4, or Letter where `wanted` or, without a wish, the country's measures say so.
-QPageSize UsualPaper(const QPageSize& wanted = QPageSize());
+Paper UsualPaper(const QPageSize& wanted = QPageSize());
 
-/// Lays `device` out for sheets of `paper` that are drawn on from their very corner.
-void UseWholeSheets(QPagedPaintDevice& device, const QPageSize& paper,
-                    QPageLayout::Orientation orientation = QPageLayout::Portrait);
+/// Lays `device` out for sheets that are drawn on from their very corner.
+void UseWholeSheets(QPagedPaintDevice& device, const SheetFormat& format);
 
-/// The rectangle of the device's sheet that can be printed on, in twips: a quarter of an inch, or as much as the device
-/// needs, stays free on each side.
-Surface::Area PrintableArea(const QPagedPaintDevice& device);
+/// The sheet that the device is laid out for. A quarter of an inch, or as much as the device needs, cannot be printed
+/// on at each side.
+Sheet SheetOf(const QPagedPaintDevice& device);
 
-/// Begins a PDF document that appears at `path`, complete, at its end. Nothing when the file cannot be written; `error`
-/// then tells why.
-std::unique_ptr<PrintDocument> BeginPdf(const std::string& path, std::string& error,
-                                        QPageLayout::Orientation orientation = QPageLayout::Portrait);
+/// Begins a PDF document that appears at `setup.file`, complete, at its end; without a format on the country's paper,
+/// upright. Nothing when the file cannot be written; `error` then tells why.
+std::unique_ptr<PrintDocument> BeginPdf(const DocumentSetup& setup, std::string& error);
 
 }  // namespace tidewalk

@@ -16,43 +16,30 @@ namespace tidewalk {
 
 namespace {
 
-void SetUp(QPrinter& device, const std::string& name, QPageLayout::Orientation orientation) {
-    if (name == kPdfPrinter) {
-        device.setOutputFormat(QPrinter::PdfFormat);
-    } else {
-        device.setPrinterName(QString::fromStdString(name));
-    }
-    device.setCreator(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
-    device.setDocName(device.creator());
-    UseWholeSheets(device, UsualPaper(device.pageLayout().pageSize()), orientation);
-}
-
 /// A document on a printer of the system.
 class PrinterDocument final : public PrintDocument {
  public:
-    PrinterDocument(const std::string& name, QPageLayout::Orientation orientation)
-        : name_(name), device_(QPrinter::HighResolution) {
-        SetUp(device_, name, orientation);
-        surface_ = std::make_unique<QtSurface>(device_.resolution(), kTwipsPerPen);
-        surface_->SetTarget(&device_);
+    PrinterDocument(const std::string& name, std::unique_ptr<QPrinter> device)
+        : name_(name), device_(std::move(device)), surface_(device_->resolution(), kTwipsPerPen) {
+        surface_.SetTarget(device_.get());
         // A page that stays empty, the first one too, is a page only if painting has begun.
-        surface_->FilledBox(0, 0, 0, 0, kWhite);
+        surface_.FilledBox(0, 0, 0, 0, kWhite);
     }
     ~PrinterDocument() override {
-        if (!ended_ && Works()) device_.abort();
-        surface_->SetTarget(nullptr);
+        if (!ended_ && Works()) device_->abort();
+        surface_.SetTarget(nullptr);
     }
 
-    bool Works() const { return device_.printerState() == QPrinter::Active; }
+    bool Works() const { return device_->printerState() == QPrinter::Active; }
 
-    Surface& Page() override { return *surface_; }
-    Surface::Area Printable() const override { return PrintableArea(device_); }
-    bool NewPage() override { return Works() && device_.newPage(); }
+    Surface& Page() override { return surface_; }
+    Surface::Area Printable() const override { return tidewalk::SheetOf(*device_).printable; }
+    bool NewPage() override { return Works() && device_->newPage(); }
     bool End() override {
         if (!Works()) return false;
         ended_ = true;
-        surface_->SetTarget(nullptr);
-        return device_.printerState() != QPrinter::Error;
+        surface_.SetTarget(nullptr);
+        return device_->printerState() != QPrinter::Error;
     }
     std::string Error() const override {
         return "The printer \"" + name_ +
@@ -61,8 +48,8 @@ class PrinterDocument final : public PrintDocument {
 
  private:
     std::string name_;
-    QPrinter device_;
-    std::unique_ptr<QtSurface> surface_;
+    std::unique_ptr<QPrinter> device_;
+    QtSurface surface_;
     bool ended_ = false;
 };
 
@@ -79,10 +66,42 @@ std::vector<std::string> QtPrinters::Names() {
     return names;
 }
 
-std::unique_ptr<PrintDocument> QtPrinters::Begin(const std::string& printer, const std::string& file,
-                                                 std::string& error) {
-    if (printer == kPdfPrinter) return BeginPdf(file, error, orientation_);
-    auto document = std::make_unique<PrinterDocument>(printer, orientation_);
+Paper QtPrinters::UsualPaper() {
+    const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
+    return tidewalk::UsualPaper(usual.isNull() ? QPageSize() : usual.defaultPageSize());
+}
+
+Sheet QtPrinters::SheetOf(const std::string& printer, const SheetFormat& format) {
+    DocumentSetup setup;
+    setup.printer = printer;
+    setup.format = format;
+    QPrinter device(QPrinter::HighResolution);
+    SetUp(device, setup);
+    return tidewalk::SheetOf(device);
+}
+
+/// Prepares the device for the document. Without a format it is laid out for the paper that the printer uses.
+void QtPrinters::SetUp(QPrinter& device, const DocumentSetup& setup) const {
+    if (setup.printer == kPdfPrinter) {
+        device.setOutputFormat(QPrinter::PdfFormat);
+    } else {
+        device.setPrinterName(QString::fromStdString(setup.printer));
+    }
+    device.setCreator(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
+    device.setDocName(setup.title.empty() ? device.creator() : QString::fromStdString(setup.title));
+    const Paper usual = tidewalk::UsualPaper(device.pageLayout().pageSize());
+    UseWholeSheets(device, setup.format.value_or(SheetFormat{usual, landscape_}));
+}
+
+std::unique_ptr<PrintDocument> QtPrinters::Begin(const DocumentSetup& setup, std::string& error) {
+    if (setup.printer == kPdfPrinter) {
+        DocumentSetup whole = setup;
+        if (!whole.format) whole.format = SheetFormat{tidewalk::UsualPaper(), landscape_};
+        return BeginPdf(whole, error);
+    }
+    auto device = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    SetUp(*device, setup);
+    auto document = std::make_unique<PrinterDocument>(setup.printer, std::move(device));
     if (document->Works()) return document;
     error = document->Error();
     return nullptr;
@@ -90,19 +109,21 @@ std::unique_ptr<PrintDocument> QtPrinters::Begin(const std::string& printer, con
 
 void QtPrinters::Preview(const std::string& printer, const PageFunction& draw) {
     QPrinter device(QPrinter::HighResolution);
-    SetUp(device, printer, orientation_);
+    DocumentSetup setup;
+    setup.printer = printer;
+    SetUp(device, setup);
     PrintPreview dialog(device, mainWindow_.data());
     QObject::connect(&dialog, &PrintPreview::PaintRequested, &dialog, [&draw](QPrinter* target) {
         QtSurface surface(target->resolution(), kTwipsPerPen);
         surface.SetTarget(target);
-        draw(surface, PrintableArea(*target));
+        draw(surface, tidewalk::SheetOf(*target).printable);
         surface.SetTarget(nullptr);
     });
     QObject::connect(&handlers_, &Handlers::Ending, &dialog, &QDialog::reject);
     if (dialog.exec() != QDialog::Accepted) return;
-    orientation_ = dialog.Orientation();
+    landscape_ = dialog.Orientation() == QPageLayout::Landscape;
     handlers_.Run(mnuprintcurrent_Click);
-    orientation_ = QPageLayout::Portrait;
+    landscape_ = false;
 }
 
 std::string QtPrinters::SavePicture(const std::string& file, const PuzzlePicture& picture) {

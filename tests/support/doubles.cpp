@@ -97,8 +97,18 @@ class Document final : public PrintDocument {
 
 }  // namespace
 
-std::unique_ptr<PrintDocument> World::Begin(const std::string& printer, const std::string& file, std::string& error) {
-    printedTo = printer + "|" + file;
+Sheet World::SheetOf(const std::string&, const SheetFormat& format) {
+    constexpr double kMargin = 360;
+    Surface::Extent size{11900, 16840};
+    if (format.paper == Paper::A5) size = {8400, 11900};
+    if (format.paper == Paper::Letter) size = {12240, 15840};
+    if (format.landscape) std::swap(size.width, size.height);
+    return {size, {kMargin, kMargin, size.width - kMargin, size.height - kMargin}};
+}
+
+std::unique_ptr<PrintDocument> World::Begin(const DocumentSetup& setup, std::string& error) {
+    document = setup;
+    printedTo = setup.printer + "|" + setup.file;
     error = beginError;
     return error.empty() ? std::make_unique<Document>(*this) : nullptr;
 }

@@ -118,8 +118,9 @@ class World final : public Prompts,
     void SetText(const std::string& text) override { clipboard = text; }
     bool SetPicture(const PuzzlePicture& given) override { return copied = given, copies; }
     std::vector<std::string> Names() override { return printers; }
-    std::unique_ptr<PrintDocument> Begin(const std::string& printer, const std::string& file,
-                                         std::string& error) override;
+    Paper UsualPaper() override { return paper; }
+    Sheet SheetOf(const std::string& printer, const SheetFormat& format) override;
+    std::unique_ptr<PrintDocument> Begin(const DocumentSetup& setup, std::string& error) override;
     void Preview(const std::string& printer, const PageFunction& draw) override;
     std::string SavePicture(const std::string& file, const PuzzlePicture& given) override {
         return savedTo = file, copied = given, saveError;
@@ -182,6 +183,8 @@ class World final : public Prompts,
     std::string beginError;  ///< why no document can begin
     int failAtPage = 0;      ///< the page that the printer refuses, or the end if there are fewer; 0 for none
     std::string printedTo;   ///< "printer|file" of the last document
+    DocumentSetup document;  ///< the last document's setup
+    Paper paper = Paper::A4;
     std::vector<RecordingSurface> pages;
     Surface::Area printable{360, 360, 11540, 16480};
 

@@ -130,9 +130,10 @@ TEST(Output, CopyReachesTheClipboardAndPasteTakesTextFromIt) {
 
 TEST(Output, PdfAppearsWithAllItsPagesAtItsEndOnly) {
     const TempFolder folder;
-    const std::string path = folder.Write("out.pdf", "old");
+    DocumentSetup setup;
+    setup.file = folder.Write("out.pdf", "old");
     std::string error;
-    auto document = BeginPdf(path, error);
+    auto document = BeginPdf(setup, error);
     ASSERT_NE(document, nullptr);
     EXPECT_TRUE(document->NewPage()) << "the first page is empty, and a page all the same";
     document->Page().Line(100, 100, 200, 200, kBlack);
@@ -140,12 +141,33 @@ TEST(Output, PdfAppearsWithAllItsPagesAtItsEndOnly) {
     EXPECT_EQ(folder.Read("out.pdf"), "old");
     EXPECT_TRUE(document->End());
     EXPECT_EQ(PagesOf("out.pdf"), 3);
-    document = BeginPdf(path, error);
+    document = BeginPdf(setup, error);
     document->NewPage();
     document.reset();
     EXPECT_EQ(PagesOf("out.pdf"), 3) << "what was cancelled has replaced the file";
-    EXPECT_EQ(BeginPdf("/nowhere/at/all.pdf", error), nullptr);
+    setup.file = "/nowhere/at/all.pdf";
+    EXPECT_EQ(BeginPdf(setup, error), nullptr);
     EXPECT_EQ(error.substr(0, 32), "/nowhere/at/all.pdf\nNo such file");
+}
+
+TEST(Output, SheetsAreAsLargeAsDocumentsHaveThem) {
+    WindowGame window;
+    Printers& printers = window.game.printers;
+    DocumentSetup setup;
+    setup.printer = kPdfPrinter;
+    setup.file = window.folder.Path("sheet.pdf");
+    std::string error;
+    for (const auto& [format, width, height] :
+         {std::tuple(SheetFormat{Paper::A4, false}, 595, 842), std::tuple(SheetFormat{Paper::A5, true}, 595, 420),
+          std::tuple(SheetFormat{Paper::Letter, true}, 792, 612)}) {
+        const Sheet sheet = printers.SheetOf(setup.printer, format);
+        EXPECT_EQ(std::pair(sheet.size.width, sheet.size.height), std::pair(width * 20.0, height * 20.0));
+        setup.format = format;
+        const auto document = printers.Begin(setup, error);
+        const Surface::Area printable = document->Printable();
+        EXPECT_EQ(printable.right, sheet.printable.right);
+        EXPECT_EQ(std::pair(printable.left, sheet.size.height - printable.bottom), std::pair(360.0, 360.0));
+    }
 }
 
 TEST(Output, PuzzlesArePreviewedAndPrintedFromTheWindow) {
