@@ -114,16 +114,18 @@ struct PrintRange {
 
 /// Draws a page for each puzzle of the range. The current puzzle is not touched: each page has a puzzle of its own.
 PrintEnd PrintRangePages(Game& game, const PrintRange& range, PrintDocument& document) {
-    const auto page = [&](int number) {
+    LineIndex lines;
+    const auto draw = [&](int number, Surface& page, const Sheet& sheet) {
         CloseFiles(game);
         game.window.SetProgress(number, range.Count());
-        return PageOf(range.path, range.start + number);
+        if (const auto content = PageOf(lines, range.path, range.start + number))
+            DrawPage(*content, game.options.PrintLineWidth, page, sheet.printable);
     };
     const auto mayGoOn = [&] {
         PollEvents(game);
         return !game.job.MustStop();
     };
-    return PrintPages(document, range.Count(), game.options.PrintLineWidth, page, mayGoOn);
+    return PrintPages(document, range.Count(), draw, mayGoOn);
 }
 
 void ShowRangeEnd(Game& game, const PrintRange& range, PrintEnd end, const std::string& error) {
@@ -195,8 +197,10 @@ void mnuprintcurrent_Click(Game& game) {
     PrintEnd end = PrintEnd::Failed;
     {
         const BusyPointer busy(game);
-        end = PrintPages(
-            *document, 1, game.options.PrintLineWidth, [&](int) { return CurrentPage(game); }, WithoutEnd);
+        const auto draw = [&](int, Surface& page, const Sheet& sheet) {
+            DrawPage(CurrentPage(game), game.options.PrintLineWidth, page, sheet.printable);
+        };
+        end = PrintPages(*document, 1, draw, WithoutEnd);
     }
     const std::string error = document->Error();
     document.reset();

@@ -2,7 +2,6 @@
 #include "board/print_pages.h"
 
 #include "drawing/puzzle_svg.h"
-#include "model/collection_file.h"
 #include "model/plain_grid.h"
 
 namespace tidewalk {
@@ -19,21 +18,18 @@ void DrawPage(const PuzzlePage& content, int lineWidth, Surface& page, const Sur
     RenderPuzzle(content.puzzle, page, PageRequest(content.title, lineWidth, printable));
 }
 
-PrintEnd PrintPages(PrintDocument& document, int pages, int lineWidth, const PageSource& source,
-                    const MayGoOn& mayGoOn) {
+PrintEnd PrintPages(PrintDocument& document, int pages, const DrawNumbered& draw, const MayGoOn& mayGoOn) {
     for (int number = 0; number < pages; ++number) {
         if (!mayGoOn()) return PrintEnd::Cancelled;
         // The page comes before the puzzle, so that the last one is not followed by an empty sheet.
         if (number > 0 && !document.NewPage()) return PrintEnd::Failed;
-        if (const auto content = source(number)) {
-            DrawPage(*content, lineWidth, document.Page(), document.Printable());
-        }
+        draw(number, document.Page(), document.PageSheet());
     }
     return document.End() ? PrintEnd::Printed : PrintEnd::Failed;
 }
 
-std::optional<PuzzlePage> PageOf(const std::string& collection, int number) {
-    const auto puzzle = ReadPuzzle(collection, number);
+std::optional<PuzzlePage> PageOf(LineIndex& lines, const std::string& collection, int number) {
+    const auto puzzle = ReadPuzzle(lines, collection, number);
     if (!puzzle) return std::nullopt;
     return PuzzlePage{*puzzle, PrintTitle("Puzzle#", number, collection)};
 }

@@ -8,6 +8,7 @@
 
 #include "drawing/render_puzzle.h"
 #include "game/output.h"
+#include "model/line_index.h"
 #include "model/may_go_on.h"
 #include "model/puzzle.h"
 
@@ -22,19 +23,18 @@ struct PuzzlePage {
     std::string title;
 };
 
-/// The content of page `number`, counted from 0; nothing for a page that stays empty.
-using PageSource = std::function<std::optional<PuzzlePage>(int number)>;
-
 /// Draws one page: the puzzle, and its solution beneath.
 void DrawPage(const PuzzlePage& content, int lineWidth, Surface& page, const Surface::Area& printable);
 
 enum class PrintEnd { Printed, Cancelled, Failed };
 
+/// Draws page `number`, counted from 0; a page on which nothing is drawn stays empty.
+using DrawNumbered = std::function<void(int number, Surface& page, const Sheet& sheet)>;
+
 /// Draws so many pages and ends the document. `mayGoOn` is asked before each. After `Failed` the document tells why.
-PrintEnd PrintPages(PrintDocument& document, int pages, int lineWidth, const PageSource& source,
-                    const MayGoOn& mayGoOn);
+PrintEnd PrintPages(PrintDocument& document, int pages, const DrawNumbered& draw, const MayGoOn& mayGoOn);
 
 /// The page of puzzle `number` of the collection; nothing when it cannot be read.
-std::optional<PuzzlePage> PageOf(const std::string& collection, int number);
+std::optional<PuzzlePage> PageOf(LineIndex& lines, const std::string& collection, int number);
 
 }  // namespace tidewalk

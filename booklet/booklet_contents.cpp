@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <tuple>
 
-#include "model/puzzle_record.h"
 #include "solver/valid_solution.h"
 #include "techniques/grade.h"
 
@@ -26,12 +25,6 @@ Puzzle WithSolution(const Puzzle& puzzle, const MayGoOn& mayGoOn) {
 
 MayGoOn UpTo(int choices) {
     return [left = choices]() mutable { return --left >= 0; };
-}
-
-std::optional<Puzzle> ReadLine(LineIndex& lines, const std::string& collection, int number) {
-    std::string line;
-    if (lines.Read(collection, number, line) != LineRead::Done) return std::nullopt;
-    return ParsePuzzleRecord(line);
 }
 
 /// What sets the place of an entry.
@@ -62,7 +55,7 @@ std::optional<BookletContents> ReadBookletContents(const std::string& collection
             return !stopped && within();
         };
         if (stopped) return std::nullopt;
-        const auto puzzle = ReadLine(lines, collection, number);
+        const auto puzzle = ReadPuzzle(lines, collection, number);
         if (!puzzle) {
             contents.unreadable.push_back(number);
             continue;
@@ -81,7 +74,7 @@ void SortEntries(std::vector<BookletEntry>& entries, BookletDesign::Order order)
 }
 
 std::optional<Puzzle> ReadSolvedPuzzle(LineIndex& lines, const std::string& collection, int number) {
-    const auto puzzle = ReadLine(lines, collection, number);
+    const auto puzzle = ReadPuzzle(lines, collection, number);
     if (!puzzle) return std::nullopt;
     return WithSolution(*puzzle, UpTo(kMostChoices));
 }

@@ -53,8 +53,8 @@ class PrintDocument {
     /// The current page, with pen widths in 1/300 inch.
     virtual Surface& Page() = 0;
 
-    /// The rectangle of the page that can be printed on, in twips from the paper's corner.
-    virtual Surface::Area Printable() const = 0;
+    /// The sheet that every page is.
+    virtual Sheet PageSheet() const = 0;
 
     /// Begins the next page. False when the printer refuses.
     virtual bool NewPage() = 0;

@@ -192,6 +192,11 @@ bool LineIndex::FetchKnown(const std::string& path, int number, std::string& lin
     return false;
 }
 
+std::optional<Puzzle> ReadPuzzle(LineIndex& index, const std::string& path, int number) {
+    std::string line;
+    return index.Read(path, number, line) == LineRead::Done ? ParsePuzzleRecord(line) : std::nullopt;
+}
+
 int LastPuzzleUpTo(LineIndex& index, const std::string& path, int number) {
     std::string line;
     // Mostly it is that line, and the others need not be understood.

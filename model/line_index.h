@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "model/may_go_on.h"
+#include "model/puzzle.h"
 #include "model/system_file.h"
 
 namespace tidewalk {
@@ -74,6 +75,9 @@ class LineIndex {
     std::uint64_t lineStart_ = 0;  // where the line behind the last of these begins
     std::uint64_t scanned_ = 0;    // the bytes that were looked at
 };
+
+/// The puzzle of line `number`; nothing when there is no such line, it is no record or the file cannot be read.
+std::optional<Puzzle> ReadPuzzle(LineIndex& index, const std::string& path, int number);
 
 /// The number of the last line up to `number` that is a whole puzzle record; 0 when there is none, or when the file
 /// cannot be read.

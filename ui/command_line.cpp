@@ -23,13 +23,17 @@ struct Arguments {
         "file"};
     QCommandLineOption solution{"solution", "With --picture: draw the solution."};
     QCommandLineOption pdf{"pdf", "Print puzzles of the collection, such as 3-7, into <file.pdf> and end.", "file.pdf"};
+    QCommandLineOption booklet{
+        "booklet", "Make a booklet of puzzles of the collection, such as 3-70, into <file.pdf> and end.", "file.pdf"};
+    BookletOptions bookletOptions;
     QCommandLineOption seed{"seed", "Make random draws reproducible. It opens another window.", "number"};
     QCommandLineOption newWindow{"new-window", "Open another window, even if one is open already."};
 
     Arguments() {
         parser.setApplicationDescription("Play, solve and make bridges puzzles.");
         parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-        parser.addOptions({help, version, folder, screenshot, picture, solution, pdf, seed, newWindow});
+        parser.addOptions({help, version, folder, screenshot, picture, solution, pdf, booklet, seed, newWindow});
+        bookletOptions.AddTo(parser);
         // Qt takes these for itself later; until then they must not look like mistakes.
         for (const char* const name : kQtOptions) {
             QCommandLineOption option(name, {}, "value");
@@ -40,8 +44,8 @@ struct Arguments {
         reverse.setFlags(QCommandLineOption::HiddenFromHelp);
         parser.addOption(reverse);
         parser.addPositionalArgument("collection", "A collection of puzzles to open.", "[collection");
-        parser.addPositionalArgument("number", "The number of the puzzle in it, 1 if not given; with --pdf a range.",
-                                     "[number]]");
+        parser.addPositionalArgument(
+            "number", "The number of the puzzle in it, 1 if not given; with --pdf and --booklet a range.", "[number]]");
     }
 };
 
@@ -65,26 +69,50 @@ QString StrangeName(const CommandLine& line) {
     return "";
 }
 
-/// Reads what `--picture` and `--pdf` ask for. "" when all is well, else what is wrong.
+/// What is to be written, and the option that says so; nothing for no file, or more than one.
+struct OutputKind {
+    OutputOrder::Kind kind;
+    const QCommandLineOption* option;
+    const char* puzzles;  ///< which of the collection it needs
+};
+
+std::vector<OutputKind> KindsGiven(const Arguments& known) {
+    const char* const range = "a range of puzzles, such as 3-7";
+    std::vector<OutputKind> given;
+    for (const OutputKind& kind : {OutputKind{OutputOrder::Kind::Picture, &known.picture, "the number of a puzzle"},
+                                   OutputKind{OutputOrder::Kind::Pdf, &known.pdf, range},
+                                   OutputKind{OutputOrder::Kind::Booklet, &known.booklet, range}}) {
+        if (known.parser.isSet(*kind.option)) given.push_back(kind);
+    }
+    return given;
+}
+
+/// Reads what `--picture`, `--pdf` and `--booklet` ask for. "" when all is well, else what is wrong.
 QString ReadOutput(const Arguments& known, const QStringList& positional, CommandLine& line) {
-    const bool picture = known.parser.isSet(known.picture);
-    const bool pdf = known.parser.isSet(known.pdf);
+    const std::vector<OutputKind> given = KindsGiven(known);
+    if (given.size() > 1) return "Only one of --picture, --pdf and --booklet can be given";
+    const auto kind = given.empty() ? std::nullopt : std::optional(given.front().kind);
     const bool solution = known.parser.isSet(known.solution);
-    if (!picture && !pdf) return solution ? "--solution goes with --picture" : "";
-    if (picture && pdf) return "Only one of --picture and --pdf can be given";
-    if (pdf && solution) return "--solution goes with --picture; pages show the solution anyway";
+    if (solution && kind == OutputOrder::Kind::Pdf)
+        return "--solution goes with --picture; pages show the solution anyway";
+    if (solution && kind != OutputOrder::Kind::Picture) return "--solution goes with --picture";
+    const QString ofBooklet = known.bookletOptions.AnyGiven(known.parser);
+    if (!ofBooklet.isEmpty() && kind != OutputOrder::Kind::Booklet) return "--" + ofBooklet + " goes with --booklet";
+    if (!kind) return "";
+    const OutputKind& output = given.front();
     if (positional.size() != 2) {
-        return picture ? "--picture needs a collection and the number of a puzzle"
-                       : "--pdf needs a collection and a range of puzzles, such as 3-7";
+        return "--" + output.option->names().constFirst() + " needs a collection and " + output.puzzles;
     }
     OutputOrder order;
-    order.kind = picture ? OutputOrder::Kind::Picture : OutputOrder::Kind::Pdf;
+    order.kind = output.kind;
     order.solution = solution;
-    order.file = Absolute(known.parser.value(picture ? known.picture : known.pdf));
+    order.file = Absolute(known.parser.value(*output.option));
     order.collection = Absolute(positional.at(0));
     if (!ReadPuzzleRange(positional.at(1), order)) {
-        return (picture ? "This is no puzzle number: " : "This is no range of puzzles: ") + positional.at(1);
+        return (kind == OutputOrder::Kind::Picture ? "This is no puzzle number: " : "This is no range of puzzles: ") +
+               positional.at(1);
     }
+    if (const QString wrong = known.bookletOptions.Read(known.parser, order.booklet); !wrong.isEmpty()) return wrong;
     line.output = order;
     return "";
 }
@@ -109,7 +137,7 @@ CommandLine ParseCommandLine(const QStringList& arguments) {
     const QStringList positional = parser.positionalArguments();
     if (positional.size() > 2) return Wrong("Too many arguments: " + positional.at(2));
     for (const QCommandLineOption* const option :
-         {&known.folder, &known.screenshot, &known.picture, &known.pdf, &known.seed}) {
+         {&known.folder, &known.screenshot, &known.picture, &known.pdf, &known.booklet, &known.seed}) {
         if (parser.isSet(*option) && parser.value(*option).isEmpty()) {
             return Wrong("Nothing is given for --" + option->names().constFirst());
         }

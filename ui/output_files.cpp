@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 
 #include "board/print_pages.h"
+#include "booklet/booklet.h"
 #include "drawing/render_puzzle.h"
 #include "model/collection_file.h"
 #include "model/file_error.h"
@@ -39,17 +40,72 @@ QString WritePages(const OutputOrder& order) {
     const auto document = BeginPdf(setup, error);
     if (!document) return QString("The pages could not be written: %1").arg(QString::fromStdString(error));
     QStringList broken;
-    const auto page = [&](int number) {
-        auto content = PageOf(path, order.from + number);
-        if (!content) broken += QString::number(order.from + number);
-        return content;
+    LineIndex lines;
+    const auto draw = [&](int number, Surface& page, const Sheet& sheet) {
+        if (const auto content = PageOf(lines, path, order.from + number)) {
+            DrawPage(*content, Options().PrintLineWidth, page, sheet.printable);
+        } else {
+            broken += QString::number(order.from + number);
+        }
     };
     const int pages = order.to - order.from + 1;
-    if (PrintPages(*document, pages, Options().PrintLineWidth, page, WithoutEnd) != PrintEnd::Printed) {
+    if (PrintPages(*document, pages, draw, WithoutEnd) != PrintEnd::Printed) {
         return QString("The pages could not be written: %1").arg(QString::fromStdString(document->Error()));
     }
     if (broken.isEmpty()) return "";
     return QString("These puzzles could not be read, their pages are empty: %1").arg(broken.join(", "));
+}
+
+/// "1, 2 and 30 others".
+QString ListOf(const std::vector<int>& numbers) {
+    constexpr std::size_t kMostNamed = 10;
+    QStringList named;
+    for (std::size_t i = 0; i < std::min(numbers.size(), kMostNamed); ++i)
+        named += QString::number(numbers[i]);
+    const auto others = numbers.size() - static_cast<std::size_t>(named.size());
+    return named.join(", ") + (others > 0 ? QString(" and %1 others").arg(others) : "");
+}
+
+/// What is to be said of puzzles that are not as they should be in the booklet.
+QString RemarksOn(const BookletContents& contents, const BookletDesign& design) {
+    QStringList remarks;
+    if (!contents.unreadable.empty())
+        remarks += "These puzzles could not be read, the booklet does without them: " + ListOf(contents.unreadable);
+    std::vector<int> unsolved;
+    for (const BookletEntry& entry : contents.entries) {
+        if (!entry.solved) unsolved.push_back(entry.number);
+    }
+    if (!unsolved.empty() && design.solutions != BookletDesign::Solutions::None)
+        remarks += "These puzzles have no solution to print: " + ListOf(unsolved);
+    return remarks.join("\n");
+}
+
+/// The booklet's file. What could not be done is told, as for pages.
+QString WriteBooklet(const OutputOrder& order) {
+    const std::string path = FileNameBytes(order.collection);
+    const BookletDesign& design = order.booklet.design;
+    if (order.to - order.from >= kMostBookletPuzzles)
+        return QString("A booklet has %1 puzzles at most").arg(kMostBookletPuzzles);
+    auto contents = ReadBookletContents(path, {order.from, order.to}, design.NeedsGrades(), [](int) { return true; });
+    if (contents->entries.empty()) return "None of these puzzles can be read";
+    SortEntries(contents->entries, design.order);
+    DocumentSetup setup;
+    setup.file = FileNameBytes(order.file);
+    setup.format = SheetFormat{order.booklet.paper.value_or(UsualPaper()), order.booklet.landscape};
+    setup.title = design.title;
+    setup.author = design.author;
+    std::string error;
+    const auto document = BeginPdf(setup, error);
+    if (!document) return QString("The booklet could not be written: %1").arg(QString::fromStdString(error));
+    const Booklet booklet(design, contents->entries, document->PageSheet());
+    if (!booklet.Misfit().empty()) return QString::fromStdString(booklet.Misfit());
+    LineIndex lines;
+    const auto draw = [&](int number, Surface& page, const Sheet&) {
+        booklet.DrawPage(number, page, [&](int puzzle) { return ReadSolvedPuzzle(lines, path, puzzle); });
+    };
+    if (PrintPages(*document, static_cast<int>(booklet.Pages().size()), draw, WithoutEnd) != PrintEnd::Printed)
+        return QString("The booklet could not be written: %1").arg(QString::fromStdString(document->Error()));
+    return RemarksOn(*contents, design);
 }
 
 /// The number of lines of the collection, counted as far as `wanted`.
@@ -80,7 +136,7 @@ QString WriteOutput(const OutputOrder& order) {
     if (count == 0) return QString("No puzzles in this file: %1").arg(order.collection);
     if (order.kind == OutputOrder::Kind::Picture) return WritePictureFile(order);
     if (count < order.to) return QString("There are only %1 puzzles in %2").arg(count).arg(order.collection);
-    return WritePages(order);
+    return order.kind == OutputOrder::Kind::Booklet ? WriteBooklet(order) : WritePages(order);
 }
 
 }  // namespace tidewalk

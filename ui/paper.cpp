@@ -39,7 +39,7 @@ class PdfDocument final : public PrintDocument {
     }
 
     Surface& Page() override { return surface_; }
-    Surface::Area Printable() const override { return SheetOf(*writer_).printable; }
+    Sheet PageSheet() const override { return SheetOf(*writer_); }
     bool NewPage() override { return file_.error() == QFileDevice::NoError && writer_->newPage(); }
     bool End() override {
         surface_.SetTarget(nullptr);

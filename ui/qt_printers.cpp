@@ -33,7 +33,7 @@ class PrinterDocument final : public PrintDocument {
     bool Works() const { return device_->printerState() == QPrinter::Active; }
 
     Surface& Page() override { return surface_; }
-    Surface::Area Printable() const override { return tidewalk::SheetOf(*device_).printable; }
+    Sheet PageSheet() const override { return tidewalk::SheetOf(*device_); }
     bool NewPage() override { return Works() && device_->newPage(); }
     bool End() override {
         if (!Works()) return false;

@@ -79,7 +79,10 @@ class Document final : public PrintDocument {
     ~Document() override { world_.Note("document gone"); }
 
     Surface& Page() override { return world_.pages.back(); }
-    Surface::Area Printable() const override { return world_.printable; }
+    Sheet PageSheet() const override {
+        const auto& format = world_.document.format;
+        return format ? world_.SheetOf("", *format) : Sheet{{}, world_.printable};
+    }
     bool NewPage() override {
         if (static_cast<int>(world_.pages.size()) + 1 == world_.failAtPage) return false;
         world_.pages.emplace_back();

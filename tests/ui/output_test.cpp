@@ -164,7 +164,7 @@ TEST(Output, SheetsAreAsLargeAsDocumentsHaveThem) {
         EXPECT_EQ(std::pair(sheet.size.width, sheet.size.height), std::pair(width * 20.0, height * 20.0));
         setup.format = format;
         const auto document = printers.Begin(setup, error);
-        const Surface::Area printable = document->Printable();
+        const Surface::Area printable = document->PageSheet().printable;
         EXPECT_EQ(printable.right, sheet.printable.right);
         EXPECT_EQ(std::pair(printable.left, sheet.size.height - printable.bottom), std::pair(360.0, 360.0));
     }

@@ -33,10 +33,31 @@ TEST(CommandLine, PathsAreMadeAbsolute) {
 }
 
 TEST(CommandLine, WrongUsageIsToldApart) {
-    for (const char* const arguments :
-         {"--nosuch", "--folder", "--folder=", "--seed x", "--seed -1", "a b", "a 0", "a -3", "a 1 2",
-          "--picture a.png x", "--picture a.png x 1-2", "--picture= x 1", "--pdf a.pdf x 7-3", "--pdf a.pdf x 0",
-          "--pdf a.pdf x y", "--solution x 1", "--pdf a.pdf --solution x 1", "--pdf a.pdf --picture b.png x 1"}) {
+    for (const char* const arguments : {"--nosuch",
+                                        "--folder",
+                                        "--folder=",
+                                        "--seed x",
+                                        "--seed -1",
+                                        "a b",
+                                        "a 0",
+                                        "a -3",
+                                        "a 1 2",
+                                        "--picture a.png x",
+                                        "--picture a.png x 1-2",
+                                        "--picture= x 1",
+                                        "--pdf a.pdf x 7-3",
+                                        "--pdf a.pdf x 0",
+                                        "--pdf a.pdf x y",
+                                        "--solution x 1",
+                                        "--pdf a.pdf --solution x 1",
+                                        "--pdf a.pdf --picture b.png x 1",
+                                        "--booklet a.pdf x",
+                                        "--booklet a.pdf x 7-3",
+                                        "--booklet a.pdf --per-page 3 x 1-2",
+                                        "--booklet a.pdf --per-page 0 x 1-2",
+                                        "--booklet a.pdf --paper B5 x 1-2",
+                                        "--per-page 4 x 1",
+                                        "--booklet a.pdf --pdf b.pdf x 1"}) {
         const CommandLine line = ParseCommandLine(("tidewalk " + QString(arguments)).split(' '));
         EXPECT_EQ(line.wish, CommandLine::Wish::Wrong) << arguments;
         EXPECT_FALSE(line.text.isEmpty()) << arguments;
