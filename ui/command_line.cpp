@@ -91,14 +91,14 @@ std::vector<OutputKind> KindsGiven(const Arguments& known) {
 QString ReadOutput(const Arguments& known, const QStringList& positional, CommandLine& line) {
     const std::vector<OutputKind> given = KindsGiven(known);
     if (given.size() > 1) return "Only one of --picture, --pdf and --booklet can be given";
-    const auto kind = given.empty() ? std::nullopt : std::optional(given.front().kind);
+    const auto asksFor = [&given](OutputOrder::Kind kind) { return !given.empty() && given.front().kind == kind; };
     const bool solution = known.parser.isSet(known.solution);
-    if (solution && kind == OutputOrder::Kind::Pdf)
+    if (solution && asksFor(OutputOrder::Kind::Pdf))
         return "--solution goes with --picture; pages show the solution anyway";
-    if (solution && kind != OutputOrder::Kind::Picture) return "--solution goes with --picture";
+    if (solution && !asksFor(OutputOrder::Kind::Picture)) return "--solution goes with --picture";
     const QString ofBooklet = known.bookletOptions.AnyGiven(known.parser);
-    if (!ofBooklet.isEmpty() && kind != OutputOrder::Kind::Booklet) return "--" + ofBooklet + " goes with --booklet";
-    if (!kind) return "";
+    if (!ofBooklet.isEmpty() && !asksFor(OutputOrder::Kind::Booklet)) return "--" + ofBooklet + " goes with --booklet";
+    if (given.empty()) return "";
     const OutputKind& output = given.front();
     if (positional.size() != 2) {
         return "--" + output.option->names().constFirst() + " needs a collection and " + output.puzzles;
@@ -109,7 +109,8 @@ QString ReadOutput(const Arguments& known, const QStringList& positional, Comman
     order.file = Absolute(known.parser.value(*output.option));
     order.collection = Absolute(positional.at(0));
     if (!ReadPuzzleRange(positional.at(1), order)) {
-        return (kind == OutputOrder::Kind::Picture ? "This is no puzzle number: " : "This is no range of puzzles: ") +
+        return (output.kind == OutputOrder::Kind::Picture ? "This is no puzzle number: "
+                                                          : "This is no range of puzzles: ") +
                positional.at(1);
     }
     if (const QString wrong = known.bookletOptions.Read(known.parser, order.booklet); !wrong.isEmpty()) return wrong;
