@@ -2,7 +2,6 @@
 // Playing: with the mouse, with the keyboard, and the commands on the board.
 #include <random>
 #include <set>
-#include <sstream>
 
 #include "board/board_commands.h"
 #include "board/board_keys.h"
@@ -14,83 +13,13 @@
 #include "game/job.h"
 #include "model/load_puzzle.h"
 #include "program/escape.h"
-#include "support/test_game.h"
+#include "support/play.h"
 
 namespace tidewalk::test {
 namespace {
 
-/// Islands in the corners of a board, 1, 7, 43 and 49, and one in the middle of its upper side, 4.
-const Lines kCorners{"2..3..2", ".......", ".......", ".......", ".......", ".......", "2.....2"};
 /// The islands 1, 3, 8, 10, 17 and 25.
 const Lines kField{"1.2..", "..3.4", ".....", ".5...", "....6"};
-
-/// A game on one puzzle, played as a window would.
-struct Play : TestGame {
-    explicit Play(const std::string& record) : TestGame({record}) { Load(1); }
-    explicit Play(const Lines& rows = kCorners) : Play(Record(rows)) {}
-
-    void Press(CellNumber id, MouseButton button, bool shift) {
-        const Point point = board.At(id);
-        Run(Picture1_MouseMove, false, point, point);
-        Run(Picture1_MouseDown, button, point, point);
-        Run(Picture1_MouseUp, button, shift, point);
-        if (button == MouseButton::Left) Run(Picture1_Click);
-    }
-
-    /// Draws from an island to a point, and goes on holding the button.
-    void Draw(CellNumber from, Point to) {
-        Run(Picture1_MouseDown, MouseButton::Left, board.At(from), board.At(from));
-        Run(Picture1_MouseMove, true, to, to);
-    }
-    void Drag(CellNumber from, Point to) {
-        Draw(from, to);
-        Run(Picture1_MouseUp, MouseButton::Left, false, to);
-        Run(Picture1_Click);
-    }
-
-    /// Plays moves. With the mouse: "1" clicks that cell, "1-4" both; "=" stands for a click with Shift, "x" for the
-    /// right button and "X" for both. With keys: ":" and a letter each for left, right, up, down, first, end, previous
-    /// and next, "." to lay, "=" to lay two and "x" to remove. "1>4" draws from one to the other. "u" is for
-    /// undo, "r" for redo, "c" for a checkpoint and "b" for going back to one.
-    Play& operator<<(const std::string& moves) {
-        std::istringstream all(moves);
-        for (std::string move; all >> move;) {
-            const std::size_t how = std::min(move.find_first_of("-=xX"), move.size());
-            if (move[0] == ':') {
-                for (const char key : move.substr(1))
-                    Run(Picture1_KeyDown, static_cast<BoardKey>(std::string("lrudfepn.=x").find(key)));
-            } else if (move == "u" || move == "r") {
-                Run(move == "u" ? cmdundo_Click : cmdredo_Click);
-            } else if (move == "c" || move == "b") {
-                Run(move == "c" ? mnucheckpoint_Click : mnubacktocheckpoint_Click);
-            } else if (move.find('>') != std::string::npos) {
-                Drag(std::stoi(move), board.At(std::stoi(move.substr(move.find('>') + 1))));
-            } else {
-                const bool right = move[how] == 'x' || move[how] == 'X';
-                const bool shift = move[how] == '=' || move[how] == 'X';
-                if (how > 0) Press(std::stoi(move), MouseButton::Left, false);
-                if (how == move.size()) continue;
-                Press(std::stoi(move.substr(how + 1)), right ? MouseButton::Right : MouseButton::Left, shift);
-            }
-        }
-        return *this;
-    }
-
-    /// The bridges, the island with the focus, the selected one and the moves: "1-4*2 #4 @1; 1, 4, 0".
-    std::string State() const {
-        std::string all;
-        for (const auto& [a, b, bridges] : board.BridgeState.InBothOrders()) {
-            if (a < b) all += std::to_string(a) + "-" + std::to_string(b) + "*" + std::to_string(bridges) + " ";
-        }
-        for (const auto& [a, b] : board.Marks.All())
-            all += std::to_string(a) + "x" + std::to_string(b) + " ";
-        if (board.focusShows) all += "#" + std::to_string(FocusedIsland(board)) + " ";
-        if (SelectedIsland(board) != 0) all += "@" + std::to_string(SelectedIsland(board));
-        for (const UndoRecord& record : board.history.UndoList())
-            all += ";" + Text(record);
-        return all;
-    }
-};
 
 std::string After(const std::string& moves, const Lines& rows = kCorners) {
     return (Play(rows) << moves).State();
@@ -501,116 +430,6 @@ TEST(Kept, TimeCountsWhileTheWindowIsActiveUntilThePuzzleIsSolved) {
     EXPECT_EQ(game.world.Status(), "Solved before");
     EXPECT_EQ(game.playTime.Seconds(game.world.milliseconds), 3);
     EXPECT_EQ(TimeText(59) + " " + TimeText(247) + " " + TimeText(3847), "0:59 4:07 1:04:07");
-}
-
-TEST(Zoom, StaysWithinItsLimitsAndKeepsTheBridges) {
-    Play game;
-    game << "1-4";
-    const auto zoomed = [&](int from, int index) {
-        game.board.layout.CellSize = from;
-        game.Run(cmdzoom_Click, index);
-        return game.board.layout.CellSize;
-    };
-    EXPECT_EQ(zoomed(650, 1), 700);
-    EXPECT_EQ(zoomed(305, 0), 274) << "274.5";
-    EXPECT_EQ(zoomed(300, 2), 700) << "the fitted size, 1000, is brought down";
-    EXPECT_EQ(game.State(), "1-4*1 ; 1, 4, 0");
-    game << "4";
-    game.Run(Picture1_MouseMove, false, game.board.At(7), Point{});
-    EXPECT_EQ(zoomed(game.board.layout.CellSize, 0), 630);
-    EXPECT_NEAR(game.board.Line1.to.x, game.board.At(7).x, 0.1) << "the band stays over its cells";
-    EXPECT_EQ(zoomed(300, 1), 330);
-    EXPECT_EQ(game.board.Line1.from, game.board.At(4)) << "the ring follows";
-    game.world.visible = false;
-    game.Run(cmdzoom_Click, 1);
-    EXPECT_EQ(game.board.layout.CellSize, 330);
-}
-
-/// A board in a container that is too large or too small for it.
-struct MagnifiedPlay : Play {
-    explicit MagnifiedPlay(const Lines& rows) : Play(rows) {}
-
-    void Resize(double width, double height) {
-        world.container = {width, height};
-        Run(Picture5_Resize);
-    }
-    /// The cells of the board in the container, in twips of the screen.
-    Frame Cells() const {
-        Frame cells = CellsOf(board.layout);
-        const double scale = board.magnification;
-        const Frame& picture = board.layout.Picture1;
-        return {(cells.left + picture.left) * scale, (cells.top + picture.top) * scale, cells.width * scale,
-                cells.height * scale};
-    }
-    Point InContainer(CellNumber id) const {
-        return {(board.layout.Picture1.left + board.At(id).x) * board.magnification,
-                (board.layout.Picture1.top + board.At(id).y) * board.magnification};
-    }
-};
-
-TEST(Magnification, FitsTheWholeBoardIntoAnyRoom) {
-    for (const auto& [rows, cols] : {std::pair{7, 7}, {25, 25}, {7, 25}, {25, 7}}) {
-        MagnifiedPlay game(Lines(static_cast<std::size_t>(rows), std::string(static_cast<std::size_t>(cols), '1')));
-        for (const auto& [width, height] : {std::pair{9000.0, 9000.0}, {6000.0, 5500.0}, {40000.0, 20000.0}}) {
-            game.Resize(width, height);
-            const Frame cells = game.Cells();
-            EXPECT_TRUE(cells.left > 0 && cells.top > 0 && cells.left + cells.width < width &&
-                        cells.top + cells.height < height);
-            EXPECT_GT(std::max(cells.width / width, cells.height / height), 0.8);
-            EXPECT_EQ(CellsOutOfSight(game), HiddenCells());
-        }
-    }
-}
-
-TEST(Magnification, StaysAsItWasChosenUntilTheBoardIsToFitAgain) {
-    MagnifiedPlay game(Lines(9, std::string(9, '1')));
-    const Point before = game.InContainer(31);
-    const double fitting = game.board.magnification;
-    const Point from{before.x / fitting, before.y / fitting};
-    game.Run(MagnifyBoard, 3.0, from, Point{from.x + 300 / fitting, from.y});
-    EXPECT_EQ(game.board.magnification, 3);
-    EXPECT_NEAR(game.InContainer(31).x, before.x + 300, 0.01) << "it stays between the fingers";
-    EXPECT_NEAR(game.InContainer(31).y, before.y, 0.01);
-    game.Run(KeepMagnification);
-    game.Load(1);
-    EXPECT_EQ(game.board.magnification, 3);
-    game.Run(mnuactual_Click);
-    game.Resize(5000, 5000);
-    EXPECT_EQ(game.board.magnification, 1);
-    game.Run(ReadMagnification);
-    EXPECT_EQ(game.board.magnification, 3);
-    game.Run(MagnifyBoard, 1e9, from, from);
-    EXPECT_LT(game.board.magnification, 20) << "its picture has to be held";
-    game.world.choices["magnification"] = "10000";
-    game.Run(ReadMagnification);
-    game.Load(1);
-    game.Run(cmdzoom_Click, 1);
-    EXPECT_LT(game.board.magnification, 20) << "and not too large by other ways";
-    game.Run(mnufit_Click);
-    EXPECT_EQ(CellsOutOfSight(game), HiddenCells());
-    game.Run(KeepMagnification);
-    EXPECT_EQ(game.world.choices.at("magnification"), "fit");
-}
-
-TEST(Magnification, ScrollsAsFarAsThereIsMoreToSee) {
-    MagnifiedPlay game(Lines(9, std::string(9, '1')));
-    game.Run(ScrollBoard, 100.0, 100.0);
-    const Frame fitted = game.Cells();
-    game.Run(ScrollBoard, -100.0, -100.0);
-    EXPECT_EQ(game.Cells(), fitted) << "all of it is seen";
-    game.Run(MagnifyBoard, 2.0, Point{}, Point{});
-    game.Run(ScrollBoard, 1e9, 1e9);
-    EXPECT_EQ(CellsOutOfSight(game), (HiddenCells{false, false, true, true}));
-    game.Run(ScrollBoard, -1e9, 0.0);
-    EXPECT_EQ(CellsOutOfSight(game), (HiddenCells{true, false, false, true}));
-    game.board.layout.Picture1.left -= 5000;
-    game.world.PlacePicture();
-    const Frame dragged = game.board.layout.Picture1;
-    game.Run(ScrollBoard, -1.0, 0.0);
-    EXPECT_EQ(game.board.layout.Picture1, dragged) << "what was dragged away does not jump";
-    game.Run(cmdverify_Click);
-    const Point at = game.InContainer(1);
-    EXPECT_TRUE(at.x > 0 && at.x < game.world.container.width) << "the framed cell is brought into view";
 }
 
 }  // namespace
