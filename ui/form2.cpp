@@ -21,6 +21,7 @@
 #include "ui/colour_preview.h"
 #include "ui/colours.h"
 #include "ui/tool_tip.h"
+#include "ui/window_colours_box.h"
 
 namespace tidewalk {
 
@@ -29,34 +30,6 @@ namespace {
 constexpr int kDarker = 1;
 constexpr int kLighter = 2;
 constexpr Colour kNearlyWhite = Rgb(254, 254, 254);  ///< a button's white, where white itself stands for no colour
-
-/// A part of a scheme that is no colour of the board.
-struct SchemePart {
-    const char* name;  ///< of its swatch
-    const char* text;
-    std::size_t entry;
-    Colour WindowColours::*seen;    ///< the colour as the windows wear it
-    Colour WindowColours::*behind;  ///< what lies behind it there
-    Swatch::Shape shape;
-    bool startsColumn;
-};
-
-constexpr SchemePart kParts[] = {
-    {"PartFace", QT_TRANSLATE_NOOP("Form2", "Windows and buttons"), kFaceEntry, &WindowColours::face,
-     &WindowColours::face, Swatch::Shape::Fill, true},
-    {"PartFaceText", QT_TRANSLATE_NOOP("Form2", "Text on them"), kFaceTextEntry, &WindowColours::faceText,
-     &WindowColours::face, Swatch::Shape::Text, false},
-    {"PartBackground", QT_TRANSLATE_NOOP("Form2", "Board and boxes"), kBackgroundEntry, &WindowColours::box,
-     &WindowColours::box, Swatch::Shape::Fill, true},
-    {"PartBoxText", QT_TRANSLATE_NOOP("Form2", "Text in boxes"), kBoxTextEntry, &WindowColours::boxText,
-     &WindowColours::box, Swatch::Shape::Text, false},
-    {"PartOutline", QT_TRANSLATE_NOOP("Form2", "Cell outlines"), kOutlineEntry, &WindowColours::outline,
-     &WindowColours::box, Swatch::Shape::Outline, false},
-    {"PartHighlight", QT_TRANSLATE_NOOP("Form2", "Selection"), kHighlightEntry, &WindowColours::highlight,
-     &WindowColours::highlight, Swatch::Shape::Fill, true},
-    {"PartHighlightText", QT_TRANSLATE_NOOP("Form2", "Selected text"), kHighlightTextEntry,
-     &WindowColours::highlightText, &WindowColours::highlight, Swatch::Shape::Text, false},
-};
 
 }  // namespace
 
@@ -73,7 +46,7 @@ Form2::Form2(Handlers& handlers, QWidget* parent)
       option1_(new QRadioButton("S&quare")),
       option2_(new QRadioButton("&Circle")),
       check1_(new QCheckBox("Sho&w")),
-      partsNote_(new QLabel),
+      windowColours_(new WindowColoursBox),
       preview_(new ColourPreview),
       previewNote_(new QLabel) {
     setObjectName("Form2");
@@ -106,7 +79,7 @@ QScrollArea* Form2::Settings() {
     all->setContentsMargins(0, 0, 0, 0);
     all->addWidget(SchemeBox());
     all->addWidget(ColoursBox());
-    all->addWidget(PartsBox());
+    all->addWidget(WindowColoursPart());
     auto* const small = FoldingRow();
     small->addWidget(NodeShapeBox());
     small->addWidget(LinesBox());
@@ -241,30 +214,12 @@ void Form2::ChangeInPicker(Colour colour) {
     }
 }
 
-/// The parts of the scheme beside the board's colours.
-QWidget* Form2::PartsBox() {
-    auto* const box = new QGroupBox(tr("Window colours"));
-    auto* const all = new QVBoxLayout(box);
-    auto* const columns = FoldingRow();
-    all->addLayout(columns);
-    QGridLayout* column = nullptr;
-    for (const SchemePart& part : kParts) {
-        if (column == nullptr || part.startsColumn) columns->addLayout(column = new QGridLayout, 1);
-        auto* const swatch = new Swatch(part.shape, part.name);
-        auto* const label = new QLabel(tr(part.text));
-        const int row = column->count() / 2;
-        column->addWidget(swatch, row, 0);
-        column->addWidget(label, row, 1);
-        column->setColumnStretch(1, 1);
-        AddSample(swatch, label->text(), [this, entry = part.entry](Colour to) { SetSchemePart(form_, entry, to); });
-        parts_.push_back(swatch);
-    }
-    for (QGridLayout* const grid : box->findChildren<QGridLayout*>())
-        grid->setRowStretch(grid->rowCount(), 1);
-    partsNote_->setObjectName("PartsNote");
-    partsNote_->setWordWrap(true);
-    all->addWidget(partsNote_);
-    return box;
+/// The colours of the scheme that are none of the board's.
+QWidget* Form2::WindowColoursPart() {
+    for (const auto& [swatch, name, entry] : windowColours_->Parts())
+        AddSample(swatch, name, [this, entry = entry](Colour to) { SetSchemePart(form_, entry, to); });
+    folding_.push_back(windowColours_->Columns());
+    return windowColours_;
 }
 
 QWidget* Form2::NodeShapeBox() {
@@ -456,16 +411,8 @@ void Form2::ShowColours(const Game& game) {
     line2_->Show(form_.Line2, background, form_.Label2, form_.Option2);
     label1_->Show(form_.Label1, background, form_.Label2, form_.Option2);
     label2_->Show(form_.Label2, background, form_.Label2, form_.Option2);
-    const bool own = IsOwnScheme(form_);
-    for (std::size_t i = 0; i < parts_.size(); ++i) {
-        const SchemePart& part = kParts[i];
-        parts_[i]->Show(own ? form_.draft.SchemeColours[part.entry] : windows.*part.seen, windows.*part.behind, 0,
-                        false);
-        parts_[i]->setEnabled(own);
-    }
-    partsNote_->setText(own ? tr("Click on a colour to change it with the picker.")
-                            : tr("This scheme stays as it is. \"New ...\" makes one of your own from it."));
-    deleteScheme_->setEnabled(own);
+    windowColours_->Show(form_, windows);
+    deleteScheme_->setEnabled(IsOwnScheme(form_));
     preview_->Show(applied);
     previewNote_->setText(IsDefaultScheme(form_.draft.ColourSchemeName)
                               ? tr("\"default\" chooses thin lines, bridges and islands that go with your desktop.")

@@ -26,6 +26,7 @@ class QScrollArea;
 namespace tidewalk {
 
 class ColourPreview;
+class WindowColoursBox;
 
 /// Shows an `OptionsForm` and hands clicks to its routines. Closing it in any other way than by the apply and reset
 /// buttons leaves the options as they were.
@@ -53,7 +54,7 @@ class Form2 final : public QDialog {
     QLayout* PreviewColumn();
     QWidget* SchemeBox();
     QWidget* ColoursBox();
-    QWidget* PartsBox();
+    QWidget* WindowColoursPart();
     QWidget* NodeShapeBox();
     QWidget* LinesBox();
     void AddKept(QLayout* layout, const char* name, bool Options::*value, const QString& text, const QString& toolTip);
@@ -93,8 +94,7 @@ class Form2 final : public QDialog {
     std::vector<QBoxLayout*> folding_;  ///< rows that become columns where the screen is narrow
     QScrollArea* settings_ = nullptr;
     QPushButton* deleteScheme_ = nullptr;
-    std::vector<Swatch*> parts_;  ///< in the order of the table of the scheme's parts
-    QLabel* partsNote_;
+    WindowColoursBox* windowColours_;
     ColourPreview* preview_;
     QLabel* previewNote_;
     std::vector<Sample> samples_;
