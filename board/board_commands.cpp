@@ -26,15 +26,24 @@ void FrameFault(Game& game, CellPlace cell, const std::string& status) {
     game.window.SetText(WindowText::Status, status);
 }
 
+/// The cell size that a zoom button asks for, before it is brought within its limits.
+int ZoomedCellSize(const Board& board, int index) {
+    if (index == 0) return RoundHalfEven(board.layout.CellSize * 0.9);
+    if (index == 1) return RoundHalfEven(board.layout.CellSize * 1.1);
+    return board.FittedCellSize;
+}
+
 }  // namespace
 
 void cmdzoom_Click(Game& game, int index) {
     if (!game.pictures.IsVisible() || game.job.BusyFlag()) return;
-    int cellSize = game.board.layout.CellSize;
-    if (index == 0) cellSize = RoundHalfEven(cellSize * 0.9);
-    if (index == 1) cellSize = RoundHalfEven(cellSize * 1.1);
-    if (index == 2) cellSize = game.board.FittedCellSize;
-    ZoomTo(game, cellSize);
+    ZoomTo(game, ZoomedCellSize(game.board, index));
+}
+
+bool ZoomWouldShow(const Game& game, int index) {
+    const BoardLayout& now = game.board.layout;
+    const BoardLayout after = LayoutBoard(game.board.puzzle.Size(), ZoomedCellSize(game.board, index), RoomOf(game));
+    return after.CellSize != now.CellSize || after.Picture1 != now.Picture1;
 }
 
 void cmdundo_Click(Game& game) {

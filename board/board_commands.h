@@ -9,6 +9,10 @@ namespace tidewalk {
 /// The zoom buttons: index 0 "Zoom out", 1 "Zoom in", 2 "Reset zoom". Nothing happens while the board is hidden.
 void cmdzoom_Click(Game& game, int index);
 
+/// Whether that button would change what is seen. Where the cells are at their limit it still brings a board that was
+/// moved back into the middle, and only one that lies there stays as it is.
+bool ZoomWouldShow(const Game& game, int index);
+
 /// Takes the last move back, or makes the one again that was taken back last; nothing happens when there is none.
 void cmdundo_Click(Game& game);
 void cmdredo_Click(Game& game);

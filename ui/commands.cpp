@@ -80,6 +80,14 @@ void ShowAbout(Program& program, const Click&) {
     box.exec();
 }
 
+bool CanZoomOut(const Game& game) {
+    return ZoomWouldShow(game, 0);
+}
+
+bool CanZoomIn(const Game& game) {
+    return ZoomWouldShow(game, 1);
+}
+
 bool FillsWindow(const Game& game) {
     return game.board.fits;
 }
@@ -130,7 +138,8 @@ std::vector<Command> TideCommands() {
          .icon = "zoom-out",
          .toolTip = "Zoom out",
          .keys = Keys(QKeySequence::ZoomOut),
-         .handler = DoIndexed<cmdzoom_Click>},
+         .handler = DoIndexed<cmdzoom_Click>,
+         .available = CanZoomOut},
         {.menu = kView,
          .name = "cmdzoom",
          .index = 1,
@@ -140,7 +149,8 @@ std::vector<Command> TideCommands() {
          .icon = "zoom-in",
          .toolTip = "Zoom in",
          .keys = Keys(QKeySequence::ZoomIn),
-         .handler = DoIndexed<cmdzoom_Click>},
+         .handler = DoIndexed<cmdzoom_Click>,
+         .available = CanZoomIn},
         {.menu = kView,
          .name = "cmdzoom",
          .index = 2,

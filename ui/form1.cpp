@@ -411,10 +411,14 @@ void Form1::RefreshCommands() {
     if (game == nullptr) return;
     for (const Command& command : Commands()) {
         if (command.available == nullptr && command.checked == nullptr) continue;
+        const bool available = command.available == nullptr || command.available(*game);
         for (QAction* const action : findChildren<QAction*>(command.ObjectName())) {
-            if (command.available != nullptr) action->setEnabled(command.available(*game));
+            action->setEnabled(available);
             if (command.checked != nullptr) action->setChecked(command.checked(*game));
         }
+        // One that has the keyboard keeps it: the next button would take what is pressed next.
+        for (BoxControl* const button : findChildren<BoxControl*>(command.ObjectName()))
+            button->setEnabled(available || button->hasFocus());
     }
 }
 

@@ -32,6 +32,20 @@ TEST(Zoom, StaysWithinItsLimitsAndKeepsTheBridges) {
     EXPECT_EQ(game.board.layout.CellSize, 330);
 }
 
+TEST(Zoom, AtALimitWouldOnlyShowOnABoardThatWasMoved) {
+    Play game;
+    for (const int index : {1, 0}) {
+        for (int click = 0; click < 20; ++click)
+            game.Run(cmdzoom_Click, index);
+        EXPECT_FALSE(ZoomWouldShow(game, index));
+        EXPECT_TRUE(ZoomWouldShow(game, 1 - index));
+        game.board.layout.Picture1.top += 15;
+        EXPECT_TRUE(ZoomWouldShow(game, index)) << "it comes back into the middle";
+        game.Run(cmdzoom_Click, index);
+        EXPECT_FALSE(ZoomWouldShow(game, index));
+    }
+}
+
 /// A board in a container that is too large or too small for it.
 struct MagnifiedPlay : Play {
     explicit MagnifiedPlay(const Lines& rows) : Play(rows) {}

@@ -234,7 +234,7 @@ TEST(BoardPicture, ComesToTheScreenWithEveryChange) {
     window.view.update();
     window.game.pictures.Freeze(true);
     EXPECT_TRUE(watch.IsPainted()) << "what was drawn before still comes";
-    window.Trigger("cmdzoom1");
+    window.Trigger("cmdzoom0");
     EXPECT_FALSE(watch.IsPainted());
     window.game.pictures.Freeze(false);
     EXPECT_TRUE(watch.IsPainted());
@@ -268,6 +268,21 @@ struct KeyWindow : WindowGame {
     }
     CellPlace Focused() const { return {board.FocusRow, board.FocusCol}; }
 };
+
+TEST(Board, ZoomingIsGreyWhereNothingWouldComeOfIt) {
+    KeyWindow window;
+    const auto grey = [&](const char* name) {
+        return std::pair{!Of<QAction>(window.form, name).isEnabled(), !Of<BoxControl>(window.form, name).isEnabled()};
+    };
+    EXPECT_EQ(grey("cmdzoom1"), (std::pair{true, true})) << "small boards begin with the largest cells";
+    window.Click("cmdzoom0");
+    EXPECT_EQ(grey("cmdzoom1"), (std::pair{false, false}));
+    Of(window.form, "cmdzoom1").setFocus();
+    for (int press = 0; press < 3; ++press)
+        window.Key(Qt::Key_Space);
+    EXPECT_EQ(grey("cmdzoom1"), (std::pair{true, false})) << "else the next button would take the key";
+    EXPECT_EQ(window.board.layout.CellSize, kLargestCell);
+}
 
 TEST(BoardKeys, EveryKeyDoesItsPart) {
     KeyWindow window;
