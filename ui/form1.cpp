@@ -191,6 +191,17 @@ void Form1::AddToolBar() {
             bar->addWidget(BarWidget(*command));
         }
     }
+    LetKeyboardUnfold(*bar);
+}
+
+/// The button that shows what a narrow window has no room for: Qt made it for the mouse alone, but some commands are
+/// nowhere else.
+void Form1::LetKeyboardUnfold(QToolBar& bar) {
+    auto* const unfold = bar.findChild<QToolButton*>("qt_toolbar_ext_button");
+    if (unfold == nullptr) return;
+    GiveToolTip(*unfold, tr("More buttons|Those that the window is too narrow for"));
+    unfold->setAccessibleName(tr("More buttons"));
+    unfold->setFocusPolicy(Qt::TabFocus);
 }
 
 /// The control of a tool bar's place: one of the boxes, or a picture button.

@@ -14,6 +14,7 @@ class QDockWidget;
 class QLabel;
 class QLineEdit;
 class QProgressBar;
+class QToolBar;
 
 namespace tidewalk {
 
@@ -65,6 +66,7 @@ class Form1 final : public QMainWindow {
     void AddMenuCommand(const Command& command);
     QMenu* MenuAt(const QString& path);
     void AddToolBar();
+    void LetKeyboardUnfold(QToolBar& bar);
     QWidget* BarWidget(const Command& command);
     QWidget* BarButton(const Command& command);
     void AddNumberBox();

@@ -314,6 +314,24 @@ TEST(Window, TheTimeShowsWhenWantedAndTicksWhileTheWindowIsActive) {
     EXPECT_EQ(seconds(100000), seconds(0)) << "it does not count while another window is active";
 }
 
+TEST(Window, TheKeyboardComesToWhatANarrowOneHidesOfItsToolBar) {
+    WindowGame window;
+    window.form.resize(400, 500);
+    window.form.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window.form));
+    auto& hidden = Of<BoxControl>(window.form, "cmdexit");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !hidden.isVisible(); }));
+    const auto walkTo = [](const QString& name) {
+        for (int step = 0; step < 40 && QApplication::focusWidget()->objectName() != name; ++step)
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        return QApplication::focusWidget()->objectName() == name;
+    };
+    EXPECT_TRUE(walkTo("qt_toolbar_ext_button"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hidden.isVisible(); }));
+    EXPECT_TRUE(walkTo("cmdexit"));
+}
+
 TEST(Window, ANewPuzzleIsOrderedAtItsButton) {
     WindowGame window;
     auto& make = Of<BoxControl>(window.form, "cmdnew1");
