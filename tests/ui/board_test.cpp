@@ -81,12 +81,12 @@ TEST(BoardMouse, ADragFromAnIslandLaysAndOneBesideTheBoardMovesItUntilAResize) {
 struct TouchWindow : WindowGame {
     using Finger = std::pair<QPoint, QPoint>;
 
-    explicit TouchWindow() {
-        for (QTimer* const timer : form.Container().findChildren<QTimer*>())
-            if (timer->isSingleShot()) timer->setInterval(60);
-    }
-    /// Fingers go down, move in four steps and come up again; the fewer milliseconds they rest before that the better.
+    /// Fingers go down, rest for so many milliseconds, move in four steps and come up again. Those that shall not rest
+    /// do not, however slow the machine is.
     void Touch(const std::vector<Finger>& fingers, int rest = 0) {
+        constexpr int kNever = 60000;
+        for (QTimer* const timer : form.Container().findChildren<QTimer*>())
+            if (timer->isSingleShot()) timer->setInterval(rest > 0 ? rest / 3 : kNever);
         const auto all = [&](const std::function<void(QTest::QTouchEventWidgetSequence&, int, const Finger&)>& part) {
             QTest::QTouchEventWidgetSequence sequence = QTest::touchEvent(&view, Device());
             for (int i = 0; i < static_cast<int>(fingers.size()); ++i)
