@@ -184,15 +184,14 @@ void DrawCover(const Cover& cover, Surface& surface, const Surface::Area& body) 
 }
 
 void DrawRules(IslandShape shape, Surface& surface, const Surface::Area& body) {
-    constexpr double kLargest = 12;
-    constexpr double kStep = 0.5;
-    double points = kLargest;
-    for (; points > kSmallestSize; points -= kStep) {
+    constexpr int kLargestHalf = 24;  ///< half points
+    for (int halfPoints = kLargestHalf;; --halfPoints) {
+        const double points = halfPoints / 2.0;
         RulesPage measured(surface, body, shape, points);
         measured.Lay(false);
-        if (measured.Bottom() <= body.bottom) break;
+        if (measured.Bottom() > body.bottom && points > kSmallestSize) continue;
+        return RulesPage(surface, body, shape, points).Lay(true);
     }
-    RulesPage(surface, body, shape, points).Lay(true);
 }
 
 Puzzle ExamplePuzzle() {

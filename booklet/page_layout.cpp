@@ -202,7 +202,7 @@ Rows RowsOf(const Manner& manner, const std::vector<BookletEntry>& entries, std:
 /// Fills pages with a board in each slot, those of a page in the largest cell that all of them allow.
 std::vector<BookletPage> LayOutInSlots(const Manner& manner, const std::vector<BookletEntry>& entries,
                                        const Slots& slots, const Surface::Area& body) {
-    const auto perPage = static_cast<std::size_t>(slots.across * slots.down);
+    const auto perPage = static_cast<std::size_t>(slots.across) * static_cast<std::size_t>(slots.down);
     std::vector<BookletPage> pages;
     for (std::size_t first = 0; first < entries.size(); first += perPage) {
         const std::size_t end = std::min(entries.size(), first + perPage);
@@ -298,7 +298,7 @@ std::vector<BookletPage> LayOutSolutions(const std::vector<BookletEntry>& entrie
     constexpr int kLargerCells[] = {260, 240, 220, 200, 180};
     const Manner manner{true, false, SolutionCaptionHeight(), kSolutionCaptionWidth, kSmallestSolutionCell};
     FindMisfits(manner, entries, {}, body, misfits);
-    const auto smallest = Fill(manner, entries, kSmallestSolutionCell, body);
+    auto smallest = Fill(manner, entries, kSmallestSolutionCell, body);
     for (const int cell : kLargerCells) {
         if (cell > SmallestFitting(manner, entries, {}, body)) continue;
         auto pages = Fill(manner, entries, cell, body);

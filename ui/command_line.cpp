@@ -113,7 +113,7 @@ QString ReadOutput(const Arguments& known, const QStringList& positional, Comman
                                                           : "This is no range of puzzles: ") +
                positional.at(1);
     }
-    if (const QString wrong = known.bookletOptions.Read(known.parser, order.booklet); !wrong.isEmpty()) return wrong;
+    if (QString wrong = known.bookletOptions.Read(known.parser, order.booklet); !wrong.isEmpty()) return wrong;
     line.output = order;
     return "";
 }
