@@ -27,6 +27,7 @@ QString AboutText() {
                    "as long as the licence goes with it. It comes without any warranty.</p>"
                    "<p><b>Libraries</b><br>Qt %1, under the GNU Lesser General Public License, version 3: "
                    "Core, Gui, Widgets, Print Support, SQL and SVG.<br>"
+                   "qpdf, under the Apache License, version 2.0.<br>"
                    "The C++ standard library.</p>")
         .arg(QString::fromLatin1(qVersion()));
 }

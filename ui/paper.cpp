@@ -5,10 +5,13 @@
 #include <QLocale>
 #include <QPdfWriter>
 #include <QSaveFile>
+#include <QTemporaryFile>
 #include <algorithm>
+#include <utility>
 
 #include "drawing/render_puzzle.h"
 #include "game/messages.h"
+#include "ui/finish_pdf.h"
 #include "ui/qt_surface.h"
 #include "ui/save_file.h"
 
@@ -19,19 +22,24 @@ namespace {
 constexpr double kSmallestMargin = 360;  ///< in twips
 constexpr int kPdfPixelsPerInch = 1200;
 
-/// A document that is written beside its file and takes its place at the end.
+PdfProperties PropertiesOf(const DocumentSetup& setup) {
+    return {QString::fromStdString(setup.title), QString::fromStdString(setup.author),
+            QString::fromStdString(setup.subject), QString::fromStdString(setup.keywords),
+            QString::fromUtf8(AppTitle.data(), AppTitle.size())};
+}
+
+/// A document that Qt writes to a file without a name, and that takes its place at the end in its finished form.
 class PdfDocument final : public PrintDocument {
  public:
-    PdfDocument(const QString& path, const DocumentSetup& setup)
-        : setup_(setup), file_(path), surface_(kPdfPixelsPerInch, kTwipsPerPen) {}
+    PdfDocument(const QString& path, DocumentSetup setup)
+        : setup_(std::move(setup)), file_(path), surface_(kPdfPixelsPerInch, kTwipsPerPen) {}
     ~PdfDocument() override { surface_.SetTarget(nullptr); }
 
     bool Open() {
-        if (!file_.open(QIODevice::WriteOnly)) return false;
-        writer_ = std::make_unique<QPdfWriter>(&file_);
+        if (!file_.open(QIODevice::WriteOnly)) return Fail(file_.errorString());
+        if (!raw_.open()) return Fail(raw_.errorString());
+        writer_ = std::make_unique<QPdfWriter>(&raw_);
         writer_->setResolution(kPdfPixelsPerInch);
-        writer_->setCreator(QString::fromUtf8(AppTitle.data(), AppTitle.size()));
-        writer_->setTitle(QString::fromStdString(setup_.title));
         UseWholeSheets(*writer_, setup_.format.value_or(SheetFormat{UsualPaper(), false}));
         surface_.SetTarget(writer_.get());
         StartPainting();
@@ -40,20 +48,34 @@ class PdfDocument final : public PrintDocument {
 
     Surface& Page() override { return surface_; }
     Sheet PageSheet() const override { return SheetOf(*writer_); }
-    bool NewPage() override { return file_.error() == QFileDevice::NoError && writer_->newPage(); }
+    bool NewPage() override {
+        if (raw_.error() == QFileDevice::NoError && writer_->newPage()) return true;
+        return Fail(raw_.errorString());
+    }
     bool End() override {
         surface_.SetTarget(nullptr);
-        return file_.commit();
+        const uchar* const written = raw_.flush() ? raw_.map(0, raw_.size()) : nullptr;
+        if (written == nullptr) return Fail(raw_.errorString());
+        const QString reason = FinishPdf(QByteArrayView(written, raw_.size()), PropertiesOf(setup_), file_);
+        if (!reason.isEmpty()) return Fail(reason);
+        return file_.commit() || Fail(file_.errorString());
     }
-    std::string Error() const override { return (file_.fileName() + "\n" + file_.errorString()).toStdString(); }
+    std::string Error() const override { return (file_.fileName() + "\n" + reason_).toStdString(); }
 
  private:
+    bool Fail(const QString& reason) {
+        reason_ = reason;
+        return false;
+    }
+
     /// A page that stays empty, the first one too, is a page only if painting has begun.
     void StartPainting() { surface_.FilledBox(0, 0, 0, 0, kWhite); }
 
     DocumentSetup setup_;
-    // The surface paints on the writer and the writer writes to the file, so they go in this order.
     QSaveFile file_;
+    QString reason_;  ///< why the last call failed
+    // The surface paints on the writer and the writer writes to the raw file, so they go in this order.
+    QTemporaryFile raw_;
     std::unique_ptr<QPdfWriter> writer_;
     QtSurface surface_;
 };
@@ -61,13 +83,13 @@ class PdfDocument final : public PrintDocument {
 QPageSize PageSizeOf(Paper paper) {
     switch (paper) {
         case Paper::A4:
-            return QPageSize(QPageSize::A4);
+            return QPageSize::A4;
         case Paper::A5:
-            return QPageSize(QPageSize::A5);
+            return QPageSize::A5;
         case Paper::Letter:
             break;
     }
-    return QPageSize(QPageSize::Letter);
+    return QPageSize::Letter;
 }
 
 }  // namespace

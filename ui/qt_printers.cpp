@@ -19,8 +19,8 @@ namespace {
 /// A document on a printer of the system.
 class PrinterDocument final : public PrintDocument {
  public:
-    PrinterDocument(const std::string& name, std::unique_ptr<QPrinter> device)
-        : name_(name), device_(std::move(device)), surface_(device_->resolution(), kTwipsPerPen) {
+    PrinterDocument(std::string name, std::unique_ptr<QPrinter> device)
+        : name_(std::move(name)), device_(std::move(device)), surface_(device_->resolution(), kTwipsPerPen) {
         surface_.SetTarget(device_.get());
         // A page that stays empty, the first one too, is a page only if painting has begun.
         surface_.FilledBox(0, 0, 0, 0, kWhite);

@@ -26,8 +26,8 @@ others=$(find "$scratch/unpacked" ! -type l -perm /go+w)
 [ ! -d "$scratch/unpacked/usr/share/tidewalk/icons" ] || fail "the icons of the sources are in the package"
 
 depends=$(dpkg-deb -f "$package" Depends)
-for needed in libqt6widgets6 libqt6printsupport6 libqt6svg6 libqt6sql6-sqlite fonts-liberation fonts-dejavu-core \
-    libc6; do
+for needed in libqt6widgets6 libqt6printsupport6 libqt6svg6 libqt6sql6-sqlite libqpdf fonts-liberation \
+    fonts-dejavu-core libc6; do
     case "$depends" in
         *"$needed"*) ;;
         *) fail "$needed is no dependency: $depends" ;;

@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: MIT
 // What is drawn on pictures and pages, and how it leaves the program.
+#include <QBuffer>
 #include <QClipboard>
 #include <QMimeData>
 #include <QSvgRenderer>
+#include <QXmlStreamReader>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
 
 #include "board/print_pages.h"
 #include "drawing/render_puzzle.h"
 #include "support/board_text.h"
 #include "ui/file_name.h"
+#include "ui/finish_pdf.h"
 #include "ui/paper.h"
 #include "ui/picture.h"
 #include "window_game.h"
@@ -37,6 +42,15 @@ std::pair<int, int> RedAndBlurred(const QImage& image, int row) {
         if (colour != QColor(Qt::white)) ++(colour == QColor(Qt::red) ? count.first : count.second);
     }
     return count;
+}
+
+QPDFObjectHandle PageOf(QPDF& file, std::size_t number) {
+    return file.getAllPages().at(number);
+}
+
+QByteArray StreamText(QPDFObjectHandle stream) {
+    const auto bytes = stream.getStreamData();
+    return {reinterpret_cast<const char*>(bytes->getBuffer()), static_cast<qsizetype>(bytes->getSize())};
 }
 
 TEST(QtSurface, LinesFillWholePixelsAtEveryRatio) {
@@ -150,6 +164,43 @@ TEST(Output, PdfAppearsWithAllItsPagesAtItsEndOnly) {
     EXPECT_EQ(error.substr(0, 32), "/nowhere/at/all.pdf\nNo such file");
 }
 
+TEST(Output, PdfTellsItsPropertiesInAnyScript) {
+    const TempFolder folder;
+    DocumentSetup setup;
+    setup.file = folder.Path("out.pdf");
+    setup.title =
+        "Br\xC3\xBC"
+        "cken &\n<\xE6\xA9\x8B>";
+    setup.author = "Zo\xC3\xAB";
+    setup.subject = "Puzzles";
+    setup.keywords = "bridges, islands";
+    std::string error;
+    ASSERT_TRUE(BeginPdf(setup, error)->End());
+    QPDF file;
+    file.processFile(setup.file.c_str());
+    const auto property = [&](const char* key) { return file.getTrailer().getKey("/Info").getKey(key).getUTF8Value(); };
+    const std::string title =
+        "Br\xC3\xBC"
+        "cken & <\xE6\xA9\x8B>";
+    EXPECT_EQ(property("/Title") + property("/Author"), title + setup.author);
+    EXPECT_EQ(property("/Subject") + property("/Keywords") + property("/Creator"), "Puzzlesbridges, islandsTidewalk");
+    EXPECT_EQ(file.getRoot().getKey("/Lang").getUTF8Value(), "en");
+    QXmlStreamReader xmp(StreamText(file.getRoot().getKey("/Metadata")));
+    QString texts;
+    while (!xmp.atEnd()) {
+        if (xmp.readNext() == QXmlStreamReader::Characters && !xmp.isWhitespace()) texts += xmp.text().toString() + "|";
+    }
+    EXPECT_FALSE(xmp.hasError()) << xmp.errorString().toStdString();
+    EXPECT_EQ(texts.toStdString().find(title + "|Zo\xC3\xAB|Puzzles|bridges, islands|Tidewalk|"), 0U)
+        << texts.toStdString();
+    QBuffer closed;
+    const std::string whole = folder.Read("out.pdf");
+    EXPECT_NE(FinishPdf(whole, {}, closed), "") << "it cannot be written there";
+    closed.open(QIODevice::WriteOnly);
+    EXPECT_EQ(FinishPdf(whole, {}, closed), "");
+    EXPECT_NE(FinishPdf(QByteArrayView(whole).first(qsizetype(whole.size() / 2)), {}, closed), "") << "half a document";
+}
+
 TEST(Output, SheetsAreAsLargeAsDocumentsHaveThem) {
     WindowGame window;
     Printers& printers = window.game.printers;
@@ -187,9 +238,10 @@ TEST(Output, PuzzlesArePreviewedAndPrintedFromTheWindow) {
         Press(preview, "Print");
     });
     window.game.printers.Preview(std::string(kPdfPrinter), [&](Surface&, const Surface::Area& area) { paper = area; });
-    const std::string wide = window.folder.Read("wide.pdf");
-    EXPECT_TRUE(wide.find("MediaBox [0 0 842") != std::string::npos ||
-                wide.find("MediaBox [0 0 792") != std::string::npos);
+    QPDF wide;
+    wide.processFile("wide.pdf");
+    const auto sheet = PageOf(wide, 0).getKey("/MediaBox").getArrayAsRectangle();
+    EXPECT_TRUE(sheet.urx == 842 || sheet.urx == 792) << sheet.urx;
     window.Expect("Form5", Answer("Command1"));
     window.Expect("file: Print to a PDF file", Choose(window.folder.Path("a.pdf")));
     window.Expect("Printed 1 puzzles from file:\r\n" + window.game.collection.CollectionPath);

@@ -4,7 +4,8 @@
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QMetaProperty>
-#include <QRegularExpression>
+#include <qpdf/QPDF.hh>
+#include <qpdf/QPDFObjectHandle.hh>
 
 #include "ui/board_pixels.h"
 #include "ui/msg_form.h"
@@ -57,9 +58,9 @@ std::string NameOf(const QDialog& dialog) {
 }
 
 qsizetype PagesOf(const char* path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path;
-    return QString::fromLatin1(file.readAll()).count(QRegularExpression("/Type\\s*/Page\\b"));
+    QPDF document;
+    document.processFile(path);
+    return static_cast<qsizetype>(document.getAllPages().size());
 }
 
 WindowGame::WindowGame(const std::vector<std::string>& records) {
