@@ -49,6 +49,7 @@ class PdfDocument final : public PrintDocument {
     Surface& Page() override { return surface_; }
     Sheet PageSheet() const override { return SheetOf(*writer_); }
     bool NewPage() override {
+        surface_.Flush();
         if (raw_.error() == QFileDevice::NoError && writer_->newPage()) return true;
         return Fail(raw_.errorString());
     }

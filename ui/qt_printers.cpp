@@ -34,7 +34,10 @@ class PrinterDocument final : public PrintDocument {
 
     Surface& Page() override { return surface_; }
     Sheet PageSheet() const override { return tidewalk::SheetOf(*device_); }
-    bool NewPage() override { return Works() && device_->newPage(); }
+    bool NewPage() override {
+        surface_.Flush();
+        return Works() && device_->newPage();
+    }
     bool End() override {
         if (!Works()) return false;
         ended_ = true;

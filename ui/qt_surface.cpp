@@ -2,6 +2,7 @@
 #include "ui/qt_surface.h"
 
 #include <QFontMetricsF>
+#include <QPaintEngine>
 #include <algorithm>
 #include <cmath>
 
@@ -31,7 +32,13 @@ void QtSurface::SetTarget(QPaintDevice* target) {
     target_ = target;
 }
 
+void QtSurface::Flush() {
+    if (runs_) runs_->Flush();
+}
+
 void QtSurface::Finish() {
+    Flush();
+    runs_.reset();
     if (painter_.isActive()) painter_.end();
 }
 
@@ -42,6 +49,7 @@ bool QtSurface::Begin() {
     painter_.scale(pixelsPerInch_ / kTwipsPerInch, pixelsPerInch_ / kTwipsPerInch);
     painter_.translate(-origin_);
     pixelsPerTwip_ = painter_.deviceTransform().m11();
+    if (painter_.paintEngine()->type() == QPaintEngine::Pdf) runs_.emplace(painter_);
     return true;
 }
 
@@ -81,6 +89,7 @@ void QtSurface::Clear(Colour background) {
     columns_.clear();
     rows_.clear();
     if (!Begin()) return;
+    Flush();
     const QRectF all(QPointF(0, 0), QSizeF(target_->width(), target_->height()));
     painter_.save();
     painter_.resetTransform();
@@ -94,17 +103,21 @@ void QtSurface::SetDrawWidth(int pixels) {
 
 void QtSurface::Line(double x1, double y1, double x2, double y2, Colour colour) {
     if (!Begin()) return;
+    const QLineF line(Snapped(x1), Snapped(y1), Snapped(x2), Snapped(y2));
+    if (runs_) return runs_->Line(Pen(colour), line);
     painter_.setPen(Pen(colour));
-    painter_.drawLine(QPointF(Snapped(x1), Snapped(y1)), QPointF(Snapped(x2), Snapped(y2)));
+    painter_.drawLine(line);
 }
 
 void QtSurface::Box(double x1, double y1, double x2, double y2, Colour colour) {
     if (!Begin()) return;
+    const QRectF box(SnappedCorner(x1, y1), SnappedCorner(x2, y2));
+    if (runs_) return runs_->Box(Pen(colour), box);
     // Upright edges on whole pixels need no smoothing, which would only cost time.
     painter_.setRenderHint(QPainter::Antialiasing, false);
     painter_.setPen(Pen(colour));
     painter_.setBrush(Qt::NoBrush);
-    painter_.drawRect(QRectF(SnappedCorner(x1, y1), SnappedCorner(x2, y2)));
+    painter_.drawRect(box);
     painter_.setRenderHint(QPainter::Antialiasing);
 }
 
@@ -112,13 +125,17 @@ void QtSurface::FilledBox(double x1, double y1, double x2, double y2, Colour col
     if (!Begin()) return;
     // The size is rounded by itself: boxes of one size stay so wherever they lie.
     const auto whole = [this](double twips) { return std::round(twips * pixelsPerTwip_) / pixelsPerTwip_; };
-    painter_.fillRect(QRectF(whole(x1), whole(y1), whole(x2 - x1), whole(y2 - y1)), ToQColor(colour));
+    const QRectF box(whole(x1), whole(y1), whole(x2 - x1), whole(y2 - y1));
+    if (runs_) return runs_->FilledBox(ToQColor(colour), box);
+    painter_.fillRect(box, ToQColor(colour));
 }
 
 void QtSurface::Circle(double x, double y, double radius, Colour outline, Colour fill) {
     if (!Begin()) return;
     // An outline of the fill's own colour would only make the circle larger than it is to be.
-    painter_.setPen(outline == fill ? QPen(Qt::NoPen) : Pen(outline));
+    const QPen pen = outline == fill ? QPen(Qt::NoPen) : Pen(outline);
+    if (runs_) return runs_->Circle(pen, ToQColor(fill), QPointF(x, y), radius);
+    painter_.setPen(pen);
     painter_.setBrush(ToQColor(fill));
     painter_.drawEllipse(QPointF(x, y), radius, radius);
 }
@@ -140,9 +157,11 @@ Surface::Extent QtSurface::TextExtent(const std::string& text) {
 
 void QtSurface::Print(double x, double y, const std::string& text, Colour colour) {
     if (!Begin()) return;
+    const QPointF place(x, y + QFontMetricsF(font_).ascent());
+    if (runs_) return runs_->Text(font_, ToQColor(colour), place, QString::fromStdString(text));
     painter_.setFont(font_);
     painter_.setPen(ToQColor(colour));
-    painter_.drawText(QPointF(x, y + QFontMetricsF(font_).ascent()), QString::fromStdString(text));
+    painter_.drawText(place, QString::fromStdString(text));
 }
 
 }  // namespace tidewalk

@@ -5,8 +5,10 @@
 #include <QFont>
 #include <QPainter>
 #include <map>
+#include <optional>
 
 #include "drawing/surface.h"
+#include "ui/drawing_runs.h"
 
 namespace tidewalk {
 
@@ -37,6 +39,9 @@ class QtSurface final : public Surface {
     /// What is drawn from now on goes to `target`; with nullptr it goes nowhere. Finishes with the old target.
     void SetTarget(QPaintDevice* target);
 
+    /// Draws all that was to be drawn so far. A target that has pages has to wait for it before the next one begins.
+    void Flush();
+
     /// Ends painting, so that what was drawn can be used. Drawing may go on afterwards.
     void Finish();
 
@@ -63,7 +68,8 @@ class QtSurface final : public Surface {
     QPointF origin_;
     QPaintDevice* target_ = nullptr;
     QPainter painter_;
-    double pixelsPerTwip_ = 1;  ///< device pixels, while painting
+    std::optional<DrawingRuns> runs_;  ///< while painting a PDF file
+    double pixelsPerTwip_ = 1;         ///< device pixels, while painting
     int drawWidth_ = 1;
     QFont font_;
 

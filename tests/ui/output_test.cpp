@@ -201,6 +201,34 @@ TEST(Output, PdfTellsItsPropertiesInAnyScript) {
     EXPECT_NE(FinishPdf(QByteArrayView(whole).first(qsizetype(whole.size() / 2)), {}, closed), "") << "half a document";
 }
 
+TEST(Output, PdfSaysALookOnceAndDrawsInOrder) {
+    const TempFolder folder;
+    DocumentSetup setup;
+    setup.file = folder.Path("out.pdf");
+    std::string error;
+    const auto document = BeginPdf(setup, error);
+    Surface& page = document->Page();
+    for (const double x : {100, 200, 300})
+        page.Line(x, 100, x, 900, kRed);
+    for (const double x : {1000, 2000, 2100})
+        page.Circle(x, 1000, 200, kBlack, kWhite);
+    page.Print(100, 2000, "AV", kBlack);
+    page.Print(900, 2000, "\xD7\xA9\xD7\x9C", kBlack);
+    EXPECT_TRUE(document->NewPage());
+    page.Circle(1000, 1000, 200, kRed, kRed);
+    EXPECT_TRUE(document->End());
+    QPDF file;
+    file.processFile(setup.file.c_str());
+    const auto drawn = [&](std::size_t number) { return StreamText(PageOf(file, number).getKey("/Contents")); };
+    const QByteArray first = drawn(0);
+    EXPECT_EQ(first.count("\nS\n"), 5)
+        << "the lines; two circles apart and one that lies upon them, each with its fill";
+    EXPECT_EQ(first.count("Tj"), 4) << "all letters, those that run to the left as well";
+    EXPECT_LT(first.indexOf("1 0 0 SCN"), first.indexOf("1 1 1 SCN"));
+    EXPECT_LT(first.lastIndexOf("1 1 1 SCN"), first.indexOf("BT\n"));
+    EXPECT_EQ(drawn(1).count("\nS\n"), 1) << "what one page waited with is not on the next";
+}
+
 TEST(Output, SheetsAreAsLargeAsDocumentsHaveThem) {
     WindowGame window;
     Printers& printers = window.game.printers;
