@@ -7,10 +7,10 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 #include "model/system_file.h"
+#include "ui/save_file.h"
 
 namespace tidewalk {
 
@@ -34,8 +34,7 @@ QByteArray ShippedLine(const QString& name, const QByteArray& bytes) {
 /// reading only; the player's own copy is to be written.
 void Copy(const QByteArray& bytes, const QString& target) {
     QDir().mkpath(QFileInfo(target).path());
-    QSaveFile file(target);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()) file.commit();
+    WriteFile(target, bytes);
 }
 
 /// Copies the files that `to` lacks, and those that are there as they once shipped. A folder of pictures for buttons is

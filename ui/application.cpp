@@ -2,11 +2,11 @@
 #include "ui/application.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QMessageBox>
 #include <QPixmap>
-#include <QSaveFile>
 #include <cstdio>
 
 #include "model/system_file.h"
@@ -75,12 +75,12 @@ int Fail(const QString& text, bool unattended) {
 int TakeScreenshot(Program& program, const QString& file) {
     // What the first puzzle changed is laid out and painted by the events that wait.
     QCoreApplication::processEvents();
-    QSaveFile picture(file);
-    if (WhyNotReplaceable(file).isEmpty() && picture.open(QIODevice::WriteOnly) &&
-        program.form1().grab().save(&picture, "PNG") && picture.commit()) {
-        return 0;
-    }
-    Say(stderr, "The picture could not be written: " + file);
+    QBuffer picture;
+    picture.open(QIODevice::WriteOnly);
+    const bool drawn = program.form1().grab().save(&picture, "PNG");
+    const QString reason = drawn ? WriteFile(file, picture.data()) : "it is too large";
+    if (reason.isEmpty()) return 0;
+    Say(stderr, "The picture could not be written: " + file + ": " + reason);
     return kFailed;
 }
 

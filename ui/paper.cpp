@@ -57,9 +57,9 @@ class PdfDocument final : public PrintDocument {
         surface_.SetTarget(nullptr);
         const uchar* const written = raw_.flush() ? raw_.map(0, raw_.size()) : nullptr;
         if (written == nullptr) return Fail(raw_.errorString());
-        const QString reason = FinishPdf(QByteArrayView(written, raw_.size()), PropertiesOf(setup_), file_);
-        if (!reason.isEmpty()) return Fail(reason);
-        return file_.commit() || Fail(file_.errorString());
+        QString reason = FinishPdf(QByteArrayView(written, raw_.size()), PropertiesOf(setup_), file_);
+        if (reason.isEmpty()) reason = CommitFile(file_);
+        return reason.isEmpty() || Fail(reason);
     }
     std::string Error() const override { return (file_.fileName() + "\n" + reason_).toStdString(); }
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/picture.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <cmath>
 
 #include "drawing/render_puzzle.h"
@@ -39,15 +39,17 @@ void WritePdf(QIODevice& file, const PuzzlePicture& picture) {
     surface.SetTarget(nullptr);
 }
 
-bool WriteContent(QSaveFile& file, const PuzzlePicture& picture, double scale) {
-    const QString ending = QFileInfo(file.fileName()).suffix().toLower();
-    if (ending == "svg") return file.write(QByteArray::fromStdString(picture.svg)) >= 0;
+/// The picture as a file whose name ends like this; nothing where it is too large.
+QByteArray ContentOf(const PuzzlePicture& picture, const QString& ending, double scale) {
+    if (ending == "svg") return QByteArray::fromStdString(picture.svg);
+    QBuffer content;
+    content.open(QIODevice::WriteOnly);
     if (ending == "pdf") {
-        WritePdf(file, picture);
-        return file.error() == QFileDevice::NoError;
+        WritePdf(content, picture);
+    } else if (const QImage image = MakePicture(picture.draw, scale); !image.save(&content, "PNG")) {
+        return {};
     }
-    const QImage image = MakePicture(picture.draw, scale);
-    return !image.isNull() && image.save(&file, "PNG");
+    return content.data();
 }
 
 }  // namespace
@@ -75,10 +77,8 @@ QImage MakePicture(const DrawFunction& draw, double scale) {
 }
 
 QString WritePicture(const QString& path, const PuzzlePicture& picture, double scale) {
-    if (QString reason = WhyNotReplaceable(path); !reason.isEmpty()) return reason;
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && WriteContent(file, picture, scale) && file.commit()) return "";
-    return file.errorString();
+    const QByteArray content = ContentOf(picture, QFileInfo(path).suffix().toLower(), scale);
+    return content.isEmpty() ? QString("The picture is too large") : WriteFile(path, content);
 }
 
 }  // namespace tidewalk

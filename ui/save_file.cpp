@@ -10,4 +10,26 @@ QString WhyNotReplaceable(const QString& path) {
     return !info.exists() || info.isFile() ? QString() : QString("This is no ordinary file");
 }
 
+QString CommitFile(QSaveFile& file) {
+    // Committing would write what is buffered without a look at what becomes of it. Where a write ends half way, the
+    // system has its reason ready for the next one only.
+    if (!file.flush()) file.flush();
+    const QString reason = file.errorString();
+    if (file.error() == QFileDevice::NoError && file.commit()) return "";
+    // Closing the file may have forgotten why an earlier write failed.
+    return file.error() == QFileDevice::NoError ? reason : file.errorString();
+}
+
+QString WriteFile(const QString& path, const QByteArray& bytes) {
+    if (QString reason = WhyNotReplaceable(path); !reason.isEmpty()) return reason;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+    for (qint64 written = 0; written < bytes.size();) {
+        const qint64 more = file.write(bytes.constData() + written, bytes.size() - written);
+        if (more <= 0) return file.errorString();
+        written += more;
+    }
+    return CommitFile(file);
+}
+
 }  // namespace tidewalk

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What is drawn on pictures and pages, and how it leaves the program.
+#include <sys/resource.h>
+
 #include <QBuffer>
 #include <QClipboard>
 #include <QMimeData>
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
+#include <csignal>
 #include <qpdf/QPDF.hh>
 #include <qpdf/QPDFObjectHandle.hh>
 
@@ -123,6 +126,25 @@ TEST(Picture, IsWrittenAsItsNameEnds) {
     EXPECT_NE(folder.Read("a.pdf").find("MediaBox [0 0 24"), std::string::npos) << "the page is as large, too";
     EXPECT_EQ(write("none/a.svg"), "No such file or directory");
     EXPECT_EQ(write(""), "This is no ordinary file");
+}
+
+TEST(Picture, OfWhichOnlyAPartCouldBeWrittenReplacesNothing) {
+    const TempFolder folder;
+    const PuzzlePicture picture = PictureOf(PuzzleFrom({"2=3-1"}), PictureRequest(RenderMode::Puzzle, "a title", 4));
+    // A limit is all of a full disk that a test can have.
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    for (const char* const name : {"a.svg", "a.pdf", "a.png"}) {
+        const QString path = FileNameText(folder.Write(name, "old"));
+        const rlimit limit{1024, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        const QString reason = WritePicture(path, picture, 1);
+        setrlimit(RLIMIT_FSIZE, &before);
+        EXPECT_EQ(reason, "File too large") << name;
+        EXPECT_EQ(folder.Read(name), "old");
+    }
+    std::signal(SIGXFSZ, handler);
 }
 
 TEST(Output, CopyReachesTheClipboardAndPasteTakesTextFromIt) {
