@@ -184,16 +184,16 @@ std::string SvgSurface::Document(const Area& frame, std::string_view title, std:
     const Area whole{left * kTwipsPerPixel, top * kTwipsPerPixel, (left + width) * kTwipsPerPixel,
                      (top + height) * kTwipsPerPixel};
     const std::string name = NameOf(elements_ + std::string(title));
-    std::string style = "#" + name + " text{font-family:Arial,Helvetica,'Liberation Sans',sans-serif}\n";
+    // Some renderers take a list of fonts for the name of one that nobody has.
+    std::string style = "#" + name + " text{font-family:Arial}\n";
     for (const auto& [kind, look] : looks_)
         style.append("#").append(name).append(" .").append(ClassOf(kind)).append("{").append(look).append("}\n");
     std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" id=\"" +
-                       name + "\" role=\"img\" aria-labelledby=\"" + name + "-title " + name + "-desc\"" +
-                       Attribute("width", width) + Attribute("height", height) + " viewBox=\"" + Number(whole.left) +
-                       " " + Number(whole.top) + " " + Number(whole.right - whole.left) + " " +
+                       name + "\"" + Attribute("width", width) + Attribute("height", height) + " viewBox=\"" +
+                       Number(whole.left) + " " + Number(whole.top) + " " + Number(whole.right - whole.left) + " " +
                        Number(whole.bottom - whole.top) + "\">\n";
-    text += "<title id=\"" + name + "-title\">" + Escaped(title) + "</title>\n";
-    text += "<desc id=\"" + name + "-desc\">" + Escaped(description) + "</desc>\n";
+    text += "<title>" + Escaped(title) + "</title>\n";
+    text += "<desc>" + Escaped(description) + "</desc>\n";
     text += "<style type=\"text/css\">\n" + style + "</style>\n";
     if (!paper_.empty()) {
         text += "<rect class=\"paper\"" + Rectangle(whole.left, whole.top, whole.right, whole.bottom) + " fill=\"" +

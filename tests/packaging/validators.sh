@@ -28,7 +28,12 @@ for side in 48 64 128 256; do
     [ "$size" = "${side}x${side}" ] || fail "$icon measures $size"
 done
 xmllint --noout "$share/icons/hicolor/scalable/apps/tidewalk.svg" || fail "the scalable icon"
-"$prefix/bin/tidewalk-cli" show "$source/data/puzzles.txt" 1 --solution --svg | xmllint --noout - || fail "a picture"
+"$prefix/bin/tidewalk-cli" show "$source/data/puzzles.txt" 1 --solution --svg >"$scratch/picture.svg" || fail "no picture"
+xmllint --noout "$scratch/picture.svg" || fail "a picture is no XML"
+svg="-//W3C//DTD SVG 1.1//EN"
+if xmlcatalog /etc/xml/catalog "$svg" >/dev/null 2>&1; then
+    xmllint --nonet --noout --dtdvalidfpi "$svg" "$scratch/picture.svg" || fail "a picture is no SVG"
+fi
 
 # What the README names lies beside it.
 for named in $(grep -o '](\([^)]*\))' "$share/doc/tidewalk/README.md" | sed 's/](\(.*\))/\1/'); do
