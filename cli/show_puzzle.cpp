@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The command "show": a puzzle drawn with characters, or as a picture in SVG.
+#include <filesystem>
 #include <optional>
+#include <system_error>
 #include <vector>
 
 #include "cli/collection_lines.h"
@@ -34,8 +36,15 @@ std::string InOneText(const std::vector<std::string>& lines) {
     return text;
 }
 
+/// The name of the file with its folder, by which the window calls it, too.
+std::string WithFolder(const std::string& file) {
+    std::error_code error;
+    const auto path = std::filesystem::absolute(file, error).lexically_normal();
+    return error ? file : path.string();
+}
+
 void PrintSvg(Console& console, const ShowOptions& options, const Puzzle& puzzle) {
-    const std::string file = options.file == kStandard ? "standard input" : options.file;
+    const std::string file = options.file == kStandard ? "standard input" : WithFolder(options.file);
     const std::string title = PrintTitle(options.solution ? "Solution#" : "Puzzle#", options.number, file);
     const RenderMode mode = options.solution ? RenderMode::Solution : RenderMode::Puzzle;
     console.out << PuzzleSvg(puzzle, PictureRequest(mode, title, RenderRequest().lineWidth)) << std::flush;

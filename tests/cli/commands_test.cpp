@@ -318,8 +318,10 @@ TEST_F(Cli, ShowPrintsThePictureThatTheWindowSaves) {
     const auto picture = [&](RenderMode mode, const std::string& title) {
         return PuzzleSvg(*ParsePuzzleRecord(record), PictureRequest(mode, title, 4));
     };
-    EXPECT_EQ(Run({"show", file, "1", "--svg"}), 0);
-    EXPECT_EQ(out_, picture(RenderMode::Puzzle, "Puzzle# 1 file:" + file));
+    for (const std::string& name : {file, std::string("./c.txt")}) {
+        EXPECT_EQ(Run({"show", name, "1", "--svg"}), 0);
+        EXPECT_EQ(out_, picture(RenderMode::Puzzle, "Puzzle# 1 file:" + file));
+    }
     EXPECT_EQ(Run({"show", "-", "1", "--svg", "--solution"}, record), 0);
     EXPECT_EQ(out_, picture(RenderMode::Solution, "Solution# 1 file:standard input"));
 }
