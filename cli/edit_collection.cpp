@@ -98,8 +98,8 @@ int ExportRange(Console& console, const ExportOptions& options) {
     return failures == 0 ? kDone : kFailed;
 }
 
-/// What is wrong with grid `number` of a file; "" when it was read and is a puzzle.
-std::string FaultOfGrid(GridResult result, const Puzzle& puzzle, const ImportOptions& options, int number) {
+/// Why grid `number` of a file cannot be taken; "" when it can.
+std::string FaultOfGrid(GridResult result, const FoundGrid& grid, const ImportOptions& options, int number) {
     switch (result) {
         case GridResult::NotFound:
             return "Grid " + std::to_string(number) + " not found";
@@ -108,7 +108,7 @@ std::string FaultOfGrid(GridResult result, const Puzzle& puzzle, const ImportOpt
         case GridResult::Read:
             break;
     }
-    return puzzle.IslandCount() == 0 ? "there are no islands in the grid" : "";
+    return grid.puzzle.IslandCount() == 0 ? "there are no islands in the grid" : "";
 }
 
 /// Says what else is in a file of which nobody told the grid.
@@ -116,8 +116,8 @@ void SayOfOtherGrids(Console& console, const ImportOptions& options, const std::
     GridTally tally;
     std::string first;
     try {
-        GridReader reader(path, kGlance);
-        for (FoundGrid grid; !console.Stopped() && reader.Next(grid) && !reader.CutShort();)
+        GridReader reader(path, kGlance, UntilStopSignal(console));
+        for (FoundGrid grid; reader.Next(grid) && !reader.CutShort();)
             tally.Add(grid);
         if (reader.CutShort()) first = "the first ";
     } catch (const FileError&) {
@@ -130,21 +130,22 @@ void SayOfOtherGrids(Console& console, const ImportOptions& options, const std::
 /// Messages call the file at `path` by the name in the options.
 int ImportGrid(Console& console, const ImportOptions& options, const std::string& path) {
     const int number = options.number.value_or(1);
-    Puzzle puzzle;
-    const GridResult result = ReadGridFrom(path, number, puzzle);
-    if (const std::string fault = FaultOfGrid(result, puzzle, options, number); !fault.empty()) {
+    FoundGrid grid;
+    const GridResult result = ReadGridFrom(path, number, grid, UntilStopSignal(console));
+    if (console.Stopped()) return ExitCodeOf(console, 1);
+    if (const std::string fault = FaultOfGrid(result, grid, options, number); !fault.empty()) {
         Say(console, options.grid + ": " + fault);
         if (!options.number) SayOfOtherGrids(console, options, path);
         return kFailed;
     }
-    const int code = AppendTo(console, options.target, puzzle, options.json);
+    const int code = AppendTo(console, options.target, grid.puzzle, options.json);
     if (!options.number) SayOfOtherGrids(console, options, path);
     return code;
 }
 
 int ImportAll(Console& console, const ImportOptions& options, const std::string& path) {
     AppendedRecords output(console, options.target);
-    GridReader reader(path);
+    GridReader reader(path, GridReader::kWithoutEnd, UntilStopSignal(console));
     GridTally tally;
     for (FoundGrid grid; !console.Stopped() && reader.Next(grid);) {
         tally.Add(grid);

@@ -83,16 +83,17 @@ void ReadGrid(std::string_view bytes) {
     const test::TempFolder folder;
     const std::string path = folder.Write("grid.txt", std::string(bytes));
     for (int number = 0; number <= kMost; ++number) {
-        Puzzle puzzle;
-        if (ReadGridFrom(path, number, puzzle) != GridResult::Read) continue;
+        FoundGrid grid;
+        if (ReadGridFrom(path, number, grid) != GridResult::Read) continue;
+        const Puzzle& puzzle = grid.puzzle;
         Demand(number >= 1 && puzzle.CellCount() >= 1 && puzzle.LinkCount() == 0, "a grid out of nothing");
         // What is written is a grid that the reader takes without a change.
         for (const std::string& text : {MarkedGrid(puzzle), GridText(puzzle, GridForm::Plain),
                                         GridText(puzzle, GridForm::Spaced), GridText(puzzle, GridForm::Sized)}) {
-            Puzzle again;
+            FoundGrid again;
             const std::string written = folder.Write("again.grd", text);
             Demand(ReadGridFrom(written, 1, again) == GridResult::Read, "a grid of our own is not read");
-            Demand(again == puzzle, "a grid of our own comes back as another");
+            Demand(again.puzzle == puzzle, "a grid of our own comes back as another");
         }
     }
     DemandInOrder(std::string(bytes));

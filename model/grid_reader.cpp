@@ -95,7 +95,8 @@ bool SetRow(Puzzle& puzzle, int row, std::string_view text, bool spaced) {
 bool GridReader::HasLine(std::size_t at) {
     while (ahead_.size() <= at && !ended_) {
         std::string line;
-        ended_ = CutShort() || !lines_.Next(line, kLineBytes);
+        stopped_ = !mayGoOn_();
+        ended_ = stopped_ || CutShort() || !lines_.Next(line, kLineBytes);
         if (!ended_) ahead_.push_back(std::move(line));
     }
     return at < ahead_.size();
@@ -144,7 +145,7 @@ std::optional<GridReader::Rows> GridReader::RowsOfSize(std::size_t at, BoardSize
 /// How many rows a grid without a size line has; more than a board holds when it does not end there.
 std::size_t GridReader::PlainRows() {
     std::size_t count = 1;
-    while (count <= kMostRows && HasRow(count) && !(any_ && SizedAt(count)))
+    while (count <= kMostRows && HasRow(count) && !SizedAt(count))
         ++count;
     return count;
 }
@@ -164,9 +165,8 @@ void GridReader::Take(const Rows& rows, FoundGrid& grid) {
 void GridReader::ReadMarked(FoundGrid& grid) {
     const auto size = MarkedSize(ahead_.front());
     if (size && HasLine(static_cast<std::size_t>(size->rows))) return Take({1, *size, false}, grid);
-    do {
-        Drop(1);
-    } while (HasLine(0) && !ahead_.front().starts_with(kMark));
+    Drop(1);
+    rest_ = true;
 }
 
 void GridReader::ReadPlain(FoundGrid& grid) {
@@ -177,9 +177,15 @@ void GridReader::ReadPlain(FoundGrid& grid) {
     const bool spaced = columns > 2 && std::all_of(RowAt(0), end, IsSpaced) && std::any_of(RowAt(0), end, HasPoint);
     if (spaced) columns = (columns + 1) / 2;
     if (count <= kMostRows && IsSide(columns)) return Take({0, {static_cast<int>(count), columns}, spaced}, grid);
-    do {
+    Drop(1);
+    rest_ = true;
+}
+
+/// Passes over what is left of a grid that no board can hold, which may be all of a large file.
+void GridReader::PassRest() {
+    while (rest_ && (marked_ ? HasLine(0) && !ahead_.front().starts_with(kMark) : HasRow(0) && !SizedAt(0)))
         Drop(1);
-    } while (HasRow(0) && !SizedAt(0));
+    rest_ = false;
 }
 
 /// True when nothing but blanks stands up to the next empty line.
@@ -190,6 +196,7 @@ bool GridReader::IsBlankNext() {
 
 bool GridReader::Next(FoundGrid& grid) {
     if (!any_ && HasRow(0)) marked_ = ahead_.front().starts_with(kMark);
+    PassRest();
     // Behind the first grid, lines without anything to see lie between grids and mean nothing else.
     while (any_ && HasLine(0) && (ahead_.front().empty() || (!marked_ && IsBlankNext())))
         Drop(1);
@@ -198,7 +205,8 @@ bool GridReader::Next(FoundGrid& grid) {
     grid.line = taken_ + 1;
     marked_ ? ReadMarked(grid) : ReadPlain(grid);
     any_ = true;
-    return true;
+    // What looks like a grid may be the part of one that was read before the stop.
+    return !stopped_;
 }
 
 }  // namespace tidewalk

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "model/line_reader.h"
+#include "model/may_go_on.h"
 #include "model/puzzle.h"
 
 namespace tidewalk {
@@ -37,25 +38,26 @@ inline constexpr std::uint64_t kGlance = 4 * 1024 * 1024;
 ///   round, and then an empty line, the end or a further size line. Where those rows are no wider than the line, they
 ///   may as well be a grid that begins with it; then it takes a ".", or more than blanks between its numbers.
 ///
-/// An empty first line means that there are none. A grid that does not fit ends with an empty line, or before a size
-/// line or mark.
+/// An empty first line means that there are none. A plain grid ends with an empty line or before a size line, one that
+/// does not fit before a mark, too; what lies behind the rows that tell so is passed over when the next grid is taken.
 class GridReader {
  public:
+    static constexpr std::uint64_t kWithoutEnd = std::numeric_limits<std::uint64_t>::max();
+
     /// Looks at no more than so many bytes, and at the rest of a line. Throws FileError when the file cannot be opened.
-    explicit GridReader(const std::string& path, std::uint64_t most = kWithoutEnd) : lines_(path), most_(most) {}
+    explicit GridReader(const std::string& path, std::uint64_t most = kWithoutEnd, MayGoOn mayGoOn = WithoutEnd)
+        : lines_(path), most_(most), mayGoOn_(std::move(mayGoOn)) {}
     /// `source` has to live as long; messages call it `name`.
     GridReader(std::streambuf& source, std::string name, std::uint64_t most = kWithoutEnd)
-        : lines_(source, std::move(name)), most_(most) {}
+        : lines_(source, std::move(name)), most_(most), mayGoOn_(WithoutEnd) {}
 
-    /// Takes the next grid; false when there is none. Throws FileError when reading fails.
+    /// Takes the next grid; false when there is none, and once it is not to go on. Throws FileError when reading fails.
     bool Next(FoundGrid& grid);
 
     /// True when there were no more bytes to look at, whatever comes behind.
     bool CutShort() const { return lines_.Position() >= most_; }
 
  private:
-    static constexpr std::uint64_t kWithoutEnd = std::numeric_limits<std::uint64_t>::max();
-
     /// The rows of a grid among the lines ahead.
     struct Rows {
         std::size_t first = 0;
@@ -73,6 +75,7 @@ class GridReader {
     std::optional<Rows> RowsOfSize(std::size_t at, BoardSize size);
     std::size_t PlainRows();
     bool IsBlankNext();
+    void PassRest();
     void ReadMarked(FoundGrid& grid);
     void ReadPlain(FoundGrid& grid);
     void Take(const Rows& rows, FoundGrid& grid);
@@ -80,9 +83,12 @@ class GridReader {
     LineReader lines_;
     std::deque<std::string> ahead_;  ///< lines that were read and not yet taken
     std::uint64_t most_;             ///< bytes to look at
+    MayGoOn mayGoOn_;
+    bool stopped_ = false;
     bool ended_ = false;
     std::int64_t taken_ = 0;  ///< lines
     bool any_ = false;        ///< a grid was taken
+    bool rest_ = false;       ///< of a grid that does not fit lies ahead
     bool marked_ = false;
 };
 

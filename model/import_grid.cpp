@@ -80,10 +80,10 @@ bool ReportGridResult(Game& game, GridResult result, const std::string& path, in
 }
 
 bool ReadGridFile(Game& game, const std::string& path, int number) {
-    Puzzle puzzle;
+    FoundGrid grid;
     CloseFiles(game);
-    if (!ReportGridResult(game, ReadGridFrom(path, number, puzzle), path, number)) return false;
-    TakeImported(game, puzzle, path);
+    if (!ReportGridResult(game, ReadGridFrom(path, number, grid), path, number)) return false;
+    TakeImported(game, grid.puzzle, path);
     game.window.SetText(WindowText::Status, AndPlayNote(game, "Edited puzzle read"));
     return true;
 }

@@ -86,9 +86,9 @@ bool LoadNumberGrid(Game& game, NumberGrid& grid) {
     const std::string path = PickFile(game, GridRequest(game, "Select a grid file", FileRequest::Mode::Open));
     if (path.empty()) return false;
     const int number = AskForGrid(game, path).number;
-    Puzzle puzzle;
-    if (number == 0 || !ReportGridResult(game, ReadGridFrom(path, number, puzzle), path, number)) return false;
-    grid.Take(puzzle);
+    FoundGrid found;
+    if (number == 0 || !ReportGridResult(game, ReadGridFrom(path, number, found), path, number)) return false;
+    grid.Take(found.puzzle);
     return true;
 }
 

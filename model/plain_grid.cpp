@@ -2,7 +2,6 @@
 #include "model/plain_grid.h"
 
 #include "model/file_error.h"
-#include "model/grid_reader.h"
 #include "model/line_reader.h"
 #include "model/numbers.h"
 
@@ -48,16 +47,16 @@ std::string GridText(const Puzzle& puzzle, GridForm form) {
     return text;
 }
 
-GridResult ReadGridFrom(const std::string& path, int number, Puzzle& puzzle) {
+GridResult ReadGridFrom(const std::string& path, int number, FoundGrid& grid, const MayGoOn& mayGoOn) {
     try {
-        GridReader reader(path);
-        FoundGrid grid;
+        GridReader reader(path, GridReader::kWithoutEnd, mayGoOn);
+        FoundGrid found;
         if (number < 1) return GridResult::NotFound;
         for (int at = 0; at < number; ++at) {
-            if (!reader.Next(grid)) return GridResult::NotFound;
+            if (!reader.Next(found)) return GridResult::NotFound;
         }
-        if (!grid.fits) return GridResult::Failed;
-        puzzle = grid.puzzle;
+        if (!found.fits) return GridResult::Failed;
+        grid = found;
         return GridResult::Read;
     } catch (const FileError&) {
         return GridResult::Failed;

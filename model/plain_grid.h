@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "model/grid_reader.h"
+#include "model/may_go_on.h"
 #include "model/puzzle.h"
 
 namespace tidewalk {
@@ -28,10 +30,11 @@ std::string GridText(const Puzzle& puzzle, GridForm form);
 
 enum class GridResult { Read, NotFound, Failed };
 
-/// Reads grid `number`, from 1, of the file at `path` into `puzzle`: the forms are those of `GridReader`.
+/// Reads grid `number`, from 1, of the file at `path` into `grid`: the forms are those of `GridReader`. What follows it
+/// is not read.
 ///
-/// NotFound when the file has fewer grids, Failed when it cannot be read or no board can hold the grid; `puzzle` is
-/// then as it was.
-GridResult ReadGridFrom(const std::string& path, int number, Puzzle& puzzle);
+/// NotFound when the file has fewer grids or `mayGoOn` says no before it is found, Failed when it cannot be read or no
+/// board can hold the grid; `grid` is then as it was.
+GridResult ReadGridFrom(const std::string& path, int number, FoundGrid& grid, const MayGoOn& mayGoOn = WithoutEnd);
 
 }  // namespace tidewalk

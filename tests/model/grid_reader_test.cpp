@@ -10,6 +10,7 @@
 #include "model/grid_tally.h"
 #include "model/numbers.h"
 #include "model/plain_grid.h"
+#include "support/temp_folder.h"
 
 namespace tidewalk::test {
 namespace {
@@ -62,8 +63,9 @@ TEST(GridReader, ReadsAsEverWhatIsNoForm) {
 
 TEST(GridReader, FindsManyAndWhatIsNoPuzzleAmongThem) {
     const std::string ring = "2.2\n...\n2.2\n";
-    const Lines many = Grids(ring + "\n\n  \n\n" + "2 . 2\n. . .\n2 . 2\n3\n" + ring + "3x3\n" + ring);
-    EXPECT_EQ(many, (Lines{"1:2.2/.../2.2/", "8:2.2/.../2.2/", "11:2.2/.../2.2/", "15:2.2/.../2.2/"}));
+    const Lines many = Grids(ring + "3x3\n" + ring + "\n\n  \n\n" + "2 . 2\n. . .\n2 . 2\n3\n" + ring + "3x3\n" + ring);
+    EXPECT_EQ(many,
+              (Lines{"1:2.2/.../2.2/", "4:2.2/.../2.2/", "12:2.2/.../2.2/", "15:2.2/.../2.2/", "19:2.2/.../2.2/"}));
     const std::string wide = std::string(26, '1') + "\n1\n";
     GridTally tally;
     const std::string bad = "3x3\n2.2\n2.2\n";
@@ -71,6 +73,18 @@ TEST(GridReader, FindsManyAndWhatIsNoPuzzleAmongThem) {
               (Lines{"1:2.2/.../2.2/", "?5:3.3/2.2/2.2/", "8:2.2/.../2.2/", "?13:", "15:1.1/.../", "?19:.......7/",
                      "?21:1.9/"}));
     EXPECT_EQ(tally.Words(), "7 grids of 3x3 and 2x3, 4 not puzzles: lines 5, 13, 19 and 21");
+}
+
+TEST(GridReader, ReadsNoMoreOfAGridThatFitsNoBoardUntilItIsAskedForTheNext) {
+    const TempFolder folder;
+    int asked = 0;
+    const auto mayGoOn = [&asked] { return ++asked < 1000; };
+    GridReader reader(folder.Write("long.txt", Joined(Lines(2000, "1"))), GridReader::kWithoutEnd, mayGoOn);
+    FoundGrid grid;
+    EXPECT_TRUE(reader.Next(grid) && !grid.fits);
+    EXPECT_LT(asked, 100);
+    EXPECT_FALSE(reader.Next(grid));
+    EXPECT_EQ(asked, 1000) << "and then it can be stopped";
 }
 
 /// The first grid as grids were read before there were further forms; nothing when there is none.
@@ -99,26 +113,29 @@ Lines ReadAsEver(const Lines& lines) {
 /// What a text has to look like for another reading than ever.
 bool MayBeAForm(const Lines& lines) {
     const Lines block(lines.begin(), std::find(lines.begin(), lines.end(), ""));
-    bool spaced = Joined(block).find('.') != std::string::npos;
+    bool form = Joined(block).find('.') != std::string::npos;
     for (const std::string& row : block) {
         for (std::size_t i = 1; i < row.size(); i += 2)
-            spaced = spaced && row[i] == ' ';
+            form = form && row[i] == ' ';
     }
-    int sides[2] = {0, 0};
-    char between = ' ';
-    std::istringstream words(block[0]);
-    if (!(words >> sides[0])) return spaced;
-    if (words >> std::ws && words.peek() == 'x') words >> between;
-    if (!(words >> sides[1])) sides[1] = sides[0];
-    const auto fits = [&](int rows, int cols) {
-        bool all = static_cast<int>(block.size()) > rows;
-        for (int row = 1; all && row <= rows; ++row) {
-            const int columns = static_cast<int>(block[static_cast<std::size_t>(row)].size());
-            all = columns == cols || (columns + 1) / 2 == cols;
-        }
-        return all;
-    };
-    return spaced || fits(sides[0], sides[1]) || fits(sides[1], sides[0]);
+    for (std::size_t at = 0; at < block.size() && !form; ++at) {
+        int sides[2] = {0, 0};
+        char between = ' ';
+        std::istringstream words(block[at]);
+        if (!(words >> sides[0])) continue;
+        if (words >> std::ws && words.peek() == 'x') words >> between;
+        if (!(words >> sides[1])) sides[1] = sides[0];
+        const auto fits = [&](int rows, int cols) {
+            bool all = static_cast<int>(block.size() - at) > rows;
+            for (int row = 1; all && row <= rows; ++row) {
+                const int columns = static_cast<int>(block[at + static_cast<std::size_t>(row)].size());
+                all = columns == cols || (columns + 1) / 2 == cols;
+            }
+            return all;
+        };
+        form = fits(sides[0], sides[1]) || fits(sides[1], sides[0]);
+    }
+    return form;
 }
 
 TEST(GridReader, ReadsEveryOtherTextAsEver) {

@@ -110,11 +110,11 @@ std::string Lines(int count, const std::string& line) {
 /// The rows of grid `number` of a file that holds `bytes`; or in one row why there are none.
 Rows Read(const std::string& bytes, int number = 1) {
     const TempFolder folder;
-    Puzzle puzzle;
-    const GridResult result = ReadGridFrom(folder.Write("grid.txt", bytes), number, puzzle);
+    FoundGrid grid;
+    const GridResult result = ReadGridFrom(folder.Write("grid.txt", bytes), number, grid);
     if (result != GridResult::Read) return {result == GridResult::NotFound ? "not found" : "failed"};
-    EXPECT_EQ(puzzle.LinkCount(), 0);
-    return PlainGrid(puzzle);
+    EXPECT_EQ(grid.puzzle.LinkCount(), 0);
+    return PlainGrid(grid.puzzle);
 }
 
 TEST(PlainGrid, HoldsNumbersAloneAndIsReadBack) {
@@ -153,8 +153,8 @@ TEST(PlainGrid, IsRefusedWhenItFitsNoBoardOrIsCutShort) {
           std::string("#0302\n11\n22\n")})
         EXPECT_EQ(Read(bytes), Rows{"failed"}) << bytes;
     EXPECT_EQ(Read("\n1\n"), Rows{"not found"});
-    Puzzle puzzle;
-    EXPECT_EQ(ReadGridFrom("missing", 1, puzzle), GridResult::Failed);
+    FoundGrid grid;
+    EXPECT_EQ(ReadGridFrom("missing", 1, grid), GridResult::Failed);
 }
 
 }  // namespace
