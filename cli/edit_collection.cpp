@@ -127,6 +127,10 @@ void SayOfOtherGrids(Console& console, const ImportOptions& options, const std::
         Say(console, options.grid + ": " + first + tally.Words() + "; --grid takes another one, --all takes all");
 }
 
+void SayNoPuzzle(Console& console, const ImportOptions& options, const FoundGrid& grid, const std::string& more) {
+    Say(console, options.grid + ": line " + std::to_string(grid.line) + ": not a puzzle" + more);
+}
+
 /// Messages call the file at `path` by the name in the options.
 int ImportGrid(Console& console, const ImportOptions& options, const std::string& path) {
     const int number = options.number.value_or(1);
@@ -138,6 +142,7 @@ int ImportGrid(Console& console, const ImportOptions& options, const std::string
         if (!options.number) SayOfOtherGrids(console, options, path);
         return kFailed;
     }
+    if (!grid.isPuzzle) SayNoPuzzle(console, options, grid, ", taken as it is");
     const int code = AppendTo(console, options.target, grid.puzzle, options.json);
     if (!options.number) SayOfOtherGrids(console, options, path);
     return code;
@@ -152,7 +157,7 @@ int ImportAll(Console& console, const ImportOptions& options, const std::string&
         if (grid.isPuzzle) {
             output.Add(PuzzleRecord(grid.puzzle));
         } else {
-            Say(console, options.grid + ": line " + std::to_string(grid.line) + ": not a puzzle");
+            SayNoPuzzle(console, options, grid, "");
         }
     }
     output.Finish();
@@ -210,6 +215,10 @@ int ExportGrids(Console& console, const ExportOptions& options) {
 }
 
 int ImportGrids(Console& console, const ImportOptions& options) {
+    if (AreOneFile(options.grid, options.target)) {
+        Say(console, options.target + ": the puzzles must not go into the file of their grids");
+        return kFailed;
+    }
     const InputFile file(console, options.grid);
     if (console.Stopped()) return ExitCodeOf(console, 1);
     return options.all ? ImportAll(console, options, file.Path()) : ImportGrid(console, options, file.Path());

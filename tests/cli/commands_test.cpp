@@ -227,6 +227,7 @@ TEST_F(Cli, PuzzlesMoveBetweenFilesAsInTheWindow) {
     EXPECT_EQ(RunJson({"append", from, "1", to})["number"], 3);
     EXPECT_EQ(RunJson({"append", from, "1", "/dev/null"})["number"], nullptr) << "it has no lines";
     EXPECT_EQ(Run({"import", File("none.txt", {"..."}), to}), 1);
+    EXPECT_EQ(Run({"import", to, "./to.txt"}), 1) << "into itself";
     EXPECT_EQ(Run({"delete", to, "4"}), 1);
     EXPECT_EQ(RunJson({"delete", to, "1"})["left"], 2);
     EXPECT_EQ(Run({"delete", to, "1"}), 0);
@@ -255,6 +256,8 @@ TEST_F(Cli, GridsMoveInEveryFormAndManyAtATime) {
     EXPECT_EQ(err_, "tidewalk-cli: " + grids +
                         ": 3 grids of 3x3, one not a puzzle: line 9; --grid takes another one, --all takes all\n");
     EXPECT_EQ(Run({"import", grids, to, "--grid", "1", "--all"}), 2);
+    EXPECT_EQ(Run({"import", grids, to, "--grid", "3"}), 0);
+    EXPECT_EQ(err_, "tidewalk-cli: " + grids + ": line 9: not a puzzle, taken as it is\n");
 }
 
 TEST_F(Cli, ARecordThatIsCutShortIsToldFromAWrongOne) {
