@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "model/import_grid.h"
 
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 #include <string_view>
@@ -25,6 +26,8 @@ namespace {
 /// More are not offered in a list; nobody would find one there.
 constexpr std::size_t kMostToChooseFrom = 10'000;
 
+constexpr std::string_view kClipboardName = "Clipboard";
+
 /// The lines of `text`, whatever ends them. Empty ones at the end are no rows: nearly every copied text ends in one.
 std::vector<std::string> LinesOf(std::string_view text) {
     std::vector<std::string> lines;
@@ -40,13 +43,16 @@ std::vector<std::string> LinesOf(std::string_view text) {
     return lines;
 }
 
-/// True when a puzzle is among the grids of the text.
+/// True when the text begins with a puzzle, or has one with at least 7 rows and columns further on. A smaller one there
+/// may be no more than a number that stands alone in a letter.
 bool HasPuzzle(const std::string& text) {
+    constexpr int kLeastSide = 7;
     std::stringbuf source(text);
-    GridReader reader(source, "the clipboard", kGlance);
+    GridReader reader(source, std::string(kClipboardName), kGlance);
     FoundGrid grid;
-    while (reader.Next(grid)) {
-        if (grid.isPuzzle) return true;
+    for (bool isFirst = true; reader.Next(grid); isFirst = false) {
+        const BoardSize size = grid.puzzle.Size();
+        if (grid.isPuzzle && (isFirst || std::min(size.rows, size.cols) >= kLeastSide)) return true;
     }
     return false;
 }
@@ -88,7 +94,7 @@ bool ReadGridFile(Game& game, const std::string& path, int number) {
     return true;
 }
 
-GridWish AskForGrid(Game& game, const std::string& path) {
+GridWish AskForGrid(Game& game, const std::string& path, const std::string& name) {
     GridChoice choice;
     GridTally tally;
     bool more = true;
@@ -106,7 +112,7 @@ GridWish AskForGrid(Game& game, const std::string& path) {
     if (tally.Grids() < 2) return {};
     const std::string words = (more ? "the first " : "") + tally.Words();
     if (tally.Puzzles() == 0 || (tally.Puzzles() == 1 && choice.grids.front().isPuzzle)) return {1, ": " + words};
-    choice.caption = FileNameOf(path) + ": " + words;
+    choice.caption = name + ": " + words;
     const int number = game.questions.ChooseGrid(choice);
     return {number, ", grid" + Str(number) + ": " + words};
 }
@@ -116,7 +122,7 @@ void mnuimport_Click(Game& game) {
     const std::string path =
         PickFile(game, {"Select a grid file", "*.txt", "Tide Files", game.AppFolder, FileRequest::Mode::Open});
     if (path.empty()) return;
-    const GridWish wish = AskForGrid(game, path);
+    const GridWish wish = AskForGrid(game, path, FileNameOf(path));
     if (wish.number == 0) return;
     ReadGridFile(game, path, wish.number);
     game.window.SetText(WindowText::Status, AndPlayNote(game, "File " + FileNameOf(path) + " imported" + wish.words));
@@ -131,7 +137,7 @@ void mnupastepuzzle_Click(Game& game) {
         game.window.SetText(WindowText::Status, "Error importing puzzle");
         return;
     }
-    const GridWish wish = AskForGrid(game, workFile);
+    const GridWish wish = AskForGrid(game, workFile, std::string(kClipboardName));
     if (wish.number == 0) return;
     // The reader has said so itself if it does not take the grid.
     ReadGridFile(game, workFile, wish.number);

@@ -24,9 +24,10 @@ struct GridWish {
     std::string words;  ///< "" for a file with one grid, which nobody was asked about
 };
 
-/// Asks which grid of the file at `path` is meant, unless the first is the only one that may be a puzzle. A file that
-/// cannot be read has a first grid, too: whoever reads that says why it is none.
-GridWish AskForGrid(Game& game, const std::string& path);
+/// Asks which grid of the file at `path` is meant, unless the first is the only one that may be a puzzle. The player is
+/// told that they are those of `name`. A file that cannot be read has a first grid, too: whoever reads that says why it
+/// is none.
+GridWish AskForGrid(Game& game, const std::string& path, const std::string& name);
 
 /// The menu's "Import": asks for a file, which of its grids where there are several, and reads that.
 void mnuimport_Click(Game& game);

@@ -85,7 +85,7 @@ void NumberGrid::Take(const Puzzle& puzzle) {
 bool LoadNumberGrid(Game& game, NumberGrid& grid) {
     const std::string path = PickFile(game, GridRequest(game, "Select a grid file", FileRequest::Mode::Open));
     if (path.empty()) return false;
-    const int number = AskForGrid(game, path).number;
+    const int number = AskForGrid(game, path, FileNameOf(path)).number;
     FoundGrid found;
     if (number == 0 || !ReportGridResult(game, ReadGridFrom(path, number, found), path, number)) return false;
     grid.Take(found.puzzle);

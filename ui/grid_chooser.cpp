@@ -32,11 +32,6 @@ int GridListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(grids_.size());
 }
 
-Qt::ItemFlags GridListModel::flags(const QModelIndex& index) const {
-    const bool fits = index.isValid() && grids_[static_cast<std::size_t>(index.row())].fits;
-    return fits ? QAbstractListModel::flags(index) : Qt::NoItemFlags;
-}
-
 QVariant GridListModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const FoundGrid& grid = grids_[static_cast<std::size_t>(index.row())];
@@ -69,6 +64,7 @@ QPixmap GridListModel::Picture(int row) const {
 
 GridChooser::GridChooser(const GridChoice& choice, const Options& options, QWidget* parent)
     : QDialog(parent),
+      grids_(choice.grids),
       model_(choice.grids, options, kPictureLines * fontMetrics().lineSpacing(), devicePixelRatioF()),
       list_(new QListView) {
     setObjectName("Grids");
@@ -117,6 +113,9 @@ void GridChooser::AddButtons(QVBoxLayout& column) {
     const auto take = [this] {
         if (Chosen() > 0) accept();
     };
+    const auto allow = [this, open] { open->setEnabled(Chosen() > 0); };
+    allow();
+    connect(list_->selectionModel(), &QItemSelectionModel::currentChanged, this, allow);
     connect(open, &QPushButton::clicked, this, take);
     connect(list_, &QListView::doubleClicked, this, take);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
@@ -124,7 +123,7 @@ void GridChooser::AddButtons(QVBoxLayout& column) {
 
 int GridChooser::Chosen() const {
     const QModelIndex current = list_->currentIndex();
-    return model_.flags(current) == Qt::NoItemFlags ? 0 : current.row() + 1;
+    return current.isValid() && grids_[static_cast<std::size_t>(current.row())].fits ? current.row() + 1 : 0;
 }
 
 }  // namespace tidewalk

@@ -25,7 +25,6 @@ class GridListModel final : public QAbstractListModel {
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
-    Qt::ItemFlags flags(const QModelIndex& index) const override;
 
  private:
     QPixmap Picture(int row) const;
@@ -37,7 +36,7 @@ class GridListModel final : public QAbstractListModel {
     mutable QCache<int, QPixmap> pictures_;
 };
 
-/// A list of the grids; those that no board can hold cannot be chosen.
+/// A list of the grids; those that no board can hold can be looked at, but not opened.
 class GridChooser final : public QDialog {
     Q_OBJECT
 
@@ -45,13 +44,14 @@ class GridChooser final : public QDialog {
     /// `choice` has to live as long.
     GridChooser(const GridChoice& choice, const Options& options, QWidget* parent);
 
-    /// The number of the grid that is chosen, from 1; 0 for none.
+    /// The number of the grid that is chosen, from 1; 0 for none, and for one that no board can hold.
     int Chosen() const;
 
  private:
     void ShowList(int side);
     void AddButtons(QVBoxLayout& column);
 
+    const std::vector<FoundGrid>& grids_;
     GridListModel model_;
     QListView* list_;
 };

@@ -335,6 +335,9 @@ TEST(Paste, TakesEveryFormAndWhatWasCopiedAsText) {
     EXPECT_EQ(pasted("25x25\n" + Joined(spaced)), Lines(25, ".2" + std::string(23, '.')));
     game.world.chosen = 30;
     EXPECT_EQ(pasted(Joined(Lines(29, "1.1\n")) + "2.2"), Lines{"2.2"}) << "the last of many";
+    const std::string heading = "The puzzles of this evening\n\n";
+    game.world.chosen = 2;
+    EXPECT_EQ(pasted(heading + "7x7\n" + Joined(Lines(7, "1.....1"))), Lines(7, "1.....1"));
 }
 
 TEST(Paste, TakesLinesOfBothEndsAndPassesOverEmptyOnesAtTheEnd) {
@@ -355,8 +358,9 @@ TEST(Paste, TakesLinesOfBothEndsAndPassesOverEmptyOnesAtTheEnd) {
 
 TEST(Paste, RefusesWhatFitsNoBoard) {
     LoadedGame game({kSmallPuzzle});
-    for (const std::string& text : {std::string("  "), std::string("\r\n\r\n"), Joined(Lines(26, "1")),
-                                    std::string(26, '1') + "\n1\n", std::string("\n1\n"), std::string("1.1")}) {
+    for (const std::string& text :
+         {std::string("  "), std::string("\r\n\r\n"), Joined(Lines(26, "1")), std::string(26, '1') + "\n1\n",
+          std::string("\n1\n"), std::string("A letter is no grid at all:\n\n1.\n\n2.\n"), std::string("1.1")}) {
         if (text == "1.1") std::filesystem::create_directory("tempin.txt");
         game.world.clipboard = text;
         game.Run(mnupastepuzzle_Click);
