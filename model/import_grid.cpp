@@ -145,6 +145,7 @@ void mnupastepuzzle_Click(Game& game) {
 }
 
 void mnucopytext_Click(Game& game) {
+    if (RefuseWhileBusy(game)) return;
     std::string text;
     for (const std::string& row : PlainGrid(game.board.puzzle))
         text += row + "\n";

@@ -58,7 +58,8 @@ const std::vector<Command> kRefuse =
     Commands<mnuloadpuz_Click, cmdload_Click, mnuchoose_Click, mnuappend_Click, mnuexport_Click, mnuimport_Click,
              mnupastepuzzle_Click, Command3_Click, Command4_Click, Command5_Click, mnucreatemany_Click, cmdnew1_Click,
              mnunewpuzx_Click, mnuautosol_Click, mnusolutions_Click, mnupuzreset_Click, mnuprintcurrent_Click,
-             mnuprintpreview_Click, control27_Click, mnusavepuzpicture_Click, mnusavesolpicture_Click>(
+             mnuprintpreview_Click, control27_Click, mnusavepuzpicture_Click, mnusavesolpicture_Click,
+             mnucopytext_Click>(
         {Do<arrows_Click, 0, kLeft>, Do<arrows_Click, 1, kLeft>,
          [](TestGame& game) { game.Run(OpenChosen, game.PathOfCollection()); },
          [](TestGame& game) { game.Run(OpenRecent, game.PathOfCollection()); },
