@@ -10,6 +10,7 @@
 #include "game/pick_file.h"
 #include "model/load_puzzle.h"
 #include "model/numbers.h"
+#include "model/paths.h"
 
 namespace tidewalk {
 
@@ -58,21 +59,30 @@ bool EndsAsOneOf(const std::string& name, const std::string& patterns) {
     return false;
 }
 
-/// Asks for the name of a file to write, with the usual ending if it has none of those in `patterns`. "" when the
+/// Asks for the name of a file to write, with the usual ending if it has none of those in the patterns. "" when the
 /// player thinks better of it, or of overwriting a file.
-std::string AskFileName(Game& game, const std::string& title, const std::string& patterns,
-                        const std::string& patternName, const std::string& ending) {
-    std::string path = PickFile(game, {title, patterns, patternName, game.AppFolder, FileRequest::Mode::Save, ending});
+std::string AskFileName(Game& game, const FileRequest& request) {
+    std::string path = PickFile(game, request);
     if (path.empty()) return path;
-    if (!EndsAsOneOf(path, patterns)) path += "." + ending;
+    if (!EndsAsOneOf(path, request.patterns)) path += "." + request.ending;
     return ConfirmOverwrite(game, path) ? path : "";
+}
+
+/// What a picture of the puzzle on the board may be called: "puzzles-12.png", "puzzles-12-solution.png".
+std::string PictureName(const Game& game, RenderMode mode) {
+    const Collection& collection = game.collection;
+    const std::string file = FileNameOf(collection.CollectionPath);
+    const std::string puzzle = file.substr(0, file.rfind('.')) + "-" + NumText(collection.PuzzleNumber);
+    return (collection.importedFrom.empty() ? puzzle : "imported") +
+           (mode == RenderMode::Solution ? "-solution.png" : ".png");
 }
 
 void SavePicture(Game& game, RenderMode mode) {
     if (RefuseWhileBusy(game)) return;
     const PuzzlePicture picture = CurrentPicture(game, mode);
     const std::string path =
-        AskFileName(game, "Save Picture As", "*.png;*.svg;*.pdf", "PNG, SVG and PDF Pictures", "png");
+        AskFileName(game, {"Save Picture As", "*.png;*.svg;*.pdf", "PNG, SVG and PDF Pictures", game.AppFolder,
+                           FileRequest::Mode::Save, "png", PictureName(game, mode)});
     if (path.empty()) return;
     const std::string error = game.printers.SavePicture(path, picture);
     if (error.empty()) {
@@ -88,7 +98,8 @@ std::unique_ptr<PrintDocument> BeginDocument(Game& game) {
     DocumentSetup setup;
     setup.printer = CurrentPrinter(game);
     if (setup.printer == kPdfPrinter) {
-        setup.file = AskFileName(game, "Print to a PDF file", "*.pdf", "PDF Files", "pdf");
+        setup.file = AskFileName(
+            game, {"Print to a PDF file", "*.pdf", "PDF Files", game.AppFolder, FileRequest::Mode::Save, "pdf"});
         if (setup.file.empty()) return nullptr;
     }
     std::string error;

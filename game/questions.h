@@ -20,6 +20,7 @@ struct FileRequest {
     std::string startFolder;
     Mode mode = Mode::Open;
     std::string ending = {};  ///< what the picker gives a name to save that has none: "txt"
+    std::string name = {};    ///< the name that stands there at first, without a folder
 };
 
 /// Asks for a file name.

@@ -26,6 +26,7 @@ std::string QtFilePicker::Pick(const FileRequest& request) {
     dialog.setDefaultSuffix(QString::fromStdString(request.ending));
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setOption(QFileDialog::DontUseNativeDialog, QGuiApplication::platformName() == "offscreen");
+    if (!request.name.empty()) dialog.selectFile(QFile::decodeName(request.name.c_str()));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return "";
     return QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString();
 }

@@ -81,6 +81,7 @@ TEST_F(Printing, APictureIsSavedUnderTheNameThatIsChosen) {
         game.world.ExpectPick("Save Picture As|*.png;*.svg;*.pdf|PNG, SVG and PDF Pictures|save", chosen);
         if (*chosen != '\0') game.world.Expect("Picture saved to file:\r\n" + std::string(written), kInformation);
         game.Run(*chosen == '\0' ? mnusavepuzpicture_Click : mnusavesolpicture_Click);
+        EXPECT_EQ(game.world.suggested, *chosen == '\0' ? "collection-2.png" : "collection-2-solution.png");
         EXPECT_EQ(game.world.savedTo, written);
     }
     EXPECT_EQ(Copied(), "print 400 200 Solution#" + file + " 0|11|15|6");

@@ -59,6 +59,7 @@ std::string World::Pick(const FileRequest& request) {
     Note("pick");
     EXPECT_EQ(request.startFolder, game->AppFolder);
     EXPECT_NE(request.patterns.find("*." + request.ending), std::string::npos) << "the ending that a name gets";
+    suggested = request.name;
     // A file dialog may do that.
     std::filesystem::current_path("/");
     const char* const mode = request.mode == FileRequest::Mode::Open ? "open" : "save";

@@ -69,6 +69,7 @@ class World final : public Prompts,
         return Show(text, buttons == SystemButtons::Ok ? "system ok" : "system yesno");
     }
     std::string Pick(const FileRequest& request) override;
+    std::string suggested;  ///< the name that the last file was asked for with
     bool AskBatch(BatchRequest& request) override { return Note("batch?"), std::exchange(batch, nullptr)(request); }
     void ShowSolutions(const FoundSolutions& found) override { Note("solutions"), solutions = found; }
     int ChoosePuzzle() override { return Note("puzzle?"), chosen; }

@@ -297,6 +297,11 @@ TEST(Output, PuzzlesArePreviewedAndPrintedFromTheWindow) {
     window.Expect("Printed 1 puzzles from file:\r\n" + window.game.collection.CollectionPath);
     window.Trigger("control27");
     EXPECT_EQ(PagesOf("a.pdf"), 1);
+    window.Expect("file: Save Picture As", [](QDialog& files) {
+        EXPECT_EQ(Get(files, "fileNameEdit"), "collection-1-solution.png");
+        files.reject();
+    });
+    window.Trigger("mnusavesolpicture");
 }
 
 }  // namespace
