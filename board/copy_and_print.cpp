@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "board/copy_and_print.h"
 
-#include <algorithm>
-#include <sstream>
-
+#include "board/print_document.h"
 #include "board/print_pages.h"
 #include "drawing/render_puzzle.h"
 #include "game/job.h"
@@ -39,35 +37,6 @@ PuzzlePage CurrentPage(const Game& game) {
     return {game.board.puzzle, TitleOf(game, "Puzzle#")};
 }
 
-/// The printer for the next document: the last choice as long as it is there, else the system's.
-std::string CurrentPrinter(Game& game) {
-    const std::vector<std::string> names = game.printers.Names();
-    if (std::find(names.begin(), names.end(), game.printerName) != names.end()) return game.printerName;
-    return names.empty() ? "" : names.front();
-}
-
-void ShowPrintError(Game& game, const std::string& reason) {
-    game.prompts.SystemBox("Printing failed:\r\n" + reason, SystemButtons::Ok);
-}
-
-/// True when the name ends as one of the patterns does: ".svg" for "*.png;*.svg".
-bool EndsAsOneOf(const std::string& name, const std::string& patterns) {
-    std::istringstream endings(patterns);
-    for (std::string pattern; std::getline(endings, pattern, ';');) {
-        if (LowerCase(name).ends_with(pattern.substr(1))) return true;
-    }
-    return false;
-}
-
-/// Asks for the name of a file to write, with the usual ending if it has none of those in the patterns. "" when the
-/// player thinks better of it, or of overwriting a file.
-std::string AskFileName(Game& game, const FileRequest& request) {
-    std::string path = PickFile(game, request);
-    if (path.empty()) return path;
-    if (!EndsAsOneOf(path, request.patterns)) path += "." + request.ending;
-    return ConfirmOverwrite(game, path) ? path : "";
-}
-
 /// What a picture of the puzzle on the board may be called: "puzzles-12.png", "puzzles-12-solution.png".
 std::string PictureName(const Game& game, RenderMode mode) {
     const Collection& collection = game.collection;
@@ -97,11 +66,9 @@ void SavePicture(Game& game, RenderMode mode) {
 std::unique_ptr<PrintDocument> BeginDocument(Game& game) {
     DocumentSetup setup;
     setup.printer = CurrentPrinter(game);
-    if (setup.printer == kPdfPrinter) {
-        setup.file = AskFileName(
-            game, {"Print to a PDF file", "*.pdf", "PDF Files", game.AppFolder, FileRequest::Mode::Save, "pdf"});
-        if (setup.file.empty()) return nullptr;
-    }
+    const auto file = AskDocumentFile(game, setup.printer);
+    if (!file) return nullptr;
+    setup.file = *file;
     std::string error;
     auto document = game.printers.Begin(setup, error);
     if (!document) ShowPrintError(game, error);

@@ -25,6 +25,7 @@ PrintEnd PrintPages(PrintDocument& document, int pages, const DrawNumbered& draw
         if (number > 0 && !document.NewPage()) return PrintEnd::Failed;
         draw(number, document.Page(), document.PageSheet());
     }
+    if (!mayGoOn()) return PrintEnd::Cancelled;
     return document.End() ? PrintEnd::Printed : PrintEnd::Failed;
 }
 

@@ -31,7 +31,8 @@ enum class PrintEnd { Printed, Cancelled, Failed };
 /// Draws page `number`, counted from 0; a page on which nothing is drawn stays empty.
 using DrawNumbered = std::function<void(int number, Surface& page, const Sheet& sheet)>;
 
-/// Draws so many pages and ends the document. `mayGoOn` is asked before each. After `Failed` the document tells why.
+/// Draws so many pages and ends the document. `mayGoOn` is asked before each, and before the end. After `Failed` the
+/// document tells why.
 PrintEnd PrintPages(PrintDocument& document, int pages, const DrawNumbered& draw, const MayGoOn& mayGoOn);
 
 /// The page of puzzle `number` of the collection; nothing when it cannot be read.
