@@ -79,6 +79,7 @@ tidewalk_layer(game ON board booklet generator FILES
 tidewalk_layer(commands ON game FILES
     board/after_move board/board_commands board/board_keys board/board_mouse board/copy_and_print board/keep_play
     board/magnify board/print_document board/print_pages board/show_board
+    booklet/booklet_choices booklet/print_booklet
     generator/batch generator/new_puzzle generator/shuffle
     model/collection_commands model/configuration model/import_grid model/load_puzzle model/navigation
     model/number_grid

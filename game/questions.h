@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The seams of what is asked or shown in windows of its own: a file, a batch, a range to print, solutions.
+// The seams of what is asked or shown in windows of its own: a file, a batch, a range to print, a booklet, solutions.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "booklet/booklet_contents.h"
+#include "drawing/sheet.h"
 #include "game/order_choices.h"
 #include "model/grid_reader.h"
 
@@ -51,6 +54,26 @@ struct PrintRequest {
     std::string printer;                ///< the chosen one
 };
 
+/// What is known of the puzzles of a booklet.
+struct KnownPuzzles {
+    BookletContents contents;
+    bool graded = false;  ///< grades were looked for, too
+};
+
+/// Puzzles of a collection to make a booklet of, and what it is to be.
+struct BookletRequest {
+    std::string collection;
+    std::string first;  ///< the first puzzle, as typed
+    std::string last;
+    int puzzleCount = 0;                ///< in the collection, as last counted
+    std::vector<std::string> printers;  ///< to choose from
+    std::string printer;                ///< the chosen one
+    SheetFormat format;
+    BookletDesign design;
+    /// What the window has found out about just these puzzles, so that nobody has to do so again. Nothing at first.
+    std::shared_ptr<const KnownPuzzles> known;
+};
+
 /// Two islands between which two solutions have different bridges.
 struct Difference {
     CellNumber a = 0;
@@ -82,6 +105,9 @@ class Questions {
 
     /// Asks for puzzles to print, beginning with `request`. True when OK was accepted.
     virtual bool AskPrint(PrintRequest& request) = 0;
+
+    /// Asks for a booklet, beginning with `request`. True when Print was accepted.
+    virtual bool AskBooklet(BookletRequest& request) = 0;
 
     /// Asks for a puzzle of the open collection. Its number; 0 when the player thinks better of it.
     virtual int ChoosePuzzle() = 0;

@@ -7,6 +7,7 @@
 #include "board/board_commands.h"
 #include "board/copy_and_print.h"
 #include "board/magnify.h"
+#include "booklet/print_booklet.h"
 #include "game/recent_files.h"
 #include "generator/batch.h"
 #include "generator/new_puzzle.h"
@@ -434,6 +435,11 @@ std::vector<Command> PrintCommands() {
          .text = "Print Puzzles &From File ...",
          .icon = "print",
          .handler = Do<control27_Click>},
+        {.menu = kMenu,
+         .name = "mnuprintbooklet",
+         .text = "Print &Booklet ...",
+         .icon = "booklet",
+         .handler = Do<mnuprintbooklet_Click>},
         {.menu = kMenu, .name = "dash10", .text = "-"},
         {.menu = kMenu,
          .name = "mnucopyclippuz",

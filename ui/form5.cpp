@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "board/copy_and_print.h"
+#include "ui/controls.h"
 #include "ui/file_name.h"
 #include "ui/fit_on_screen.h"
 
@@ -15,20 +16,6 @@ namespace {
 
 constexpr int kPathWidth = 380;   ///< in pixels
 constexpr int kNumberWidth = 80;  ///< in pixels
-
-template <class Widget>
-Widget* Named(Widget* widget, const char* name, const QString& accessible) {
-    widget->setObjectName(name);
-    widget->setAccessibleName(accessible);
-    return widget;
-}
-
-/// A label whose mnemonic leads to the control.
-QLabel* LabelFor(const QString& text, QWidget* control) {
-    auto* const label = new QLabel(text);
-    label->setBuddy(control);
-    return label;
-}
 
 }  // namespace
 

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <optional>
 
+#include "ui/booklet_form.h"
 #include "ui/chooser.h"
 #include "ui/form3.h"
 #include "ui/form5.h"
@@ -25,6 +26,9 @@ class QtQuestions final : public Questions {
     }
     bool AskPrint(PrintRequest& request) override {
         return Form5(handlers_, request, &mainWindow_).exec() == QDialog::Accepted;
+    }
+    bool AskBooklet(BookletRequest& request) override {
+        return BookletForm(handlers_, request, &mainWindow_).exec() == QDialog::Accepted;
     }
     int ChoosePuzzle() override {
         Chooser chooser(*handlers_.game(), plays_.States(), &mainWindow_);

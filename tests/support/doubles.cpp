@@ -20,7 +20,7 @@ std::string OverlayOf(const Board& board) {
 World::~World() {
     for (const Question& missing : expected_)
         ADD_FAILURE() << "never asked: " << missing.text;
-    EXPECT_FALSE(batch || print) << "never asked for a batch or what to print";
+    EXPECT_FALSE(batch || print || booklet) << "never asked for a batch or what to print";
 }
 
 void World::Expect(const std::string& text, const std::string& style, int answer) {

@@ -77,6 +77,10 @@ class World final : public Prompts,
     int chosen = 0;
     bool AskPrint(PrintRequest& request) override { return Note("print?"), std::exchange(print, nullptr)(request); }
 
+    bool AskBooklet(BookletRequest& request) override {
+        return Note("booklet?"), std::exchange(booklet, nullptr)(request);
+    }
+
     std::string Text(WindowText which) const override { return texts.count(which) == 0 ? "" : texts.at(which); }
     void SetText(WindowText which, const std::string& text) override;
     void SetToolTip(WindowText which, const std::string& text) override { toolTips[which] = text; }
@@ -145,8 +149,9 @@ class World final : public Prompts,
     const Game* game = nullptr;  ///< the game that this is the world of
     void Note(const std::string& entry) { log_.push_back(entry); }
 
-    std::function<bool(BatchRequest&)> batch;  ///< answers the next question for a batch
-    std::function<bool(PrintRequest&)> print;  ///< answers the next question for puzzles to print
+    std::function<bool(BatchRequest&)> batch;      ///< answers the next question for a batch
+    std::function<bool(PrintRequest&)> print;      ///< answers the next question for puzzles to print
+    std::function<bool(BookletRequest&)> booklet;  ///< answers the next question for a booklet
 
     FoundSolutions solutions;  ///< that were shown last
 

@@ -92,6 +92,7 @@ TEST(Window, EveryCommandDoesWhatItIsNamedAfter) {
         "cmdverify=status Not done yet|cmdundo=moves 0|cmdredo=moves 2|"
         "mnucheckpoint=status Checkpoint set|mnubacktocheckpoint=moves 0|mnulines=status Lines hidden|can2=selected 0|"
         "mnuprintcurrent=Print Current Puzzle and its Solution?|mnuprintpreview=PrintPreview|control27=Form5|"
+        "mnuprintbooklet=Booklet|"
         "mnucopyclippuz=status Puzzle copied to clipboard|mnucopyclipsol=status Solution copied to clipboard|"
         "mnucopytext=status Puzzle copied as text|"
         "mnusavepuzpicture=file: Save Picture As|mnusavesolpicture=file: Save Picture As|"
@@ -183,6 +184,7 @@ TEST(Window, EveryMenuAndWindowCanBeUsedWithAltAndALetter) {
     for (const auto& [command, dialog] : {std::pair{"mnuoptset", "Form2"},
                                           {"mnucreatemany", "Form3"},
                                           {"control27", "Form5"},
+                                          {"mnuprintbooklet", "Booklet"},
                                           {"mnueditor", "Form6"},
                                           {"mnuabout", "About"},
                                           {"mnusolutions", "Solutions"},
@@ -364,15 +366,11 @@ TEST(Window, ANewPuzzleIsOrderedAtItsButton) {
 
 TEST(Window, ClosingStopsAJobAndLeavesWhateverIsOpen) {
     const std::vector<std::pair<const char*, const char*>> cases{
-        {"mnuloadpuz", "file: Tidewalk"},
-        {"Command5", "system: collection-noduprandom.txt randomized"},
-        {"mnuoptset", "Form2"},
-        {"mnucreatemany", "Form3"},
-        {"control27", "Form5"},
-        {"mnueditor", "Form6"},
-        {"mnuabout", "About"},
-        {"mnusolutions", "Solutions"},
-        {"mnuprintpreview", "PrintPreview"}};
+        {"mnuloadpuz", "file: Tidewalk"}, {"Command5", "system: collection-noduprandom.txt randomized"},
+        {"mnuoptset", "Form2"},           {"mnucreatemany", "Form3"},
+        {"control27", "Form5"},           {"mnuprintbooklet", "Booklet"},
+        {"mnueditor", "Form6"},           {"mnuabout", "About"},
+        {"mnusolutions", "Solutions"},    {"mnuprintpreview", "PrintPreview"}};
     for (const auto& [command, dialog] : cases) {
         WindowGame window;
         window.game.collection.CollectionPath = "collection.tdw";

@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: MIT
+#include "booklet/print_booklet.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "board/print_document.h"
+#include "board/print_pages.h"
+#include "booklet/booklet_choices.h"
+#include "game/job.h"
+#include "game/pick_file.h"
+#include "model/load_puzzle.h"
+#include "model/numbers.h"
+#include "model/paths.h"
+
+namespace tidewalk {
+
+namespace {
+
+/// "1 page", "36 pages".
+std::string Counted(std::size_t count, const std::string& what) {
+    return std::to_string(count) + " " + what + (count == 1 ? "" : "s");
+}
+
+/// Shows how far a part of the job is and lets events happen; false when the job is to stop.
+class ShownSteps {
+ public:
+    ShownSteps(Game& game, Job& job, std::string what, std::size_t total)
+        : game_(game), job_(job), what_(std::move(what)), total_(static_cast<int>(total)) {}
+
+    bool operator()(int done) {
+        if (!game_.job.MustStop() && game_.job.PollIsDue(game_.clock.Milliseconds())) {
+            game_.window.SetText(WindowText::Status, what_ + Str(done + 1) + " of" + Str(total_));
+            game_.window.SetProgress(done, total_);
+            LetEventsThrough(game_);
+            // The booklet has nothing to do with the board: another puzzle may be loaded without harm.
+            job_.Adopt();
+        }
+        return !game_.job.MustStop();
+    }
+
+ private:
+    Game& game_;
+    Job& job_;
+    std::string what_;
+    int total_;
+};
+
+/// What the window has found out, or what comes of reading the puzzles now; nothing when the job is to stop.
+std::optional<BookletContents> ContentsOf(Game& game, Job& job, const BookletRequest& request) {
+    const bool graded = request.design.NeedsGrades();
+    if (request.known && (request.known->graded || !graded)) return request.known->contents;
+    const PuzzleRange range = RangeOf(request);
+    ShownSteps step(game, job, "Reading puzzle", static_cast<std::size_t>(range.last - range.first + 1));
+    return ReadBookletContents(request.collection, range, graded, step);
+}
+
+DocumentSetup SetupOf(const BookletRequest& request, const std::string& file, const Booklet& booklet) {
+    const std::string& title = request.design.title;
+    DocumentSetup setup;
+    setup.printer = request.printer;
+    setup.file = file;
+    setup.format = request.format;
+    setup.title = title.empty() ? FileNameOf(request.collection) : title;
+    setup.author = request.design.author;
+    setup.subject = "Bridges: " + booklet.Contents();
+    setup.keywords = "bridges, puzzles";
+    return setup;
+}
+
+/// "5, 9 and 12 others": so many of the numbers as one reads.
+std::string SomeOf(const std::vector<int>& numbers) {
+    constexpr std::size_t kMostNamed = 8;
+    const std::size_t named = std::min(numbers.size(), kMostNamed);
+    const std::size_t others = numbers.size() - named;
+    std::string text;
+    for (std::size_t i = 0; i < named; ++i)
+        text += (i == 0 ? "" : i + 1 == named && others == 0 ? " and " : ", ") + NumText(numbers[i]);
+    return others == 0 ? text : text + " and " + Counted(others, "other");
+}
+
+/// What the player is to know of the puzzles that were asked for and are not in the booklet as one may expect.
+std::string Shortcomings(const BookletContents& contents, const BookletDesign& design) {
+    std::string text;
+    const auto add = [&text](const std::string& words, const std::vector<int>& numbers) {
+        if (!numbers.empty()) text += "\r\n\r\n" + words + SomeOf(numbers);
+    };
+    std::vector<int> unsolved;
+    for (const BookletEntry& entry : contents.entries) {
+        if (!entry.solved) unsolved.push_back(entry.number);
+    }
+    add("Lines that are no puzzles and were left out: ", contents.unreadable);
+    if (design.solutions != BookletDesign::Solutions::None) add("Puzzles without a solution: ", unsolved);
+    return text;
+}
+
+/// What came of a booklet.
+struct BookletEnd {
+    PrintEnd end = PrintEnd::Failed;
+    std::string text = {};  ///< what the player is told of it
+};
+
+BookletEnd PrintPagesOf(Game& game, Job& job, const Booklet& booklet, const std::string& collection,
+                        PrintDocument& document) {
+    LineIndex lines;
+    ShownSteps step(game, job, "Printing page", booklet.Pages().size());
+    int current = 0;
+    const auto mayGoOn = [&] { return step(current); };
+    const auto puzzle = [&](int number) {
+        return mayGoOn() ? ReadSolvedPuzzle(lines, collection, number) : std::nullopt;
+    };
+    const auto draw = [&](int page, Surface& surface, const Sheet&) {
+        current = page;
+        booklet.DrawPage(page, surface, puzzle);
+    };
+    const PrintEnd end = PrintPages(document, static_cast<int>(booklet.Pages().size()), draw, mayGoOn);
+    return {end, end == PrintEnd::Failed ? document.Error() : ""};
+}
+
+/// A document that does not come to its end is gone when this returns.
+BookletEnd Print(Game& game, Job& job, const BookletRequest& request, const std::string& file) {
+    CloseFiles(game);
+    const auto contents = ContentsOf(game, job, request);
+    if (!contents) return {PrintEnd::Cancelled};
+    const Booklet booklet = MakeBooklet(request, *contents, game.printers.SheetOf(request.printer, request.format));
+    if (const std::string reason = WhyNoPages(booklet); !reason.empty()) return {PrintEnd::Failed, reason};
+    std::string error;
+    const auto document = game.printers.Begin(SetupOf(request, file, booklet), error);
+    if (!document) return {PrintEnd::Failed, error};
+    BookletEnd end = PrintPagesOf(game, job, booklet, request.collection, *document);
+    if (end.end != PrintEnd::Printed) return end;
+    const std::string where = file.empty() ? "on:\r\n" + request.printer : "to file:\r\n" + file;
+    end.text = "Printed " + Counted(booklet.Entries().size(), "puzzle") + " on " +
+               Counted(booklet.Pages().size(), "page") + " " + where + Shortcomings(*contents, request.design);
+    return end;
+}
+
+void ShowEnd(Game& game, const BookletEnd& end) {
+    game.window.SetText(WindowText::Status, end.end == PrintEnd::Cancelled ? "Printing cancelled" : "");
+    if (end.end == PrintEnd::Printed) game.prompts.Show(end.text, "vbinformation+vbok");
+    if (end.end == PrintEnd::Failed) ShowPrintError(game, end.text);
+}
+
+void PrintBooklet(Game& game, const BookletRequest& request) {
+    const auto file = AskDocumentFile(game, request.printer);
+    if (!file) return;
+    BookletEnd end;
+    {
+        const BusyPointer busy(game);
+        Job job(game, "Printing");
+        end = Print(game, job, request, *file);
+    }
+    game.job.TakeBackCancel();
+    if (!game.job.Ending()) ShowEnd(game, end);
+}
+
+std::string NoPuzzlesText(const std::string& path) {
+    return "No puzzles in this file: " + path;
+}
+
+}  // namespace
+
+void mnuprintbooklet_Click(Game& game) {
+    if (RefuseWhileBusy(game)) return;
+    BookletRequest request;
+    request.collection = game.collection.CollectionPath;
+    if (!game.questions.AskBooklet(request) || game.job.BusyFlag() || game.job.Ending()) return;
+    PrintBooklet(game, request);
+}
+
+void Booklet_Activate(Game& game, BookletRequest& request) {
+    request.printers = game.printers.Names();
+    request.printer = CurrentPrinter(game);
+    request.format.paper = game.printers.UsualPaper();
+    request.design.lineWidth = game.options.PrintLineWidth;
+    ReadBookletChoices(game.choices, request);
+    Booklet_TakeFile(game, request);
+}
+
+void Booklet_Browse(Game& game, BookletRequest& request) {
+    const std::string path = PickFile(game, {"Select a Puzzle file to print", "*.tdw;*.txt;*.dat", "Tidewalk Files",
+                                             game.AppFolder, FileRequest::Mode::Open});
+    if (path.empty()) return;
+    request.collection = path;
+    Booklet_TakeFile(game, request);
+    if (request.puzzleCount == 0) game.prompts.Show(NoPuzzlesText(path), "vbcritical+vbok");
+}
+
+void Booklet_TakeFile(Game& game, BookletRequest& request) {
+    request.puzzleCount = CountPuzzles(game, request.collection);
+    request.first = "1";
+    request.last = NumText(request.puzzleCount);
+}
+
+bool Booklet_Accept(Game& game, BookletRequest& request) {
+    game.printerName = request.printer;
+    request.puzzleCount = CountPuzzles(game, request.collection);
+    std::string reason = WhyNoBooklet(request);
+    if (reason.empty() && request.known) {
+        const Sheet sheet = game.printers.SheetOf(request.printer, request.format);
+        reason = WhyNoPages(MakeBooklet(request, request.known->contents, sheet));
+    }
+    if (!reason.empty()) {
+        game.prompts.Show(reason, "vbcritical+vbok");
+        return false;
+    }
+    KeepBookletChoices(game.choices, request);
+    return true;
+}
+
+std::string WhyNoBooklet(const BookletRequest& request) {
+    if (request.puzzleCount == 0) return NoPuzzlesText(request.collection);
+    const PuzzleRange range = RangeOf(request);
+    if (range.last < range.first || range.first < 1 || range.last > request.puzzleCount)
+        return "Incorrect start or end puzzle number";
+    if (range.last - range.first >= kMostBookletPuzzles)
+        return "A booklet holds no more than" + Str(kMostBookletPuzzles) + " puzzles";
+    return "";
+}
+
+std::string WhyNoPages(const Booklet& booklet) {
+    return booklet.Entries().empty() ? "None of these lines is a puzzle" : booklet.Misfit();
+}
+
+PuzzleRange RangeOf(const BookletRequest& request) {
+    return {RoundedVal(request.first), RoundedVal(request.last)};
+}
+
+Booklet MakeBooklet(const BookletRequest& request, const BookletContents& contents, const Sheet& sheet) {
+    std::vector<BookletEntry> entries = contents.entries;
+    SortEntries(entries, request.design.order);
+    return {request.design, std::move(entries), sheet};
+}
+
+}  // namespace tidewalk
