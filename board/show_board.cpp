@@ -56,7 +56,7 @@ void ZoomTo(Game& game, int cellSize) {
 
 void ShowPuzzleLabels(Game& game, const std::string& path) {
     const Puzzle& puzzle = game.board.puzzle;
-    game.window.SetText(WindowText::BoardSize, NumText(puzzle.Rows) + "x" + NumText(puzzle.Cols));
+    game.window.SetText(WindowText::BoardSize, SizeText(puzzle.Size()));
     game.window.SetText(WindowText::PuzzleCount, " of" + Str(game.collection.PuzzleCount));
     game.window.SetText(WindowText::CollectionName, FileNameOf(path));
     game.window.SetToolTip(WindowText::CollectionName, path);

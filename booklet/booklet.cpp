@@ -21,10 +21,6 @@ constexpr double kHeadingSize = 14;
 constexpr double kSmallestSize = 6;
 constexpr std::string_view kDot = " \u00B7 ";
 
-std::string SizeText(BoardSize size) {
-    return NumText(size.rows) + "x" + NumText(size.cols);
-}
-
 std::string MisfitText(const std::vector<BookletEntry>& entries, const std::vector<std::size_t>& misfits,
                        bool solutions, int perPage) {
     const BookletEntry& first = entries[misfits.front()];
@@ -34,18 +30,6 @@ std::string MisfitText(const std::vector<BookletEntry>& entries, const std::vect
     text += others > 0 ? " do not fit on the page" : " does not fit on the page";
     if (!solutions && perPage > 1) text += " beside " + NumText(perPage - 1) + (perPage == 2 ? " other" : " others");
     return text + " at a size that can be read.";
-}
-
-/// "7x7 to 12x12", or one size.
-std::string SizesText(const std::vector<BookletEntry>& entries) {
-    const auto smaller = [](const BookletEntry& a, const BookletEntry& b) {
-        return a.size.rows * a.size.cols < b.size.rows * b.size.cols;
-    };
-    const auto [least, most] = std::minmax_element(entries.begin(), entries.end(), smaller);
-    if (least == entries.end()) return "";
-    const std::string from = SizeText(least->size);
-    const std::string to = SizeText(most->size);
-    return from == to ? from : from + " to " + to;
 }
 
 std::string CaptionOf(const BookletDesign& design, const BookletEntry& entry, bool solution) {
@@ -88,18 +72,14 @@ Booklet::Booklet(const BookletDesign& design, std::vector<BookletEntry> entries,
     pages_.insert(pages_.end(), std::move_iterator(pages.begin()), std::move_iterator(pages.end()));
 }
 
-std::string Booklet::Contents() const {
-    const auto count = static_cast<int>(entries_.size());
-    return NumText(count) + (count == 1 ? " puzzle, " : " puzzles, ") + SizesText(entries_);
-}
-
 void Booklet::DrawPage(int index, Surface& surface, const PuzzleSource& source) const {
     const BookletPage& page = pages_.at(static_cast<std::size_t>(index));
     const PageFrame frame = FrameOf(design_, sheet_);
     if (page.kind == BookletPage::Kind::Cover) {
         const auto emblem = entries_.empty() ? std::nullopt : source(entries_.front().number);
-        return DrawCover({design_.title, design_.author, Contents(), emblem.value_or(Puzzle()), design_.shape}, surface,
-                         frame.body);
+        return DrawCover(
+            {design_.title, design_.author, ContentsText(entries_), emblem.value_or(Puzzle()), design_.shape}, surface,
+            frame.body);
     }
     DrawFrame(index, surface, frame);
     if (page.kind == BookletPage::Kind::Rules) return DrawRules(design_.shape, surface, frame.body);

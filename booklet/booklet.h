@@ -54,9 +54,6 @@ class Booklet {
     /// booklet has no pages then.
     const std::string& Misfit() const { return misfit_; }
 
-    /// "24 puzzles, 7x7 to 12x12".
-    std::string Contents() const;
-
     /// Draws page `index` of `Pages`, counted from 0. `surface` takes pen widths in `kPensPerInch`. A puzzle that
     /// cannot be read any more, or has become one of another size, leaves its place empty.
     void DrawPage(int index, Surface& surface, const PuzzleSource& source) const;

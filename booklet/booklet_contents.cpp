@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <tuple>
 
+#include "model/numbers.h"
 #include "solver/valid_solution.h"
 #include "techniques/grade.h"
 
@@ -40,7 +41,50 @@ std::tuple<int, int, int> KeyOf(const BookletEntry& entry, BookletDesign::Order 
     return {0, 0, entry.number};
 }
 
+/// "7x7 to 12x12", or one size.
+std::string SizesText(const std::vector<BookletEntry>& entries) {
+    const auto smaller = [](const BookletEntry& a, const BookletEntry& b) {
+        return a.size.rows * a.size.cols < b.size.rows * b.size.cols;
+    };
+    const auto [least, most] = std::minmax_element(entries.begin(), entries.end(), smaller);
+    if (least == entries.end()) return "";
+    const std::string from = SizeText(least->size);
+    const std::string to = SizeText(most->size);
+    return from == to ? from : from + " to " + to;
+}
+
+/// "5, 9 and 12 others": so many of the numbers as one reads.
+std::string SomeOf(const std::vector<int>& numbers) {
+    constexpr std::size_t kMostNamed = 8;
+    const std::size_t named = std::min(numbers.size(), kMostNamed);
+    std::vector<std::string> words;
+    for (std::size_t i = 0; i < named; ++i)
+        words.push_back(NumText(numbers[i]));
+    const auto others = static_cast<int>(numbers.size() - named);
+    if (others > 0) words.push_back(NumText(others) + (others == 1 ? " other" : " others"));
+    return Listed(words);
+}
+
 }  // namespace
+
+std::string ContentsText(const std::vector<BookletEntry>& entries) {
+    const auto count = static_cast<int>(entries.size());
+    return NumText(count) + (count == 1 ? " puzzle, " : " puzzles, ") + SizesText(entries);
+}
+
+std::vector<std::string> RemarksOn(const BookletContents& contents, const BookletDesign& design) {
+    std::vector<std::string> remarks;
+    const auto add = [&remarks](const std::string& words, const std::vector<int>& numbers) {
+        if (!numbers.empty()) remarks.push_back(words + SomeOf(numbers));
+    };
+    std::vector<int> unsolved;
+    for (const BookletEntry& entry : contents.entries) {
+        if (!entry.solved) unsolved.push_back(entry.number);
+    }
+    add("Lines that are no puzzles and were left out: ", contents.unreadable);
+    if (design.solutions != BookletDesign::Solutions::None) add("Puzzles without a solution: ", unsolved);
+    return remarks;
+}
 
 std::optional<BookletContents> ReadBookletContents(const std::string& collection, const PuzzleRange& range, bool graded,
                                                    const ContentsStep& step) {

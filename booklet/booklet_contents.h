@@ -39,6 +39,12 @@ using ContentsStep = std::function<bool(int done)>;
 std::optional<BookletContents> ReadBookletContents(const std::string& collection, const PuzzleRange& range, bool graded,
                                                    const ContentsStep& step);
 
+/// "24 puzzles, 7x7 to 12x12".
+std::string ContentsText(const std::vector<BookletEntry>& entries);
+
+/// What is to be known of puzzles that are not in the booklet as one may expect, a sentence each.
+std::vector<std::string> RemarksOn(const BookletContents& contents, const BookletDesign& design);
+
 /// The order in which a booklet has them: equal ones by their numbers, those without a grade last.
 void SortEntries(std::vector<BookletEntry>& entries, BookletDesign::Order order);
 

@@ -55,42 +55,11 @@ std::optional<BookletContents> ContentsOf(Game& game, Job& job, const BookletReq
     return ReadBookletContents(request.collection, range, graded, step);
 }
 
-DocumentSetup SetupOf(const BookletRequest& request, const std::string& file, const Booklet& booklet) {
-    const std::string& title = request.design.title;
-    DocumentSetup setup;
-    setup.printer = request.printer;
-    setup.file = file;
-    setup.format = request.format;
-    setup.title = title.empty() ? FileNameOf(request.collection) : title;
-    setup.author = request.design.author;
-    setup.subject = "Bridges: " + booklet.Contents();
-    setup.keywords = "bridges, puzzles";
-    return setup;
-}
-
-/// "5, 9 and 12 others": so many of the numbers as one reads.
-std::string SomeOf(const std::vector<int>& numbers) {
-    constexpr std::size_t kMostNamed = 8;
-    const std::size_t named = std::min(numbers.size(), kMostNamed);
-    const std::size_t others = numbers.size() - named;
+/// Each remark in a paragraph of its own.
+std::string Paragraphs(const std::vector<std::string>& remarks) {
     std::string text;
-    for (std::size_t i = 0; i < named; ++i)
-        text += (i == 0 ? "" : i + 1 == named && others == 0 ? " and " : ", ") + NumText(numbers[i]);
-    return others == 0 ? text : text + " and " + Counted(others, "other");
-}
-
-/// What the player is to know of the puzzles that were asked for and are not in the booklet as one may expect.
-std::string Shortcomings(const BookletContents& contents, const BookletDesign& design) {
-    std::string text;
-    const auto add = [&text](const std::string& words, const std::vector<int>& numbers) {
-        if (!numbers.empty()) text += "\r\n\r\n" + words + SomeOf(numbers);
-    };
-    std::vector<int> unsolved;
-    for (const BookletEntry& entry : contents.entries) {
-        if (!entry.solved) unsolved.push_back(entry.number);
-    }
-    add("Lines that are no puzzles and were left out: ", contents.unreadable);
-    if (design.solutions != BookletDesign::Solutions::None) add("Puzzles without a solution: ", unsolved);
+    for (const std::string& remark : remarks)
+        text += "\r\n\r\n" + remark;
     return text;
 }
 
@@ -125,13 +94,17 @@ BookletEnd Print(Game& game, Job& job, const BookletRequest& request, const std:
     const Booklet booklet = MakeBooklet(request, *contents, game.printers.SheetOf(request.printer, request.format));
     if (const std::string reason = WhyNoPages(booklet); !reason.empty()) return {PrintEnd::Failed, reason};
     std::string error;
-    const auto document = game.printers.Begin(SetupOf(request, file, booklet), error);
+    DocumentSetup setup = BookletSetup(request.design, booklet.Entries(), request.collection);
+    setup.printer = request.printer;
+    setup.file = file;
+    setup.format = request.format;
+    const auto document = game.printers.Begin(setup, error);
     if (!document) return {PrintEnd::Failed, error};
     BookletEnd end = PrintPagesOf(game, job, booklet, request.collection, *document);
     if (end.end != PrintEnd::Printed) return end;
     const std::string where = file.empty() ? "on:\r\n" + request.printer : "to file:\r\n" + file;
     end.text = "Printed " + Counted(booklet.Entries().size(), "puzzle") + " on " +
-               Counted(booklet.Pages().size(), "page") + " " + where + Shortcomings(*contents, request.design);
+               Counted(booklet.Pages().size(), "page") + " " + where + Paragraphs(RemarksOn(*contents, request.design));
     return end;
 }
 
@@ -224,6 +197,16 @@ std::string WhyNoPages(const Booklet& booklet) {
 
 PuzzleRange RangeOf(const BookletRequest& request) {
     return {RoundedVal(request.first), RoundedVal(request.last)};
+}
+
+DocumentSetup BookletSetup(const BookletDesign& design, const std::vector<BookletEntry>& entries,
+                           const std::string& collection) {
+    DocumentSetup setup;
+    setup.title = design.title.empty() ? FileNameOf(collection) : design.title;
+    setup.author = design.author;
+    setup.subject = "Bridges: " + ContentsText(entries);
+    setup.keywords = "bridges, puzzles";
+    return setup;
 }
 
 Booklet MakeBooklet(const BookletRequest& request, const BookletContents& contents, const Sheet& sheet) {

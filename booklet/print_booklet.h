@@ -35,6 +35,10 @@ std::string WhyNoPages(const Booklet& booklet);
 /// The puzzles that are asked for. They may be none that there are.
 PuzzleRange RangeOf(const BookletRequest& request);
 
+/// What the document of a booklet tells of itself; where it goes, and its sheets, are left to whoever begins it.
+DocumentSetup BookletSetup(const BookletDesign& design, const std::vector<BookletEntry>& entries,
+                           const std::string& collection);
+
 /// The booklet that is asked for, in its order, as far as `contents` are known.
 Booklet MakeBooklet(const BookletRequest& request, const BookletContents& contents, const Sheet& sheet);
 

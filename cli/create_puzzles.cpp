@@ -83,7 +83,7 @@ std::string DensityText(int islands, int cells) {
 /// Why such puzzles cannot be ordered: what can be instead.
 std::string WhyNotOrdered(const WantedSize& wanted, const Character& character) {
     const BoardSize size = wanted.random ? kLargestDrawn : wanted.size;
-    const std::string sized = std::to_string(size.rows) + "x" + std::to_string(size.cols);
+    const std::string sized = SizeText(size);
     const std::string puzzles = (wanted.random ? "random sizes, up to " + sized + ", have " : sized + " has ");
     if (!CanBeOrderedOf(wanted, {{}, character.loops, {}})) {
         return "--loops: " + puzzles + "0 to " + std::to_string(MostLoops(size)) + " loops";

@@ -43,7 +43,7 @@ std::optional<Puzzle> BeginReport(const NumberedLine& line, PuzzleReport& report
         report.fault = kNoRecord;
         return puzzle;
     }
-    const std::string size = std::to_string(puzzle->Rows) + "x" + std::to_string(puzzle->Cols);
+    const std::string size = SizeText(puzzle->Size());
     report.line = Padded(std::to_string(line.number), kNumberWidth) + "  " + Padded(size, kSizeWidth);
     report.fields = SizeFields(*puzzle);
     return puzzle;

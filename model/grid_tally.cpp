@@ -12,19 +12,7 @@ namespace {
 /// How many places are named one by one.
 constexpr std::size_t kMostNamed = 5;
 
-/// "40", "40 and 52" or "40, 52 and 60".
-std::string Listed(const std::vector<std::string>& words) {
-    std::string text;
-    for (std::size_t i = 0; i < words.size(); ++i)
-        text += (i == 0 ? "" : i + 1 < words.size() ? ", " : " and ") + words[i];
-    return text;
-}
-
 }  // namespace
-
-std::string SizeText(BoardSize size) {
-    return NumText(size.rows) + "x" + NumText(size.cols);
-}
 
 void GridTally::Add(const FoundGrid& grid) {
     ++grids_;

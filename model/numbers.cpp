@@ -111,4 +111,11 @@ std::string LowerCase(std::string_view text) {
     return lower;
 }
 
+std::string Listed(const std::vector<std::string>& words) {
+    std::string text;
+    for (std::size_t i = 0; i < words.size(); ++i)
+        text += (i == 0 ? "" : i + 1 < words.size() ? ", " : " and ") + words[i];
+    return text;
+}
+
 }  // namespace tidewalk

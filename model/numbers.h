@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tidewalk {
 
@@ -31,5 +32,8 @@ std::string_view Trim(std::string_view text);
 
 /// `text` with the letters A to Z in lower case.
 std::string LowerCase(std::string_view text);
+
+/// The words as one says them: "40", "40 and 52" or "40, 52 and 60".
+std::string Listed(const std::vector<std::string>& words);
 
 }  // namespace tidewalk

@@ -36,7 +36,7 @@ std::string MarkedGrid(const Puzzle& puzzle) {
 std::string GridText(const Puzzle& puzzle, GridForm form) {
     const bool spaced = form == GridForm::Spaced && puzzle.IslandCount() < puzzle.CellCount();
     std::string text;
-    if (form == GridForm::Sized) text = NumText(puzzle.Rows) + "x" + NumText(puzzle.Cols) + std::string(kLineEnd);
+    if (form == GridForm::Sized) text = SizeText(puzzle.Size()) + std::string(kLineEnd);
     for (const std::string& row : PlainGrid(puzzle)) {
         for (std::size_t col = 0; col < row.size(); ++col) {
             if (spaced && col > 0) text += ' ';

@@ -17,6 +17,10 @@ int Puzzle::IslandCount() const {
     return count;
 }
 
+std::string SizeText(BoardSize size) {
+    return std::to_string(size.rows) + "x" + std::to_string(size.cols);
+}
+
 Puzzle WithoutLinks(const Puzzle& puzzle) {
     Puzzle bare = puzzle;
     bare.LinkList.clear();

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <string>
 #include <vector>
 
 #include "model/grid.h"
@@ -54,6 +55,9 @@ class Puzzle {
  private:
     PerCell<std::uint8_t> numbers_;
 };
+
+/// "7x12": the rows, then the columns.
+std::string SizeText(BoardSize size);
 
 /// A puzzle with the same islands and no links.
 Puzzle WithoutLinks(const Puzzle& puzzle);

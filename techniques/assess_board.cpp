@@ -7,14 +7,6 @@
 
 namespace tidewalk {
 
-namespace {
-
-std::string SizeText(BoardSize size) {
-    return NumText(size.rows) + "x" + NumText(size.cols);
-}
-
-}  // namespace
-
 void AssessBoard(Game& game) {
     const Puzzle& puzzle = game.board.puzzle;
     const bool isEmpty = puzzle.IslandCount() == 0;

@@ -4,7 +4,7 @@
 #include <QGuiApplication>
 
 #include "board/print_pages.h"
-#include "booklet/booklet.h"
+#include "booklet/print_booklet.h"
 #include "drawing/render_puzzle.h"
 #include "model/collection_file.h"
 #include "model/file_error.h"
@@ -56,30 +56,6 @@ QString WritePages(const OutputOrder& order) {
     return QString("These puzzles could not be read, their pages are empty: %1").arg(broken.join(", "));
 }
 
-/// "1, 2 and 30 others".
-QString ListOf(const std::vector<int>& numbers) {
-    constexpr std::size_t kMostNamed = 10;
-    QStringList named;
-    for (std::size_t i = 0; i < std::min(numbers.size(), kMostNamed); ++i)
-        named += QString::number(numbers[i]);
-    const auto others = numbers.size() - static_cast<std::size_t>(named.size());
-    return named.join(", ") + (others > 0 ? QString(" and %1 others").arg(others) : "");
-}
-
-/// What is to be said of puzzles that are not as they should be in the booklet.
-QString RemarksOn(const BookletContents& contents, const BookletDesign& design) {
-    QStringList remarks;
-    if (!contents.unreadable.empty())
-        remarks += "These puzzles could not be read, the booklet does without them: " + ListOf(contents.unreadable);
-    std::vector<int> unsolved;
-    for (const BookletEntry& entry : contents.entries) {
-        if (!entry.solved) unsolved.push_back(entry.number);
-    }
-    if (!unsolved.empty() && design.solutions != BookletDesign::Solutions::None)
-        remarks += "These puzzles have no solution to print: " + ListOf(unsolved);
-    return remarks.join("\n");
-}
-
 /// The booklet's file. What could not be done is told, as for pages.
 QString WriteBooklet(const OutputOrder& order) {
     const std::string path = FileNameBytes(order.collection);
@@ -89,11 +65,9 @@ QString WriteBooklet(const OutputOrder& order) {
     auto contents = ReadBookletContents(path, {order.from, order.to}, design.NeedsGrades(), [](int) { return true; });
     if (contents->entries.empty()) return "None of these puzzles can be read";
     SortEntries(contents->entries, design.order);
-    DocumentSetup setup;
+    DocumentSetup setup = BookletSetup(design, contents->entries, path);
     setup.file = FileNameBytes(order.file);
     setup.format = SheetFormat{order.booklet.paper.value_or(UsualPaper()), order.booklet.landscape};
-    setup.title = design.title;
-    setup.author = design.author;
     std::string error;
     const auto document = BeginPdf(setup, error);
     if (!document) return QString("The booklet could not be written: %1").arg(QString::fromStdString(error));
@@ -105,7 +79,10 @@ QString WriteBooklet(const OutputOrder& order) {
     };
     if (PrintPages(*document, static_cast<int>(booklet.Pages().size()), draw, WithoutEnd) != PrintEnd::Printed)
         return QString("The booklet could not be written: %1").arg(QString::fromStdString(document->Error()));
-    return RemarksOn(*contents, design);
+    QStringList remarks;
+    for (const std::string& remark : RemarksOn(*contents, design))
+        remarks += QString::fromStdString(remark);
+    return remarks.join("\n");
 }
 
 /// The number of lines of the collection, counted as far as `wanted`.
