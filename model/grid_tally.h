@@ -28,7 +28,4 @@ class GridTally {
     std::vector<std::int64_t> otherLines_;  ///< where the first of the others begin
 };
 
-/// "7x9", rows first.
-std::string SizeText(BoardSize size);
-
 }  // namespace tidewalk
