@@ -202,6 +202,49 @@ TEST(Booklet, BoardsHaveTheirStrokesInTheMiddleAndTheIslandsAskedFor) {
     EXPECT_EQ(changed.Count("box"), 0) << "of another size by now";
 }
 
+/// Notes how far a drawing reaches.
+class MeasuringSurface final : public RecordingSurface {
+ public:
+    void Line(double x1, double y1, double x2, double y2, Colour colour) override {
+        Include(drawn, {std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2)});
+        RecordingSurface::Line(x1, y1, x2, y2, colour);
+    }
+    void Circle(double x, double y, double radius, Colour outline, Colour fill) override {
+        Include(drawn, {x - radius, y - radius, x + radius, y + radius});
+        RecordingSurface::Circle(x, y, radius, outline, fill);
+    }
+    void Print(double x, double y, const std::string& text, Colour colour) override {
+        const Extent extent = TextExtent(text);
+        Include(drawn, {x, y, x + extent.width, y + extent.height});
+        RecordingSurface::Print(x, y, text, colour);
+    }
+
+    Area drawn{1e9, 1e9, -1e9, -1e9};
+};
+
+TEST(Booklet, EverythingThatIsDrawnCanBePrinted) {
+    BookletDesign design;
+    design.title = "A title of many words that no line has room for, so that it goes on in another one";
+    design.author = std::string(300, 'w');
+    for (const Sheet& sheet : {kA4, kA5Landscape, SheetOf(8391, 11906)}) {
+        design.cover = !design.cover;
+        const Booklet booklet(design, Entries({{7, 7}, {8, 8}, {7, 9}}), sheet);
+        for (int page = 0; page < static_cast<int>(booklet.Pages().size()); ++page) {
+            MeasuringSurface surface;
+            booklet.DrawPage(page, surface, Full(booklet));
+            SCOPED_TRACE(std::to_string(sheet.size.width) + " page " + std::to_string(page));
+            EXPECT_GE(surface.drawn.left, sheet.printable.left);
+            EXPECT_GE(surface.drawn.top, sheet.printable.top);
+            EXPECT_LE(surface.drawn.right, sheet.printable.right);
+            EXPECT_LE(surface.drawn.bottom, sheet.printable.bottom);
+            EXPECT_GE(surface.Count("print"), surface.Count("circle")) << "each island has its number";
+            const bool rules = booklet.Pages()[static_cast<std::size_t>(page)].kind == BookletPage::Kind::Rules;
+            // The solution of the example has twelve strokes, and eight of them are there after four steps.
+            EXPECT_EQ(surface.Count("line"), rules ? 20 : 0);
+        }
+    }
+}
+
 TEST(BookletContents, AreReadWithASolutionForEachAndPutInOrder) {
     const TempFolder folder;
     const std::string small = kSmallPuzzle;
@@ -235,7 +278,11 @@ TEST(BookletContents, AreReadWithASolutionForEachAndPutInOrder) {
     EXPECT_EQ(order(Order::Grade), "314");
     EXPECT_EQ(order(Order::Number), "134");
 
-    EXPECT_FALSE(ReadBookletContents(path, {1, 4}, true, [](int done) { return done < 2; }));
+    int most = 0;
+    EXPECT_FALSE(ReadBookletContents(path, {1, 4}, true, [&](int done) { return (most = done) < 2; }));
+    EXPECT_EQ(most, 2);
+    int asked = 0;
+    EXPECT_FALSE(ReadBookletContents(path, {1, 1}, true, [&](int) { return ++asked < 3; })) << "in the middle of one";
     const auto one = ReadBookletContents(path, {3, 3}, false, [](int) { return true; });
     ASSERT_EQ(one->entries.size(), 1U);
     EXPECT_FALSE(one->entries[0].score) << "not asked for";
