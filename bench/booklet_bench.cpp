@@ -15,7 +15,7 @@ namespace {
 std::vector<BookletEntry> Entries(int count) {
     std::vector<BookletEntry> entries;
     for (int number = 1; number <= count; ++number)
-        entries.push_back({number, {7 + number % 19, 7 + number % 17}, 3, true});
+        entries.push_back({number, {7 + number % 19, 7 + number % 17}, 3, true, 0});
     return entries;
 }
 
@@ -35,7 +35,8 @@ void WriteBooklet(benchmark::State& state) {
     const std::vector<Puzzle> puzzles = MakePuzzles(25, [](const CreatedPuzzle&) { return true; });
     std::vector<BookletEntry> entries;
     for (int number = 1; number <= state.range(0); ++number)
-        entries.push_back({number, {25, 25}, 3, true});
+        entries.push_back(
+            {number, {25, 25}, 3, true, Fingerprint(puzzles[static_cast<std::size_t>(number) % puzzles.size()])});
     BookletDesign design;
     design.perPage = 1;
     DocumentSetup setup;

@@ -49,8 +49,8 @@ std::string CaptionOf(const BookletDesign& design, const BookletEntry& entry, bo
 }  // namespace
 
 Booklet::Booklet(const BookletDesign& design, std::vector<BookletEntry> entries, const Sheet& sheet)
-    : design_(design), entries_(std::move(entries)), sheet_(sheet) {
-    const Surface::Area body = FrameOf(design, sheet).body;
+    : design_(Tidied(design)), entries_(std::move(entries)), sheet_(sheet) {
+    const Surface::Area body = FrameOf(design_, sheet).body;
     std::vector<std::size_t> misfits;
     std::vector<BookletPage> pages = LayOutPuzzles(design, entries_, body, misfits);
     if (!misfits.empty()) {
@@ -72,28 +72,32 @@ Booklet::Booklet(const BookletDesign& design, std::vector<BookletEntry> entries,
     pages_.insert(pages_.end(), std::move_iterator(pages.begin()), std::move_iterator(pages.end()));
 }
 
-void Booklet::DrawPage(int index, Surface& surface, const PuzzleSource& source) const {
+bool Booklet::DrawPage(int index, Surface& surface, const PuzzleSource& source) const {
     const BookletPage& page = pages_.at(static_cast<std::size_t>(index));
     const PageFrame frame = FrameOf(design_, sheet_);
     if (page.kind == BookletPage::Kind::Cover) {
         const auto emblem = entries_.empty() ? std::nullopt : source(entries_.front().number);
-        return DrawCover(
-            {design_.title, design_.author, ContentsText(entries_), emblem.value_or(Puzzle()), design_.shape}, surface,
-            frame.body);
+        DrawCover({design_.title, design_.author, ContentsText(entries_), emblem.value_or(Puzzle()), design_.shape},
+                  surface, frame.body);
+        return true;
     }
     DrawFrame(index, surface, frame);
-    if (page.kind == BookletPage::Kind::Rules) return DrawRules(design_.shape, surface, frame.body);
+    if (page.kind == BookletPage::Kind::Rules) DrawRules(design_.shape, surface, frame.body);
     if (page.kind == BookletPage::Kind::Solutions) {
         const double middle = (frame.body.left + frame.body.right) / 2;
         surface.SetKind(Kind::Heading);
         PrintLine(surface, middle, frame.body.top, "Solutions", kHeadingSize, kSmallestSize,
                   frame.body.right - frame.body.left);
     }
+    bool asKnown = true;
     for (const PlacedBoard& board : page.boards) {
         const BookletEntry& entry = entries_[board.entry];
         const auto puzzle = source(entry.number);
-        if (puzzle && puzzle->Size() == entry.size) DrawBoard(board, *puzzle, surface);
+        const bool isKnown = puzzle && Fingerprint(*puzzle) == entry.islands;
+        if (isKnown) DrawBoard(board, *puzzle, surface);
+        asKnown = asKnown && isKnown;
     }
+    return asKnown;
 }
 
 /// The header and the page number.
@@ -101,7 +105,7 @@ void Booklet::DrawFrame(int index, Surface& surface, const PageFrame& frame) con
     const double middle = (frame.body.left + frame.body.right) / 2;
     const double width = frame.body.right - frame.body.left;
     surface.SetKind(Kind::Title);
-    PrintLine(surface, middle, frame.headerTop, design_.Header(), kHeaderSize, kSmallestSize, width);
+    PrintLine(surface, middle, frame.headerTop, design_.Header(), kHeaderSize, kHeaderSize, width);
     surface.SetKind(Kind::Footer);
     if (design_.pageNumbers)
         PrintLine(surface, middle, frame.footerTop, NumText(index + 1), kHeaderSize, kSmallestSize, width);

@@ -54,9 +54,9 @@ class Booklet {
     /// booklet has no pages then.
     const std::string& Misfit() const { return misfit_; }
 
-    /// Draws page `index` of `Pages`, counted from 0. `surface` takes pen widths in `kPensPerInch`. A puzzle that
-    /// cannot be read any more, or has become one of another size, leaves its place empty.
-    void DrawPage(int index, Surface& surface, const PuzzleSource& source) const;
+    /// Draws page `index` of `Pages`, counted from 0. `surface` takes pen widths in `kPensPerInch`. False when a puzzle
+    /// cannot be read any more, or has become another one; its place stays empty.
+    bool DrawPage(int index, Surface& surface, const PuzzleSource& source) const;
 
  private:
     void DrawFrame(int index, Surface& surface, const PageFrame& frame) const;

@@ -50,7 +50,8 @@ std::string SizesText(const std::vector<BookletEntry>& entries) {
     if (least == entries.end()) return "";
     const std::string from = SizeText(least->size);
     const std::string to = SizeText(most->size);
-    return from == to ? from : from + " to " + to;
+    if (from == to) return from;
+    return from + (smaller(*least, *most) ? " to " : " and ") + to;
 }
 
 /// "5, 9 and 12 others": so many of the numbers as one reads.
@@ -104,12 +105,24 @@ std::optional<BookletContents> ReadBookletContents(const std::string& collection
             contents.unreadable.push_back(number);
             continue;
         }
-        BookletEntry entry{number, puzzle->Size(), std::nullopt, WithSolution(*puzzle, mayGoOn).LinkCount() > 0};
+        BookletEntry entry{number, puzzle->Size(), std::nullopt, WithSolution(*puzzle, mayGoOn).LinkCount() > 0,
+                           Fingerprint(*puzzle)};
         if (graded) entry.score = AssessPuzzle(*puzzle, mayGoOn).score;
         if (stopped) return std::nullopt;
         contents.entries.push_back(entry);
     }
     return contents;
+}
+
+std::uint64_t Fingerprint(const Puzzle& puzzle) {
+    // FNV-1a, over the size and the number of every cell.
+    std::uint64_t hash = 14695981039346656037U;
+    const auto add = [&hash](int value) { hash = (hash ^ static_cast<std::uint64_t>(value)) * 1099511628211U; };
+    add(puzzle.Rows);
+    add(puzzle.Cols);
+    for (CellNumber id = 1; id <= puzzle.CellCount(); ++id)
+        add(puzzle.IslandAt(id));
+    return hash;
 }
 
 void SortEntries(std::vector<BookletEntry>& entries, BookletDesign::Order order) {

@@ -2,6 +2,7 @@
 // The puzzles of a booklet, as far as they have to be known before a page is drawn.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -20,9 +21,10 @@ inline constexpr int kMostBookletPuzzles = 10000;
 struct BookletEntry {
     int number = 0;  ///< in its collection
     BoardSize size;
-    std::optional<int>
-        score;            ///< that `DifficultyName` names; nothing without exactly one solution, or if not asked for
-    bool solved = false;  ///< it has a solution that can be printed
+    /// That `DifficultyName` names; nothing without exactly one solution, or if not asked for.
+    std::optional<int> score;
+    bool solved = false;        ///< it has a solution that can be printed
+    std::uint64_t islands = 0;  ///< the `Fingerprint` of its numbers
 };
 
 struct BookletContents {
@@ -44,6 +46,9 @@ std::string ContentsText(const std::vector<BookletEntry>& entries);
 
 /// What is to be known of puzzles that are not in the booklet as one may expect, a sentence each.
 std::vector<std::string> RemarksOn(const BookletContents& contents, const BookletDesign& design);
+
+/// A number that hardly any puzzle with other numbers has, too.
+std::uint64_t Fingerprint(const Puzzle& puzzle);
 
 /// The order in which a booklet has them: equal ones by their numbers, those without a grade last.
 void SortEntries(std::vector<BookletEntry>& entries, BookletDesign::Order order);

@@ -50,4 +50,8 @@ struct BookletDesign {
     bool operator==(const BookletDesign&) const = default;
 };
 
+/// The design with title and author in one line each: blanks for control characters, none at the ends and no two
+/// beside each other.
+BookletDesign Tidied(BookletDesign design);
+
 }  // namespace tidewalk

@@ -41,25 +41,40 @@ void DrawBoardAt(const Puzzle& puzzle, Surface& surface, int cell, double middle
                      withBridges, drawn);
 }
 
-/// The title in as many lines as it needs, each centred. Returns where the next line begins.
+/// The title in as many lines as it needs, in letters that let it end within a third of the body. Returns where the
+/// next line begins.
 double PrintTitle(Surface& surface, const Surface::Area& body, double top, const std::string& title) {
+    constexpr double kSizes[] = {kTitleSize, 24, 18, 14, kContentsSize, 9};
     const double width = body.right - body.left;
-    surface.SetFontSize(kTitleSize);
-    for (const std::string& line : Wrapped(surface, title, width)) {
-        if (top > body.top + (body.bottom - body.top) / 3) break;
-        top += PrintLine(surface, Middle(body), top, line, kTitleSize, kContentsSize, width);
+    const double end = body.top + (body.bottom - body.top) / 3;
+    std::vector<std::string> lines;
+    double size = 0;
+    for (const double smaller : kSizes) {
+        size = smaller;
+        surface.SetFontSize(size);
+        lines = Wrapped(surface, title, width);
+        const auto fits = [&](const std::string& line) { return surface.TextExtent(line).width <= width; };
+        const double height = static_cast<double>(lines.size()) * surface.TextExtent(title).height;
+        if (top + height <= end && std::all_of(lines.begin(), lines.end(), fits)) break;
+    }
+    const double height = surface.TextExtent(title).height;
+    for (std::size_t i = 0; i < lines.size() && top + height <= end; ++i) {
+        const bool cut = i + 1 < lines.size() && top + 2 * height > end;
+        top += PrintLine(surface, Middle(body), top, cut ? lines[i] + " ..." : lines[i], size, size, width);
     }
     return top;
 }
 
-/// Draws a puzzle in the middle of the room: the cover's own where it can be read there, else the example.
+/// Draws a puzzle in the middle of the room: the cover's own where it is small and can be read, else the example.
 void DrawEmblem(const Cover& cover, Surface& surface, const Surface::Area& room) {
     constexpr double kShare = 0.7;
     const auto cellOf = [&room](const Puzzle& puzzle) {
         return std::min({kLargestEmblemCell, static_cast<int>((room.right - room.left) * kShare / puzzle.Cols),
                          static_cast<int>((room.bottom - room.top) * kShare / puzzle.Rows)});
     };
-    const bool readable = cover.emblem.CellCount() > 0 && cellOf(cover.emblem) >= kSmallestPuzzleCell;
+    constexpr int kLargestEmblem = 12;  ///< rows or columns; larger boards are no ornament
+    const int side = cover.emblem.MaxDim();
+    const bool readable = side > 0 && side <= kLargestEmblem && cellOf(cover.emblem) >= kSmallestPuzzleCell;
     const Puzzle emblem = readable ? cover.emblem : ExamplePuzzle();
     const int cell = cellOf(emblem);
     const double top = (room.top + room.bottom - emblem.Rows * cell) / 2;
@@ -129,7 +144,7 @@ class RulesPage {
             {solved, "The solution"}};
         double middle = Middle(body_) - width;
         surface_.SetFontSize(points_);
-        const double caption = surface_.TextExtent("1").height;
+        const double caption = surface_.TextExtent("1").height + Twips(0.4);
         for (const auto& [puzzle, text] : stages) {
             if (draws_) {
                 surface_.SetKind(Kind::Other);

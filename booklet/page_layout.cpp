@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tidewalk {
 
@@ -10,16 +11,17 @@ namespace {
 
 constexpr double kMargin = 720;        ///< half an inch, more where the printer needs it
 constexpr double kHeaderHeight = 480;  ///< with what stays free below the line
-constexpr double kFooterHeight = 420;
+constexpr double kFooterHeight = 520;
 constexpr double kFooterLine = 220;
 
 constexpr int kLargestCell = 900;  ///< that of the pages with one puzzle, too
 constexpr int kPencilCell = 284;   ///< 5 mm, in which bridges are drawn without trouble
 
 constexpr double kBoardsApart = 440;    ///< between neighbouring boards and captions, at least
-constexpr int kCellsApart = 2;          ///< and so many cells between boards side by side, which have no frames
+constexpr int kCellsApart = 2;          ///< and at least so many cells
 constexpr double kSolutionApart = 620;  ///< between a puzzle and the solution beneath it, with its caption
-constexpr double kMostSpread = 900;     ///< boards of a page that is not full stay together
+constexpr double kMostSpread = 900;     ///< the most between boards, or so many cells
+constexpr int kMostCellsApart = 3;
 
 /// The width that a caption takes at least, in twips.
 constexpr double kPuzzleCaptionWidth = 1900;
@@ -55,17 +57,6 @@ double HeightOf(const Manner& manner, BoardSize size, int cell) {
     return manner.beneath ? board + kSolutionApart + size.rows * CellBeneath(cell) : board;
 }
 
-/// The largest cell with which a board of this size fits into so much room; 0 when none does.
-int FittingCell(const Manner& manner, BoardSize size, const Surface::Extent& room) {
-    int fits = 0;
-    int tooLarge = std::min(kLargestCell, static_cast<int>(room.width / size.cols)) + 1;
-    while (tooLarge - fits > 1) {
-        const int cell = (fits + tooLarge) / 2;
-        (HeightOf(manner, size, cell) <= room.height ? fits : tooLarge) = cell;
-    }
-    return fits;
-}
-
 Item ItemOf(const Manner& manner, std::size_t index, BoardSize size, int cell) {
     return {index, std::max<double>(size.cols * cell, manner.captionWidth), HeightOf(manner, size, cell)};
 }
@@ -84,9 +75,11 @@ double WidthOf(const Row& row) {
     return width;
 }
 
-/// The room between so many things side by side that take `taken` of `room`.
-double Spread(double room, double taken, std::size_t count) {
-    return count > 1 ? std::min((room - taken) / static_cast<double>(count - 1), kMostSpread) : 0;
+/// The room between so many things that take `taken` of `room`: boards of a page that is not full stay together.
+double Spread(double room, double taken, std::size_t count, int cell) {
+    if (count < 2) return 0;
+    return std::min((room - taken) / static_cast<double>(count - 1),
+                    std::max<double>(kMostSpread, kMostCellsApart * cell));
 }
 
 /// Adds the boards of one item whose room begins at (left, top).
@@ -111,7 +104,7 @@ void Place(BookletPage& page, const Manner& manner, const Item& item, const Book
     page.boards.push_back(board);
 }
 
-/// A page of rows, everything in the middle.
+/// A page of rows, everything in the middle from side to side.
 BookletPage PageOfRows(const Manner& manner, const std::vector<BookletEntry>& entries, const Rows& rows, int cell,
                        const Surface::Area& body) {
     BookletPage page;
@@ -120,11 +113,13 @@ BookletPage PageOfRows(const Manner& manner, const std::vector<BookletEntry>& en
     for (const Row& row : rows)
         taken += HeightOf(row);
     const double room = body.bottom - body.top;
-    const double apart = Spread(room, taken, rows.size());
-    double top = body.top + (room - taken - apart * static_cast<double>(rows.size() - 1)) / 2;
+    const double apart = Spread(room, taken, rows.size(), cell);
+    // Solutions begin below their heading.
+    double top = body.top;
+    if (!manner.solutions) top += (room - taken - apart * static_cast<double>(rows.size() - 1)) / 2;
     for (const Row& row : rows) {
         const double width = body.right - body.left;
-        const double aside = Spread(width, WidthOf(row), row.size());
+        const double aside = Spread(width, WidthOf(row), row.size(), cell);
         double left = body.left + (width - WidthOf(row) - aside * static_cast<double>(row.size() - 1)) / 2;
         for (const Item& item : row) {
             Place(page, manner, item, entries[item.entry], cell, left, top, item.width + aside / 2);
@@ -141,17 +136,25 @@ struct Slots {
     int down = 1;
 };
 
-/// The room of one board on a page with such slots.
-Surface::Extent RoomIn(const Slots& slots, const Surface::Area& body) {
-    return {(body.right - body.left - (slots.across - 1) * kBoardsApart) / slots.across,
-            (body.bottom - body.top - (slots.down - 1) * kBoardsApart) / slots.down};
+/// Between boards side by side or one above the other, which have no frames.
+double Apart(int cell) {
+    return std::max<double>(kBoardsApart, kCellsApart * cell);
 }
 
-/// The largest cell with which as many boards of this size as there are slots fit into the body.
+/// The largest cell with which as many boards of this size as there are slots fit into the body; 0 when none does.
 int FittingCell(const Manner& manner, BoardSize size, const Slots& slots, const Surface::Area& body) {
-    const int cellsAcross = slots.across * size.cols + (slots.across - 1) * kCellsApart;
-    return std::min(static_cast<int>((body.right - body.left) / cellsAcross),
-                    FittingCell(manner, size, RoomIn(slots, body)));
+    const auto fit = [&](int cell) {
+        const Item item = ItemOf(manner, 0, size, cell);
+        return slots.across * item.width + (slots.across - 1) * Apart(cell) <= body.right - body.left &&
+               slots.down * item.height + (slots.down - 1) * Apart(cell) <= body.bottom - body.top;
+    };
+    int fits = 0;
+    int tooLarge = kLargestCell + 1;
+    while (tooLarge - fits > 1) {
+        const int cell = (fits + tooLarge) / 2;
+        (fit(cell) ? fits : tooLarge) = cell;
+    }
+    return fits;
 }
 
 int SmallestFitting(const Manner& manner, const std::vector<BookletEntry>& entries, const Slots& slots,
@@ -162,19 +165,20 @@ int SmallestFitting(const Manner& manner, const std::vector<BookletEntry>& entri
     return cell;
 }
 
-/// The slots that leave the booklet's boards most room. Long rows of boards look poor and have to gain a quarter.
+/// The slots that leave the booklet's boards most room. Long rows of boards look poor and have to gain a quarter,
+/// unless the boards cannot be read otherwise.
 Slots BestSlots(const Manner& manner, const std::vector<BookletEntry>& entries, int perPage,
                 const Surface::Area& body) {
     constexpr double kGain = 1.25;
     constexpr int kCompact = 2;  ///< times as many one way as the other, at most
     Slots best;
-    double most = -1;
+    std::pair<bool, double> most{false, -1};
     for (int across = 1; across <= perPage; ++across) {
         if (perPage % across != 0) continue;
         const Slots slots{across, perPage / across};
         const bool compact = std::max(slots.across, slots.down) <= kCompact * std::min(slots.across, slots.down);
         const int cell = SmallestFitting(manner, entries, slots, body);
-        const double worth = compact ? cell * kGain : cell;
+        const std::pair<bool, double> worth{cell >= manner.smallestCell, compact ? cell * kGain : cell};
         if (worth <= most) continue;
         best = slots;
         most = worth;
@@ -223,15 +227,15 @@ std::vector<BookletPage> Fill(const Manner& manner, const std::vector<BookletEnt
     const auto roomBelow = [&] {
         double room = body.bottom - body.top;
         for (const Row& row : rows)
-            room -= HeightOf(row) + kBoardsApart;
+            room -= HeightOf(row) + Apart(cell);
         return room;
     };
     const auto fitsBeside = [&](const Item& item) {
         if (rows.empty()) return false;
         const Row& row = rows.back();
-        const double gaps = std::max<double>(kBoardsApart, kCellsApart * cell) * static_cast<double>(row.size());
+        const double gaps = Apart(cell) * static_cast<double>(row.size());
         return WidthOf(row) + gaps + item.width <= body.right - body.left &&
-               item.height - HeightOf(row) <= roomBelow() + kBoardsApart;
+               item.height - HeightOf(row) <= roomBelow() + Apart(cell);
     };
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (manner.solutions && !entries[i].solved) continue;

@@ -74,15 +74,17 @@ BookletEnd PrintPagesOf(Game& game, Job& job, const Booklet& booklet, const std:
     LineIndex lines;
     ShownSteps step(game, job, "Printing page", booklet.Pages().size());
     int current = 0;
-    const auto mayGoOn = [&] { return step(current); };
+    bool changed = false;
+    const auto mayGoOn = [&] { return step(current) && !changed; };
     const auto puzzle = [&](int number) {
         return mayGoOn() ? ReadSolvedPuzzle(lines, collection, number) : std::nullopt;
     };
     const auto draw = [&](int page, Surface& surface, const Sheet&) {
         current = page;
-        booklet.DrawPage(page, surface, puzzle);
+        changed = !booklet.DrawPage(page, surface, puzzle) && !game.job.MustStop();
     };
     const PrintEnd end = PrintPages(document, static_cast<int>(booklet.Pages().size()), draw, mayGoOn);
+    if (changed) return {PrintEnd::Failed, ChangedText(collection)};
     return {end, end == PrintEnd::Failed ? document.Error() : ""};
 }
 
@@ -117,6 +119,8 @@ void ShowEnd(Game& game, const BookletEnd& end) {
 void PrintBooklet(Game& game, const BookletRequest& request) {
     const auto file = AskDocumentFile(game, request.printer);
     if (!file) return;
+    if (NameOneFile(request.collection, *file))
+        return ShowPrintError(game, "The booklet must not replace its own puzzles");
     BookletEnd end;
     {
         const BusyPointer busy(game);
@@ -181,6 +185,10 @@ bool Booklet_Accept(Game& game, BookletRequest& request) {
     return true;
 }
 
+std::string ChangedText(const std::string& collection) {
+    return "Another program has changed the puzzles meanwhile: " + collection;
+}
+
 std::string WhyNoBooklet(const BookletRequest& request) {
     if (request.puzzleCount == 0) return NoPuzzlesText(request.collection);
     const PuzzleRange range = RangeOf(request);
@@ -202,8 +210,9 @@ PuzzleRange RangeOf(const BookletRequest& request) {
 DocumentSetup BookletSetup(const BookletDesign& design, const std::vector<BookletEntry>& entries,
                            const std::string& collection) {
     DocumentSetup setup;
-    setup.title = design.title.empty() ? FileNameOf(collection) : design.title;
-    setup.author = design.author;
+    const BookletDesign tidied = Tidied(design);
+    setup.title = tidied.title.empty() ? FileNameOf(collection) : tidied.title;
+    setup.author = tidied.author;
     setup.subject = "Bridges: " + ContentsText(entries);
     setup.keywords = "bridges, puzzles";
     return setup;

@@ -29,6 +29,8 @@ bool Booklet_Accept(Game& game, BookletRequest& request);
 /// Why no booklet can be made of the puzzles that are asked for, in words for the player; "" when nothing is known
 /// against it.
 std::string WhyNoBooklet(const BookletRequest& request);
+/// What is said when a page could not be drawn as it was laid out.
+std::string ChangedText(const std::string& collection);
 /// Why the booklet that came of them has no pages; "" when it has some.
 std::string WhyNoPages(const Booklet& booklet);
 

@@ -13,6 +13,7 @@
 #include <thread>
 
 #include "model/file_error.h"
+#include "model/paths.h"
 
 namespace tidewalk {
 
@@ -107,7 +108,7 @@ bool AreOneFile(const std::string& input, const std::string& output) {
     const fs::path from = input == kStandard ? "/dev/stdin" : input;
     const fs::path to = output == kStandard ? "/dev/stdout" : output;
     // A terminal is no file that could be lost.
-    return fs::is_regular_file(to, ignored) && fs::equivalent(from, to, ignored);
+    return fs::is_regular_file(to, ignored) && NameOneFile(from.string(), to.string());
 }
 
 InputDescriptor::InputDescriptor(int descriptor, const std::atomic<int>& stopSignal)

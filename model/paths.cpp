@@ -33,4 +33,9 @@ void AddExtension(std::string& path, std::string_view extension) {
     path += extension;
 }
 
+bool NameOneFile(const std::string& one, const std::string& other) {
+    std::error_code ignored;
+    return std::filesystem::equivalent(one, other, ignored);
+}
+
 }  // namespace tidewalk

@@ -20,4 +20,7 @@ std::uint64_t FileLength(const std::string& path);
 /// Appends "." and the extension to a path whose file name holds no ".".
 void AddExtension(std::string& path, std::string_view extension);
 
+/// True when both names lead to one file, which is there.
+bool NameOneFile(const std::string& one, const std::string& other);
+
 }  // namespace tidewalk

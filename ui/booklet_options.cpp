@@ -38,10 +38,11 @@ auto Without(bool Design::*place) {
 }
 
 bool TakePerPage(const QString& text, BookletWish& wish) {
-    const bool fit = text == "fit";
+    const bool fit = text.toLower() == "fit";
     const int count = text.toInt();
-    if (!fit && (count < 1 || std::find(std::begin(Design::kPerPage), std::end(Design::kPerPage), count) ==
-                                  std::end(Design::kPerPage))) {
+    if (!fit &&
+        (count < 1 || text != QString::number(count) ||
+         std::find(std::begin(Design::kPerPage), std::end(Design::kPerPage), count) == std::end(Design::kPerPage))) {
         return false;
     }
     wish.design.perPage = fit ? Design::kAsManyAsFit : count;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "ui/finish_pdf.h"
 
+#include <QRegularExpression>
 #include <QXmlStreamWriter>
 #include <qpdf/Pipeline.hh>
 #include <qpdf/Pl_Flate.hh>
@@ -115,6 +116,30 @@ void SetProperties(QPDF& document, const PdfProperties& properties) {
     root.replaceKey("/ViewerPreferences", preferences);
 }
 
+/// Qt takes the glyph of the blank for that of the tab, which fonts draw with the same one: what is copied out of the
+/// document, or looked for in it, would have tabs between its words.
+void NameBlanks(QPDF& document) {
+    static const QRegularExpression kList(R"(\[[^\]]*\]|<\w{4}>\s*<\w{4}>\s*<0009>)");
+    for (QPDFObjectHandle object : document.getAllObjects()) {
+        if (!object.isDictionary() || !object.getKey("/ToUnicode").isStream()) continue;
+        QPDFObjectHandle table = object.getKey("/ToUnicode");
+        const auto data = table.getStreamData();
+        const QString text = QString::fromLatin1(reinterpret_cast<const char*>(data->getBuffer()),
+                                                 static_cast<qsizetype>(data->getSize()));
+        QString named;
+        qsizetype from = 0;
+        for (const QRegularExpressionMatch& match : kList.globalMatch(text)) {
+            QString values = match.captured();
+            const qsizetype last = values.startsWith('[') ? 0 : values.lastIndexOf('<');
+            values = values.left(last) + values.mid(last).replace("<0009>", "<0020>");
+            named += text.mid(from, match.capturedStart() - from) + values;
+            from = match.capturedEnd();
+        }
+        named += text.mid(from);
+        table.replaceStreamData(named.toStdString(), QPDFObjectHandle::newNull(), QPDFObjectHandle::newNull());
+    }
+}
+
 }  // namespace
 
 QString FinishPdf(QByteArrayView raw, const PdfProperties& properties, QIODevice& out) {
@@ -125,6 +150,7 @@ QString FinishPdf(QByteArrayView raw, const PdfProperties& properties, QIODevice
         document.setAttemptRecovery(false);
         document.processMemoryFile("document", raw.data(), static_cast<std::size_t>(raw.size()));
         SetProperties(document, properties);
+        NameBlanks(document);
         DevicePipeline pipeline(out);
         Pl_Flate::setCompressionLevel(kSmallest);
         QPDFWriter writer(document);

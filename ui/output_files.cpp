@@ -9,6 +9,7 @@
 #include "model/collection_file.h"
 #include "model/file_error.h"
 #include "model/line_reader.h"
+#include "model/paths.h"
 #include "model/puzzle_range.h"
 #include "options/options.h"
 #include "ui/file_name.h"
@@ -74,10 +75,14 @@ QString WriteBooklet(const OutputOrder& order) {
     const Booklet booklet(design, contents->entries, document->PageSheet());
     if (!booklet.Misfit().empty()) return QString::fromStdString(booklet.Misfit());
     LineIndex lines;
+    bool changed = false;
     const auto draw = [&](int number, Surface& page, const Sheet&) {
-        booklet.DrawPage(number, page, [&](int puzzle) { return ReadSolvedPuzzle(lines, path, puzzle); });
+        changed = !booklet.DrawPage(number, page, [&](int puzzle) { return ReadSolvedPuzzle(lines, path, puzzle); });
     };
-    if (PrintPages(*document, static_cast<int>(booklet.Pages().size()), draw, WithoutEnd) != PrintEnd::Printed)
+    const auto mayGoOn = [&] { return !changed; };
+    const PrintEnd end = PrintPages(*document, static_cast<int>(booklet.Pages().size()), draw, mayGoOn);
+    if (changed) return QString::fromStdString(ChangedText(path));
+    if (end != PrintEnd::Printed)
         return QString("The booklet could not be written: %1").arg(QString::fromStdString(document->Error()));
     QStringList remarks;
     for (const std::string& remark : RemarksOn(*contents, design))
@@ -109,6 +114,8 @@ bool ReadPuzzleRange(const QString& argument, OutputOrder& order) {
 }
 
 QString WriteOutput(const OutputOrder& order) {
+    if (NameOneFile(FileNameBytes(order.collection), FileNameBytes(order.file)))
+        return QString("The file must not replace its own puzzles: %1").arg(order.collection);
     const int count = CountPuzzles(order.collection, order.to);
     if (count == 0) return QString("No puzzles in this file: %1").arg(order.collection);
     if (order.kind == OutputOrder::Kind::Picture) return WritePictureFile(order);

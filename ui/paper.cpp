@@ -51,11 +51,12 @@ class PdfDocument final : public PrintDocument {
     bool NewPage() override {
         surface_.Flush();
         if (raw_.error() == QFileDevice::NoError && writer_->newPage()) return true;
-        return Fail(raw_.errorString());
+        return Fail(FlushFile(raw_));
     }
     bool End() override {
         surface_.SetTarget(nullptr);
-        const uchar* const written = raw_.flush() ? raw_.map(0, raw_.size()) : nullptr;
+        if (const QString why = FlushFile(raw_); !why.isEmpty()) return Fail(why);
+        const uchar* const written = raw_.map(0, raw_.size());
         if (written == nullptr) return Fail(raw_.errorString());
         QString reason = FinishPdf(QByteArrayView(written, raw_.size()), PropertiesOf(setup_), file_);
         if (reason.isEmpty()) reason = CommitFile(file_);

@@ -8,10 +8,7 @@
 
 namespace tidewalk {
 
-namespace {
-
-
-}  // namespace
+namespace {}  // namespace
 
 QColor ToQColor(Colour colour) {
     return {RedOf(colour), GreenOf(colour), BlueOf(colour)};

@@ -10,14 +10,17 @@ QString WhyNotReplaceable(const QString& path) {
     return !info.exists() || info.isFile() ? QString() : QString("This is no ordinary file");
 }
 
-QString CommitFile(QSaveFile& file) {
-    // Committing would write what is buffered without a look at what becomes of it. Where a write ends half way, the
-    // system has its reason ready for the next one only.
+QString FlushFile(QFileDevice& file) {
+    // Where a write ends half way, the system has its reason ready for the next one only.
     if (!file.flush()) file.flush();
-    const QString reason = file.errorString();
-    if (file.error() == QFileDevice::NoError && file.commit()) return "";
-    // Closing the file may have forgotten why an earlier write failed.
-    return file.error() == QFileDevice::NoError ? reason : file.errorString();
+    return file.error() == QFileDevice::NoError ? "" : file.errorString();
+}
+
+QString CommitFile(QSaveFile& file) {
+    // Committing would write what is buffered without a look at what becomes of it.
+    QString reason = FlushFile(file);
+    if (!reason.isEmpty() || file.commit()) return reason;
+    return file.errorString();
 }
 
 QString WriteFile(const QString& path, const QByteArray& bytes) {

@@ -12,6 +12,9 @@ namespace tidewalk {
 /// pipe or a device is not replaced: a file renamed over it would take its place for every other program.
 QString WhyNotReplaceable(const QString& path);
 
+/// What is buffered of the file goes to the disk. "" when that is done; else the system's reason, for the player.
+QString FlushFile(QFileDevice& file);
+
 /// Puts a file that was written in its place, if all of it could be. "" when that is done; else the system's reason,
 /// for the player, and what is there stays as it was.
 QString CommitFile(QSaveFile& file);

@@ -30,10 +30,17 @@ Sheet SheetOf(double width, double height) {
 const Sheet kA4 = SheetOf(11906, 16838);
 const Sheet kA5Landscape = SheetOf(11906, 8391);
 
+Puzzle FullBoard(BoardSize size) {
+    Puzzle puzzle(size);
+    for (CellNumber id = 1; id <= puzzle.CellCount(); ++id)
+        puzzle.SetIsland(id, 1);
+    return puzzle;
+}
+
 std::vector<BookletEntry> Entries(const std::vector<BoardSize>& sizes) {
     std::vector<BookletEntry> entries;
     for (const BoardSize& size : sizes)
-        entries.push_back({static_cast<int>(entries.size()) + 1, size, 3, true});
+        entries.push_back({static_cast<int>(entries.size()) + 1, size, 3, true, Fingerprint(FullBoard(size))});
     return entries;
 }
 
@@ -41,11 +48,7 @@ std::vector<BookletEntry> Entries(const std::vector<BoardSize>& sizes) {
 PuzzleSource Full(const Booklet& booklet) {
     return [&booklet](int number) -> std::optional<Puzzle> {
         for (const BookletEntry& entry : booklet.Entries()) {
-            if (entry.number != number) continue;
-            Puzzle puzzle(entry.size);
-            for (CellNumber id = 1; id <= puzzle.CellCount(); ++id)
-                puzzle.SetIsland(id, 1);
-            return puzzle;
+            if (entry.number == number) return FullBoard(entry.size);
         }
         return std::nullopt;
     };
@@ -182,9 +185,11 @@ TEST(Booklet, BoardsHaveTheirStrokesInTheMiddleAndTheIslandsAskedFor) {
     design.solutions = Solutions::Beneath;
     design.shape = IslandShape::Square;
     const Puzzle puzzle = PuzzleFrom({"2=3-1"});
-    const Booklet booklet(design, Entries({puzzle.Size()}), kA4);
+    std::vector<BookletEntry> entries = Entries({puzzle.Size()});
+    entries.front().islands = Fingerprint(puzzle);
+    const Booklet booklet(design, entries, kA4);
     RecordingSurface surface;
-    booklet.DrawPage(0, surface, [&](int) { return puzzle; });
+    EXPECT_TRUE(booklet.DrawPage(0, surface, [&](int) { return puzzle; }));
     EXPECT_EQ(surface.Count("circle"), 0);
     EXPECT_EQ(surface.Count("box"), 6);
     const auto lines = surface.Calls("line");
@@ -198,8 +203,8 @@ TEST(Booklet, BoardsHaveTheirStrokesInTheMiddleAndTheIslandsAskedFor) {
     };
     EXPECT_DOUBLE_EQ(heightOf(lines[1]) + heightOf(lines[2]), 2 * heightOf(lines[0]));
     RecordingSurface changed;
-    booklet.DrawPage(0, changed, [](int) { return PuzzleFrom({"1-1", "..."}); });
-    EXPECT_EQ(changed.Count("box"), 0) << "of another size by now";
+    EXPECT_FALSE(booklet.DrawPage(0, changed, [](int) { return PuzzleFrom({"1-3=2"}); }));
+    EXPECT_EQ(changed.Count("box"), 0) << "another one by now";
 }
 
 /// Notes how far a drawing reaches.

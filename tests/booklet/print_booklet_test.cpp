@@ -110,7 +110,7 @@ TEST_F(PrintingBooklets, WhatCannotBePrintedIsToldAndNothingBegins) {
 TEST_F(PrintingBooklets, WhatTheWindowKnowsIsNotReadAgain) {
     for (const bool graded : {false, true}) {
         const auto known = std::make_shared<KnownPuzzles>();
-        known->contents.entries = {{1, {7, 7}, {}, true}};
+        known->contents.entries = {{1, {7, 7}, {}, true, Fingerprint(*ParsePuzzleRecord(kSmallPuzzle))}};
         known->graded = graded;
         game.world.Expect("Printed " + std::string(graded ? "1 puzzle" : "2 puzzles") + " on 1 page on:\r\nOffice",
                           kInformation);
@@ -120,6 +120,23 @@ TEST_F(PrintingBooklets, WhatTheWindowKnowsIsNotReadAgain) {
             return Accept(request);
         });
     }
+}
+
+TEST_F(PrintingBooklets, ACollectionThatIsAnotherByNowIsNotPrintedForTheOneThatWasSeen) {
+    const auto known = std::make_shared<KnownPuzzles>();
+    known->contents.entries = {{1, {7, 7}, {}, true, 12345}};
+    known->graded = true;
+    game.world.Expect("Printing failed:\r\nAnother program has changed the puzzles meanwhile: " + book, "system ok");
+    Print({kSmallPuzzle}, [&](BookletRequest& request) {
+        request.known = known;
+        return Accept(request);
+    });
+    game.printerName = "PDF file";
+    game.world.ExpectPick("Print to a PDF file|*.pdf|PDF Files|save", "link.pdf");
+    std::filesystem::create_symlink(book, "link.pdf");
+    game.world.Expect("OverWrite file: link.pdf ?", "system yesno", kYes);
+    game.world.Expect("Printing failed:\r\nThe booklet must not replace its own puzzles", "system ok");
+    Print({kSmallPuzzle}, [&](BookletRequest& request) { return Accept(request); });
 }
 
 TEST_F(PrintingBooklets, AFailingPrinterSaysWhy) {
