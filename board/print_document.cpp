@@ -35,10 +35,10 @@ std::string AskFileName(Game& game, const FileRequest& request) {
     return ConfirmOverwrite(game, path) ? path : "";
 }
 
-std::optional<std::string> AskDocumentFile(Game& game, const std::string& printer) {
+std::optional<std::string> AskDocumentFile(Game& game, const std::string& printer, const std::string& name) {
     if (printer != kPdfPrinter) return "";
     const std::string file = AskFileName(
-        game, {"Print to a PDF file", "*.pdf", "PDF Files", game.AppFolder, FileRequest::Mode::Save, "pdf"});
+        game, {"Print to a PDF file", "*.pdf", "PDF Files", game.AppFolder, FileRequest::Mode::Save, "pdf", name});
     return file.empty() ? std::nullopt : std::optional(file);
 }
 

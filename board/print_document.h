@@ -18,7 +18,7 @@ std::string AskFileName(Game& game, const FileRequest& request);
 
 /// The file for a document on this printer: "" for one that prints on paper, else what the player says. Nothing when
 /// the player thinks better of it.
-std::optional<std::string> AskDocumentFile(Game& game, const std::string& printer);
+std::optional<std::string> AskDocumentFile(Game& game, const std::string& printer, const std::string& name = "");
 
 void ShowPrintError(Game& game, const std::string& reason);
 

@@ -165,20 +165,33 @@ int SmallestFitting(const Manner& manner, const std::vector<BookletEntry>& entri
     return cell;
 }
 
+/// How many of the boards fit, and the smallest of their cells.
+std::pair<std::size_t, int> Fitting(const Manner& manner, const std::vector<BookletEntry>& entries, const Slots& slots,
+                                    const Surface::Area& body) {
+    std::pair<std::size_t, int> fitting{0, kLargestCell};
+    for (const BookletEntry& entry : entries) {
+        const int cell = FittingCell(manner, entry.size, slots, body);
+        if (cell < manner.smallestCell) continue;
+        ++fitting.first;
+        fitting.second = std::min(fitting.second, cell);
+    }
+    return fitting;
+}
+
 /// The slots that leave the booklet's boards most room. Long rows of boards look poor and have to gain a quarter,
-/// unless the boards cannot be read otherwise.
+/// unless more of the boards can be read so.
 Slots BestSlots(const Manner& manner, const std::vector<BookletEntry>& entries, int perPage,
                 const Surface::Area& body) {
     constexpr double kGain = 1.25;
     constexpr int kCompact = 2;  ///< times as many one way as the other, at most
     Slots best;
-    std::pair<bool, double> most{false, -1};
+    std::pair<std::size_t, double> most{0, 0};
     for (int across = 1; across <= perPage; ++across) {
         if (perPage % across != 0) continue;
         const Slots slots{across, perPage / across};
         const bool compact = std::max(slots.across, slots.down) <= kCompact * std::min(slots.across, slots.down);
-        const int cell = SmallestFitting(manner, entries, slots, body);
-        const std::pair<bool, double> worth{cell >= manner.smallestCell, compact ? cell * kGain : cell};
+        const auto [count, cell] = Fitting(manner, entries, slots, body);
+        const std::pair<std::size_t, double> worth{count, compact ? cell * kGain : cell};
         if (worth <= most) continue;
         best = slots;
         most = worth;

@@ -116,11 +116,20 @@ void ShowEnd(Game& game, const BookletEnd& end) {
     if (end.end == PrintEnd::Failed) ShowPrintError(game, end.text);
 }
 
-void PrintBooklet(Game& game, const BookletRequest& request) {
-    const auto file = AskDocumentFile(game, request.printer);
-    if (!file) return;
-    if (NameOneFile(request.collection, *file))
-        return ShowPrintError(game, "The booklet must not replace its own puzzles");
+/// "puzzles.pdf" for a collection of that name.
+std::string DocumentName(const std::string& collection) {
+    const std::string name = FileNameOf(collection);
+    return name.substr(0, name.rfind('.')) + ".pdf";
+}
+
+/// False when nothing was printed and the player may want to ask for something else.
+bool PrintBooklet(Game& game, const BookletRequest& request) {
+    const auto file = AskDocumentFile(game, request.printer, DocumentName(request.collection));
+    if (!file) return false;
+    if (NameOneFile(request.collection, *file)) {
+        ShowPrintError(game, "The booklet must not replace its own puzzles");
+        return false;
+    }
     BookletEnd end;
     {
         const BusyPointer busy(game);
@@ -129,6 +138,7 @@ void PrintBooklet(Game& game, const BookletRequest& request) {
     }
     game.job.TakeBackCancel();
     if (!game.job.Ending()) ShowEnd(game, end);
+    return end.end != PrintEnd::Failed;
 }
 
 std::string NoPuzzlesText(const std::string& path) {
@@ -141,8 +151,11 @@ void mnuprintbooklet_Click(Game& game) {
     if (RefuseWhileBusy(game)) return;
     BookletRequest request;
     request.collection = game.collection.CollectionPath;
-    if (!game.questions.AskBooklet(request) || game.job.BusyFlag() || game.job.Ending()) return;
-    PrintBooklet(game, request);
+    // Where nothing comes of it, the window is there again with all that was typed.
+    while (game.questions.AskBooklet(request) && !game.job.BusyFlag() && !game.job.Ending()) {
+        if (PrintBooklet(game, request) || game.job.Ending()) return;
+        request.known.reset();
+    }
 }
 
 void Booklet_Activate(Game& game, BookletRequest& request) {
@@ -151,7 +164,7 @@ void Booklet_Activate(Game& game, BookletRequest& request) {
     request.format.paper = game.printers.UsualPaper();
     request.design.lineWidth = game.options.PrintLineWidth;
     ReadBookletChoices(game.choices, request);
-    Booklet_TakeFile(game, request);
+    if (request.last.empty()) Booklet_TakeFile(game, request);
 }
 
 void Booklet_Browse(Game& game, BookletRequest& request) {
@@ -166,7 +179,7 @@ void Booklet_Browse(Game& game, BookletRequest& request) {
 void Booklet_TakeFile(Game& game, BookletRequest& request) {
     request.puzzleCount = CountPuzzles(game, request.collection);
     request.first = "1";
-    request.last = NumText(request.puzzleCount);
+    request.last = NumText(std::min(request.puzzleCount, kMostBookletPuzzles));
 }
 
 bool Booklet_Accept(Game& game, BookletRequest& request) {

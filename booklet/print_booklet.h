@@ -19,7 +19,7 @@ void Booklet_Activate(Game& game, BookletRequest& request);
 /// Its file picker: takes the chosen file, and says so when there are no puzzles in it.
 void Booklet_Browse(Game& game, BookletRequest& request);
 
-/// A file was chosen or typed: counts its puzzles and suggests all of them.
+/// A file was chosen or typed: counts its puzzles and suggests all of them, or as many as a booklet holds.
 void Booklet_TakeFile(Game& game, BookletRequest& request);
 
 /// Print: checks what was typed and remembers what was chosen. True when the window is to close; else the player was

@@ -15,6 +15,7 @@
 #include "ui/controls.h"
 #include "ui/file_name.h"
 #include "ui/fit_on_screen.h"
+#include "ui/tool_tip.h"
 
 namespace tidewalk {
 
@@ -92,6 +93,7 @@ BookletForm::BookletForm(Handlers& handlers, BookletRequest& request, QWidget* p
                             {tr("Beneath each puzzle"), static_cast<int>(Design::Solutions::Beneath)},
                             {tr("At the end, small"), static_cast<int>(Design::Solutions::AtEnd)}})),
       printer_(AddChoice("BookletPrinter", tr("Printer"), {})) {
+    GiveToolTip(*numbers_, tr("Number|Solutions at the end are found by it"));
     setObjectName("Booklet");
     setWindowTitle(tr("Print Booklet"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -112,12 +114,12 @@ BookletForm::BookletForm(Handlers& handlers, BookletRequest& request, QWidget* p
     Show();
     Connect();
     Follow();
-    first_->setFocus();
-    first_->selectAll();
     const QSize usual(sizeHint().width() - preview_->sizeHint().width() + kPreviewWidth,
                       std::max(kHeight, sizeHint().height()));
     resize(usual.boundedTo(screen()->availableSize() * kScreenShare / 100));
     FitOnScreen(*this);
+    first_->setFocus();
+    first_->selectAll();
 }
 
 QLineEdit* BookletForm::AddText(const char* name, const QString& accessible) {
@@ -159,7 +161,7 @@ void BookletForm::AddPuzzles(QGridLayout& grid) {
 }
 
 void BookletForm::AddPages(QGridLayout& grid) {
-    grid.addWidget(LabelFor(tr("On &each"), perPage_), 0, 0);
+    grid.addWidget(LabelFor(tr("P&er page"), perPage_), 0, 0);
     grid.addWidget(perPage_, 0, 1, 1, 3);
     grid.addWidget(LabelFor(tr("P&aper"), paper_), 1, 0);
     grid.addWidget(paper_, 1, 1);
@@ -207,7 +209,10 @@ void BookletForm::AddButtons(QVBoxLayout& column) {
 void BookletForm::Connect() {
     connect(&handlers_, &Handlers::Ending, this, &QDialog::reject);
     connect(&reader_, &BookletReader::Advanced, this, &BookletForm::ShowProgress);
-    connect(&reader_, &BookletReader::Found, this, &BookletForm::LayOut);
+    connect(&reader_, &BookletReader::Found, this, [this] {
+        preview_->ForgetPuzzles();
+        LayOut();
+    });
     // Names that are half typed are no files.
     connect(file_, &QLineEdit::editingFinished, this, &BookletForm::TakeFile);
     for (QLineEdit* const text : {first_, last_, title_, author_})
@@ -287,6 +292,7 @@ void BookletForm::Browse() {
 void BookletForm::Follow() {
     if (showing_) return;
     Take();
+    numbers_->setEnabled(request_.design.solutions != Design::Solutions::AtEnd);
     // Some printers take their time to answer.
     if (const auto wanted = std::pair(request_.printer, request_.format); sheetOf_ != wanted) {
         handlers_.Run([this](Game& game) { sheet_ = game.printers.SheetOf(request_.printer, request_.format); });
@@ -303,7 +309,10 @@ void BookletForm::LayOut() {
     if (!reason.empty()) return preview_->ShowMessage(TextOf(reason));
     const auto known = reader_.Known();
     // The pages from before stay until others can be shown.
-    if (known == nullptr) return;
+    if (known == nullptr) {
+        if (!preview_->HasPages()) preview_->ShowMessage(tr("Reading the puzzles ..."));
+        return;
+    }
     Booklet booklet = MakeBooklet(request_, known->contents, sheet_);
     reason = WhyNoPages(booklet);
     if (!reason.empty()) return preview_->ShowMessage(TextOf(reason));

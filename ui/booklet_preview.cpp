@@ -30,6 +30,7 @@ BookletPreview::BookletPreview()
       progress_(new QLabel) {
     sheet_->setObjectName("BookletPage");
     area_->setObjectName("BookletPageArea");
+    area_->setAccessibleName(tr("Page"));
     area_->setWidget(sheet_);
     area_->setWidgetResizable(true);
     area_->setAlignment(Qt::AlignCenter);

@@ -28,6 +28,9 @@ class BookletPreview final : public QWidget {
     /// Shows the same page of this booklet, or its last one.
     void ShowBooklet(const std::string& collection, Booklet booklet, const Sheet& sheet);
     void ShowMessage(const QString& message);
+    bool HasPages() const { return booklet_.has_value(); }
+    /// The puzzles may have become others.
+    void ForgetPuzzles() { read_.clear(); }
     /// What is still to come; "" for nothing.
     void ShowProgress(const QString& text);
 

@@ -139,6 +139,12 @@ TEST(Booklet, SaysWhichPuzzleWouldBeTooSmallToRead) {
     const Booklet nine(design, Entries({{7, 7}, {25, 25}}), kA4);
     EXPECT_EQ(nine.Misfit(), "Puzzle 2 of 25x25 does not fit on the page beside 8 others at a size that can be read.");
     EXPECT_TRUE(nine.Pages().empty());
+    design.perPage = 6;
+    design.solutions = Solutions::Beneath;
+    EXPECT_EQ(Booklet(design, Entries({{7, 7}, {25, 25}, {7, 7}}), SheetOf(8391, 11906)).Misfit().substr(0, 30),
+              "Puzzle 2 of 25x25 does not fit")
+        << "but the small ones do";
+    design.solutions = Solutions::AtEnd;
     design.perPage = 1;
     design.solutions = Solutions::Beneath;
     const Booklet beneath(design, Entries({{25, 25}, {7, 7}, {24, 7}, {25, 9}}), kA5Landscape);

@@ -147,7 +147,8 @@ TEST_F(PrintingBooklets, AFailingPrinterSaysWhy) {
         game.world.beginError.clear();
         game.world.failAtPage = 2;
     }
-    EXPECT_NE(game.world.Seen().find("not busy, status: , box"), std::string::npos);
+    const std::string seen = game.world.Seen();
+    EXPECT_NE(seen.find("not busy, status: , box, booklet?"), std::string::npos) << seen;
 }
 
 TEST_F(PrintingBooklets, TheChoicesComeBackButForTheTitleAndWhatIsNoChoice) {

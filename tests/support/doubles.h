@@ -78,7 +78,9 @@ class World final : public Prompts,
     bool AskPrint(PrintRequest& request) override { return Note("print?"), std::exchange(print, nullptr)(request); }
 
     bool AskBooklet(BookletRequest& request) override {
-        return Note("booklet?"), std::exchange(booklet, nullptr)(request);
+        Note("booklet?");
+        const auto answer = std::exchange(booklet, nullptr);
+        return answer && answer(request);
     }
 
     std::string Text(WindowText which) const override { return texts.count(which) == 0 ? "" : texts.at(which); }
@@ -149,9 +151,10 @@ class World final : public Prompts,
     const Game* game = nullptr;  ///< the game that this is the world of
     void Note(const std::string& entry) { log_.push_back(entry); }
 
-    std::function<bool(BatchRequest&)> batch;      ///< answers the next question for a batch
-    std::function<bool(PrintRequest&)> print;      ///< answers the next question for puzzles to print
-    std::function<bool(BookletRequest&)> booklet;  ///< answers the next question for a booklet
+    std::function<bool(BatchRequest&)> batch;  ///< answers the next question for a batch
+    std::function<bool(PrintRequest&)> print;  ///< answers the next question for puzzles to print
+    std::function<bool(BookletRequest&)>
+        booklet;  ///< answers the next question for a booklet; to further ones the player says no
 
     FoundSolutions solutions;  ///< that were shown last
 
