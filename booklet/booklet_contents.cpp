@@ -48,7 +48,7 @@ std::string SizesText(const std::vector<BookletEntry>& entries) {
     };
     const auto [least, most] = std::minmax_element(entries.begin(), entries.end(), smaller);
     if (least == entries.end()) return "";
-    const std::string from = SizeText(least->size);
+    std::string from = SizeText(least->size);
     const std::string to = SizeText(most->size);
     if (from == to) return from;
     return from + (smaller(*least, *most) ? " to " : " and ") + to;
