@@ -136,9 +136,10 @@ struct Slots {
     int down = 1;
 };
 
-/// Between boards side by side or one above the other, which have no frames.
+/// Between boards side by side or one above the other, which have no frames: a little more where there is room.
 double Apart(int cell) {
-    return std::max<double>(kBoardsApart, kCellsApart * cell);
+    const int cells = cell < kPencilCell ? kCellsApart : kMostCellsApart;
+    return std::max<double>(kBoardsApart, cells * cell);
 }
 
 /// The largest cell with which as many boards of this size as there are slots fit into the body; 0 when none does.
