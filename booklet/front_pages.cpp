@@ -81,12 +81,13 @@ void DrawEmblem(const Cover& cover, Surface& surface, const Surface::Area& room)
     DrawBoardAt(emblem, surface, cell, Middle(room), top, cover.shape, false);
 }
 
-/// The page of the rules in letters of one size. Drawn on a surface without a target it is only measured.
+/// The page of the rules in letters of one size.
 class RulesPage {
  public:
     RulesPage(Surface& surface, const Surface::Area& body, IslandShape shape, double points)
         : surface_(surface), body_(body), shape_(shape), points_(points), y_(body.top) {}
 
+    /// Draws the page, or only finds out how far down it reaches.
     void Lay(bool draws) {
         draws_ = draws;
         Heading("The rules");

@@ -317,8 +317,9 @@ std::vector<BookletPage> LayOutSolutions(const std::vector<BookletEntry>& entrie
     const Manner manner{true, false, SolutionCaptionHeight(), kSolutionCaptionWidth, kSmallestSolutionCell};
     FindMisfits(manner, entries, {}, body, misfits);
     auto smallest = Fill(manner, entries, kSmallestSolutionCell, body);
+    const int largest = SmallestFitting(manner, entries, {}, body);
     for (const int cell : kLargerCells) {
-        if (cell > SmallestFitting(manner, entries, {}, body)) continue;
+        if (cell > largest) continue;
         auto pages = Fill(manner, entries, cell, body);
         if (pages.size() == smallest.size()) return pages;
     }

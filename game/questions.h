@@ -61,13 +61,7 @@ struct KnownPuzzles {
 };
 
 /// Puzzles of a collection to make a booklet of, and what it is to be.
-struct BookletRequest {
-    std::string collection;
-    std::string first;  ///< the first puzzle, as typed
-    std::string last;
-    int puzzleCount = 0;                ///< in the collection, as last counted
-    std::vector<std::string> printers;  ///< to choose from
-    std::string printer;                ///< the chosen one
+struct BookletRequest : PrintRequest {
     SheetFormat format;
     BookletDesign design;
     /// What the window has found out about just these puzzles, so that nobody has to do so again. Nothing at first.
